@@ -1,0 +1,92 @@
+// The part of defining a class that does not depend on the C++ type.
+#include "objc/class_builder.hpp"
+
+#include <bit>
+
+namespace objc {
+namespace {
+
+// Every class of ours answers this class message: that is how an ancestor is told to be ours.
+constexpr auto kMarker = "isDefinedInCPlusPlus"_sel;
+
+bool answerYes() { return true; }
+
+bool isOurs(Class cls) { return class_respondsToSelector(object_getClass(asObject(cls)), kMarker); }
+
+uint8_t log2(size_t alignment) { return static_cast<uint8_t>(std::countr_zero(alignment)); }
+
+}  // namespace
+
+ClassDefinition::ClassDefinition(const char *name, const char *superclass) {
+    const Class parent = findClass(superclass);
+    if (!parent) {
+        return;
+    }
+    class_ = objc_allocateClassPair(parent, name, 0);
+    end_ = class_getInstanceSize(parent);
+    addClassMethod(kMarker, reinterpret_cast<IMP>(&FunctionBinding<answerYes>::invoke),
+                   FunctionBinding<answerYes>::encoding);
+}
+
+ClassDefinition::~ClassDefinition() {
+    if (class_) {
+        objc_disposeClassPair(class_);
+    }
+}
+
+void ClassDefinition::coverUpTo(size_t offset) {
+    if (offset <= end_ || !class_) {
+        return;
+    }
+    // One name a gap, since a class may not have two instance variables of one name.
+    const char name[] = {'_', 'z', 'q', 'G', 'a', 'p', static_cast<char>('a' + paddings_++), '\0'};
+    const size_t size = offset - end_;
+    sound_ = class_addIvar(class_, name, size, 0, "?") && sound_;
+    end_ = offset;
+}
+
+void ClassDefinition::addIvar(const char *name, size_t offset, size_t size, size_t alignment,
+                              const char *encoding) {
+    if (!class_) {
+        return;
+    }
+    if (offset >= end_ + alignment) {
+        coverUpTo(offset);
+    }
+    // The runtime puts the variable at the next aligned byte; that has to be where C++ has it.
+    const size_t placed = (end_ + alignment - 1) & ~(alignment - 1);
+    sound_ =
+        class_addIvar(class_, name, size, log2(alignment), encoding) && placed == offset && sound_;
+    end_ = offset + size;
+}
+
+void ClassDefinition::addMethod(SEL selector, IMP implementation, const char *encoding) {
+    if (class_) {
+        class_addMethod(class_, selector, implementation, encoding);
+    }
+}
+
+void ClassDefinition::addClassMethod(SEL selector, IMP implementation, const char *encoding) {
+    if (class_) {
+        class_addMethod(object_getClass(asObject(class_)), selector, implementation, encoding);
+    }
+}
+
+Class ClassDefinition::foreignAncestor() const {
+    Class ancestor = class_ ? class_getSuperclass(class_) : nullptr;
+    while (ancestor && isOurs(ancestor)) {
+        ancestor = class_getSuperclass(ancestor);
+    }
+    return ancestor;
+}
+
+Class ClassDefinition::finish(size_t memory) {
+    coverUpTo(memory);
+    if (!class_ || !sound_) {
+        return nullptr;
+    }
+    objc_registerClassPair(class_);
+    return std::exchange(class_, nullptr);
+}
+
+}  // namespace objc

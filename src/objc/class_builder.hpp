@@ -1,0 +1,213 @@
+// Defining an Objective-C class in C++, read as one chain:
+//
+//     ClassBuilder<Badge>("Badge", "UIView")
+//         .ivar<&Badge::_count>("_count")
+//         .method("count"_sel, member<&Badge::count>)
+//         .classMethod("sharedBadge"_sel, function<&Badge::sharedBadge>)
+//         .finish();
+//
+// Type encodings come from the C++ signatures. An implementation carries no closure, so what it
+// calls is a template argument.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+#include "objc/encoding.hpp"
+#include "objc/handle.hpp"
+#include "objc/instance.hpp"
+
+namespace objc {
+
+/// Calls `callable` and makes what it answers fit the message.
+template <class R, class Callable>
+WireType<R> answer(Callable callable) {
+    if constexpr (std::is_void_v<R>) {
+        callable();
+    } else {
+        return Wire<R>::to(callable());
+    }
+}
+
+/// An implementation with the facts that registering it needs.
+template <class R, class... Args>
+struct MethodFacts {
+    static constexpr auto arity = sizeof...(Args);
+    static constexpr const char *encoding = kMethodEncoding<R, Args...>.chars;
+};
+
+template <auto callable>
+struct MemberBinding;
+
+template <class T, class R, class... Args, R (T::*callable)(Args...)>
+struct MemberBinding<callable> : MethodFacts<R, Args...> {
+    static WireType<R> invoke(id self, SEL, WireType<Args>... args) {
+        return answer<R>([&]() -> R {
+            return (reinterpret_cast<T *>(self)->*callable)(Wire<Args>::from(args)...);
+        });
+    }
+};
+
+template <class T, class R, class... Args, R (T::*callable)(Args...) const>
+struct MemberBinding<callable> : MethodFacts<R, Args...> {
+    static WireType<R> invoke(id self, SEL, WireType<Args>... args) {
+        return answer<R>([&]() -> R {
+            return (reinterpret_cast<const T *>(self)->*callable)(Wire<Args>::from(args)...);
+        });
+    }
+};
+
+template <auto callable>
+struct FunctionBinding;
+
+template <class R, class... Args, R (*callable)(Args...)>
+struct FunctionBinding<callable> : MethodFacts<R, Args...> {
+    static WireType<R> invoke(id, SEL, WireType<Args>... args) {
+        return answer<R>([&]() -> R { return callable(Wire<Args>::from(args)...); });
+    }
+};
+
+template <auto callable>
+struct ReceivingBinding;
+
+template <class Receiver, class R, class... Args, R (*callable)(Receiver, Args...)>
+struct ReceivingBinding<callable> : MethodFacts<R, Args...> {
+    static WireType<R> invoke(WireType<Receiver> self, SEL, WireType<Args>... args) {
+        return answer<R>(
+            [&]() -> R { return callable(Wire<Receiver>::from(self), Wire<Args>::from(args)...); });
+    }
+};
+
+/// A member function of the C++ class; the receiver is `this`.
+template <auto callable>
+inline constexpr MemberBinding<callable> member{};
+
+/// A free or static function that does not ask who received the message.
+template <auto callable>
+inline constexpr FunctionBinding<callable> function{};
+
+/// A free or static function whose first parameter is the receiver: the Class of a class message,
+/// a handle where the method is added to a class that is not ours.
+template <auto callable>
+inline constexpr ReceivingBinding<callable> receiving{};
+
+/// The untyped half of a class definition. A class that cannot be defined (its superclass is
+/// missing, its name is taken, an instance variable would not lie where C++ put it) is dropped
+/// whole: finish() answers nil.
+class ClassDefinition {
+  public:
+    ClassDefinition(const char *name, const char *superclass);
+    ~ClassDefinition();
+    ClassDefinition(const ClassDefinition &) = delete;
+    ClassDefinition(ClassDefinition &&other) noexcept
+        : class_(std::exchange(other.class_, nullptr)),
+          end_(other.end_),
+          paddings_(other.paddings_),
+          sound_(other.sound_) {}
+    ClassDefinition &operator=(const ClassDefinition &) = delete;
+
+    void addIvar(const char *name, size_t offset, size_t size, size_t alignment,
+                 const char *encoding);
+    void addMethod(SEL selector, IMP implementation, const char *encoding);
+    void addClassMethod(SEL selector, IMP implementation, const char *encoding);
+    /// Registers the class. `memory` is the size of the C++ object in bytes.
+    Class finish(size_t memory);
+    Class foreignAncestor() const;
+
+  private:
+    void coverUpTo(size_t offset);
+
+    Class class_ = nullptr;
+    size_t end_ = 0;  // bytes of the object that instance variables cover so far
+    unsigned paddings_ = 0;
+    bool sound_ = true;
+};
+
+template <InstanceClass T>
+class ClassBuilder {
+    static_assert(!std::is_polymorphic_v<T>, "a vtable would lie where the class pointer is");
+
+  public:
+    ClassBuilder(const char *name, const char *superclass) : definition_(name, superclass) {}
+
+    /// Names a member as an instance variable; members are named in the order they are declared.
+    /// A member that no name is given to is there all the same, unseen by the runtime.
+    template <auto memberPointer>
+    ClassBuilder &&ivar(const char *name) && {
+        using Type = typename MemberOf<decltype(memberPointer)>::Type;
+        definition_.addIvar(name, offsetOf<memberPointer>(), sizeof(Type), alignof(Type),
+                            ivarEncoding<Type>());
+        return std::move(*this);
+    }
+
+    template <Text name, class Binding>
+    ClassBuilder &&method(Selector<name> selector, Binding) && {
+        definition_.addMethod(selector, implementationOf<name, Binding>(), Binding::encoding);
+        return std::move(*this);
+    }
+
+    template <Text name, class Binding>
+    ClassBuilder &&classMethod(Selector<name> selector, Binding) && {
+        definition_.addClassMethod(selector, implementationOf<name, Binding>(), Binding::encoding);
+        return std::move(*this);
+    }
+
+    /// Registers the class and answers it, or nil when it could not be defined.
+    Class finish() && {
+        if constexpr (sizeof(T) > sizeof(Instance)) {
+            definition_.addClassMethod("allocWithZone:"_sel,
+                                       reinterpret_cast<IMP>(&Lifetime<T>::allocWithZone), "@@:^v");
+            definition_.addMethod("dealloc"_sel, reinterpret_cast<IMP>(&Lifetime<T>::dealloc),
+                                  "v@:");
+        }
+        g_classRecord<T> = {nullptr, definition_.foreignAncestor()};
+        return g_classRecord<T>.cls = definition_.finish(sizeof(T));
+    }
+
+  private:
+    template <class>
+    struct MemberOf;
+    template <class M, class C>
+    struct MemberOf<M C::*> {
+        using Type = M;
+    };
+
+    template <auto memberPointer>
+    static size_t offsetOf() {
+        alignas(T) static std::byte g_memory[sizeof(T)];
+        const T *const object = reinterpret_cast<const T *>(g_memory);
+        return static_cast<size_t>(
+            reinterpret_cast<const std::byte *>(std::addressof(object->*memberPointer)) - g_memory);
+    }
+
+    // An owning member looks like the object it holds; what has no Objective-C name is opaque.
+    template <class M>
+    static const char *ivarEncoding() {
+        if constexpr (requires(M value) {
+                          { value.get() } -> Handle;
+                      }) {
+            return "@";
+        } else if constexpr (std::is_scalar_v<M> || Handle<M> || EncodedStruct<M>) {
+            return kIvarEncoding<M>.chars;
+        } else {
+            return "?";
+        }
+    }
+
+    template <class M>
+    static inline constexpr auto kIvarEncoding = encoding<M>();
+
+    template <Text name, class Binding>
+    static IMP implementationOf() {
+        static_assert(Selector<name>::arity == Binding::arity,
+                      "the selector's colons and the method's arguments disagree in number");
+        return reinterpret_cast<IMP>(&Binding::invoke);
+    }
+
+    ClassDefinition definition_;
+};
+
+}  // namespace objc

@@ -1,0 +1,112 @@
+// Ownership as scope: an Owned releases at its end what alloc, copy or retain gave it, a pool
+// drains, a monitor leaves. Plain handles never retain or release.
+#pragma once
+
+#include <utility>
+
+#include "objc/handle.hpp"
+
+namespace objc {
+
+/// T is a handle; it may still be incomplete where only the name Owned<T> is used.
+template <class T>
+class Owned {
+  public:
+    Owned() = default;
+
+    /// Takes over the reference that alloc, init, new or copy gave the caller.
+    static Owned adopt(T object) { return Owned(object); }
+
+    /// Adds a reference of its own to an object that somebody else owns.
+    static Owned share(T object) {
+        send<id()>(object, "retain"_sel);
+        return Owned(object);
+    }
+
+    Owned(const Owned &) = delete;
+    Owned(Owned &&other) noexcept : object_(std::exchange(other.object_, T())) {}
+    // By swapping, so that the old object goes last: its dealloc may look at this very variable.
+    Owned &operator=(Owned other) noexcept {
+        std::swap(object_, other.object_);
+        return *this;
+    }
+    ~Owned() {
+        static_assert(Handle<T>, "only handles can be owned");
+        objc::send<void()>(object_, "release"_sel);
+    }
+
+    T get() const { return object_; }
+    const T *operator->() const { return &object_; }
+    // NOLINTBEGIN(google-explicit-constructor): an owned object may be used wherever one is asked
+    // for
+    operator T() const { return object_; }
+    operator id() const { return object_; }
+    // NOLINTEND(google-explicit-constructor)
+    explicit operator bool() const { return object_.get() != nullptr; }
+
+    /// Hands the reference to the caller, who releases it.
+    [[nodiscard]] T leak() { return std::exchange(object_, T()); }
+
+    /// Gives the object to the innermost pool, as a method does with a result it does not keep.
+    T autorelease() {
+        const T object = leak();
+        send<id()>(object, "autorelease"_sel);
+        return object;
+    }
+
+  private:
+    explicit Owned(T object) : object_(object) {}
+
+    T object_;
+};
+
+/// [[T alloc] init...] with the initialiser's signature:
+/// create<UILabel(CGRect)>("initWithFrame:"_sel, frame). A missing class gives an empty Owned.
+template <class Signature>
+struct Creation;
+
+template <Handle T, class... Args>
+struct Creation<T(Args...)> {
+    template <Text name>
+    static Owned<T> create(Selector<name> initialiser, Args... args) {
+        const id allocated = send<id()>(T::classObject(), "alloc"_sel);
+        return Owned<T>::adopt(send<T(Args...)>(allocated, initialiser, args...));
+    }
+};
+
+template <class Signature, Text name, class... Args>
+auto create(Selector<name> initialiser, const Args &...args) {
+    return Creation<Signature>::create(initialiser, args...);
+}
+
+/// [[T alloc] init]
+template <Handle T>
+Owned<T> create() {
+    return Creation<T()>::create("init"_sel);
+}
+
+class AutoreleasePool {
+  public:
+    AutoreleasePool()
+        : pool_(send<id()>(send<id()>("NSAutoreleasePool"_cls, "alloc"_sel), "init"_sel)) {}
+    AutoreleasePool(const AutoreleasePool &) = delete;
+    AutoreleasePool &operator=(const AutoreleasePool &) = delete;
+    ~AutoreleasePool() { send<void()>(pool_, "drain"_sel); }
+
+  private:
+    id pool_;
+};
+
+/// The runtime's re-entrant lock of one object, held for a scope; left when an exception passes.
+class Monitor {
+  public:
+    explicit Monitor(id object) : object_(object) { objc_sync_enter(object_); }
+    Monitor(const Monitor &) = delete;
+    Monitor &operator=(const Monitor &) = delete;
+    ~Monitor() { objc_sync_exit(object_); }
+
+  private:
+    id object_;
+};
+
+}  // namespace objc

@@ -1,0 +1,52 @@
+// CoreGraphics' plain structs, in points, with the encodings they travel under.
+#pragma once
+
+#include "objc/encoding.hpp"
+
+#if defined(__LP64__)
+using CGFloat = double;
+#else
+using CGFloat = float;
+#endif
+
+struct CGPoint {
+    CGFloat x, y;
+    bool operator==(const CGPoint &) const = default;
+};
+
+struct CGSize {
+    CGFloat width, height;
+    bool operator==(const CGSize &) const = default;
+};
+
+struct CGRect {
+    CGPoint origin;
+    CGSize size;
+    bool operator==(const CGRect &) const = default;
+};
+
+constexpr CGRect rect(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
+    return {{x, y}, {width, height}};
+}
+
+namespace objc {
+
+inline constexpr auto kFloatEncoding = encoding<CGFloat>();
+
+template <>
+struct StructEncoding<CGPoint> {
+    static constexpr auto text = Text("{CGPoint=") + kFloatEncoding + kFloatEncoding + Text("}");
+};
+
+template <>
+struct StructEncoding<CGSize> {
+    static constexpr auto text = Text("{CGSize=") + kFloatEncoding + kFloatEncoding + Text("}");
+};
+
+template <>
+struct StructEncoding<CGRect> {
+    static constexpr auto text =
+        Text("{CGRect=") + StructEncoding<CGPoint>::text + StructEncoding<CGSize>::text + Text("}");
+};
+
+}  // namespace objc

@@ -1,0 +1,106 @@
+// UIKit's classes, as far as the add-on speaks to them. Frames are in points, in the superview's
+// coordinates.
+#pragma once
+
+#include "platform/Foundation.hpp"
+
+class UIColor : public NSObject {
+  public:
+    using NSObject::NSObject;
+    static Class classObject() { return "UIColor"_cls; }
+
+    static UIColor clearColor() { return objc::send<UIColor()>(classObject(), "clearColor"_sel); }
+    static UIColor blackColor() { return objc::send<UIColor()>(classObject(), "blackColor"_sel); }
+    /// Components from 0 to 1.
+    static UIColor withWhite(CGFloat white, CGFloat alpha) {
+        return objc::send<UIColor(CGFloat, CGFloat)>(classObject(), "colorWithWhite:alpha:"_sel,
+                                                     white, alpha);
+    }
+};
+
+class UIFont : public NSObject {
+  public:
+    using NSObject::NSObject;
+    static Class classObject() { return "UIFont"_cls; }
+
+    static UIFont systemFontOfSize(CGFloat points) {
+        return objc::send<UIFont(CGFloat)>(classObject(), "systemFontOfSize:"_sel, points);
+    }
+};
+
+class UIImage : public NSObject {
+  public:
+    using NSObject::NSObject;
+    static Class classObject() { return "UIImage"_cls; }
+};
+
+class UIView : public NSObject {
+  public:
+    using NSObject::NSObject;
+    static Class classObject() { return "UIView"_cls; }
+
+    CGRect frame() const { return send<CGRect()>("frame"_sel); }
+    void setFrame(CGRect frame) const { send<void(CGRect)>("setFrame:"_sel, frame); }
+    CGRect bounds() const { return send<CGRect()>("bounds"_sel); }
+    CGSize intrinsicContentSize() const { return send<CGSize()>("intrinsicContentSize"_sel); }
+    void setHidden(bool hidden) const { send<void(bool)>("setHidden:"_sel, hidden); }
+    void setTag(NSInteger tag) const { send<void(NSInteger)>("setTag:"_sel, tag); }
+    void setBackgroundColor(UIColor color) const {
+        send<void(UIColor)>("setBackgroundColor:"_sel, color);
+    }
+
+    UIView superview() const { return send<UIView()>("superview"_sel); }
+    /// The first view of that tag in the whole tree below, this view included; nil when none.
+    UIView viewWithTag(NSInteger tag) const {
+        return send<UIView(NSInteger)>("viewWithTag:"_sel, tag);
+    }
+    void addSubview(UIView view) const { send<void(UIView)>("addSubview:"_sel, view); }
+    void removeFromSuperview() const { send<void()>("removeFromSuperview"_sel); }
+};
+
+/// [[View alloc] initWithFrame:frame]
+template <objc::Handle View>
+objc::Owned<View> withFrame(CGRect frame) {
+    return objc::create<View(CGRect)>("initWithFrame:"_sel, frame);
+}
+
+class UILabel : public UIView {
+  public:
+    using UIView::UIView;
+    static Class classObject() { return "UILabel"_cls; }
+
+    NSString text() const { return send<NSString()>("text"_sel); }
+    void setText(NSString text) const { send<void(NSString)>("setText:"_sel, text); }
+    UIFont font() const { return send<UIFont()>("font"_sel); }
+    void setFont(UIFont font) const { send<void(UIFont)>("setFont:"_sel, font); }
+    void setTextColor(UIColor color) const { send<void(UIColor)>("setTextColor:"_sel, color); }
+    void setTextAlignment(NSInteger alignment) const {
+        send<void(NSInteger)>("setTextAlignment:"_sel, alignment);
+    }
+};
+
+/// NSTextAlignmentCenter as iOS numbers it.
+inline constexpr NSInteger kTextAlignmentCenter = 1;
+
+class UIImageView : public UIView {
+  public:
+    using UIView::UIView;
+    static Class classObject() { return "UIImageView"_cls; }
+
+    void setImage(UIImage image) const { send<void(UIImage)>("setImage:"_sel, image); }
+};
+
+extern "C" {
+extern const id NSFontAttributeName;
+}
+
+/// NSStringDrawingUsesLineFragmentOrigin: the size bounds lines of text, not one line.
+inline constexpr NSInteger kUsesLineFragmentOrigin = 1;
+
+/// The room that `text` takes within `bounds`; a nil text takes none.
+inline CGRect boundingRect(NSString text, CGSize bounds, NSInteger options,
+                           NSDictionary attributes) {
+    return objc::send<CGRect(CGSize, NSInteger, NSDictionary, NSObject)>(
+        text, "boundingRectWithSize:options:attributes:context:"_sel, bounds, options, attributes,
+        nullptr);
+}
