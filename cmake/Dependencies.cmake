@@ -4,11 +4,13 @@
 find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 find_package(nlohmann_json 3.10 REQUIRED)  # nlohmann_json::nlohmann_json
+find_package(ICU REQUIRED COMPONENTS uc)   # ICU::uc
 find_package(GTest REQUIRED)               # GTest::gtest_main, GTest::gmock
 find_package(benchmark REQUIRED)           # benchmark::benchmark_main
 pkg_check_modules(sqlite3 REQUIRED IMPORTED_TARGET sqlite3)         # PkgConfig::sqlite3
 pkg_check_modules(cairo REQUIRED IMPORTED_TARGET cairo)             # PkgConfig::cairo
 pkg_check_modules(pangocairo REQUIRED IMPORTED_TARGET pangocairo)   # PkgConfig::pangocairo
+pkg_check_modules(pangoft2 REQUIRED IMPORTED_TARGET pangoft2)       # PkgConfig::pangoft2
 pkg_check_modules(fontconfig REQUIRED IMPORTED_TARGET fontconfig)   # PkgConfig::fontconfig
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 
@@ -22,6 +24,8 @@ function(zqdial_imported_library target name header)
 endfunction()
 zqdial_imported_library(phonenumber phonenumber phonenumbers/phonenumberutil.h)
 zqdial_imported_library(geocoding geocoding phonenumbers/geocoding/phonenumber_offline_geocoder.h)
+find_library(protobuf_LIBRARY protobuf REQUIRED) # what phonenumber's own headers call inline
+target_link_libraries(phonenumber INTERFACE "${protobuf_LIBRARY}")
 target_link_libraries(geocoding INTERFACE phonenumber)
 
 # Objective-C runtime headers and library live in GCC's own folder, which only that GCC searches.

@@ -1,5 +1,5 @@
-# Sanitized builds. Their options and the leak check's suppressions are compiled into every executable,
-# so that tests and tools run by hand need no environment variables.
+# Sanitized builds. Their options and the leak check's suppressions are compiled into every
+# executable, so that tests and tools run by hand need no environment variables.
 
 set(ZQDIAL_SANITIZE "" CACHE STRING "Sanitizers to build with: empty, address,undefined or thread")
 if(NOT ZQDIAL_SANITIZE)

@@ -1,5 +1,5 @@
-# How tests are declared. Every test case runs as a process of its own, since hooks, once-only tokens
-# and the device model are process-wide; users set no environment variables for any of it.
+# How tests are declared. Every test case runs as a process of its own, since hooks, once-only
+# tokens and the device model are process-wide; users set no environment variables for any of it.
 include(GoogleTest)
 
 # Foundation creates a folder in HOME as soon as it is asked for defaults, so tests get their own.

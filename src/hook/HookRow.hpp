@@ -12,8 +12,8 @@ namespace hook {
 /// The hook class that installs a row.
 enum class Group : unsigned char { Dialer, InCall, Recents };
 
-/// Whether a row belongs to the running system: asked of the companion when rows are installed.
-using Gate = bool (*)();
+/// The systems that a row belongs to (see gates.hpp).
+enum class Gate : unsigned char { Before80, Within7, Within70, Within7OnShortScreen, From80 };
 
 struct HookRow {
     Group group;
@@ -59,14 +59,15 @@ constexpr HookRow row(Group group, const char *className, objc::Selector<selecto
     };
 }
 
-/// No method is replaced twice behind one gate.
+/// No method is replaced twice on one system.
 template <size_t count>
 constexpr bool noDuplicates(const std::array<HookRow, count> &rows) {
     for (size_t i = 0; i < count; ++i) {
         for (size_t k = i + 1; k < count; ++k) {
             const bool sameMethod = std::string_view(rows[i].className) == rows[k].className &&
                                     std::string_view(rows[i].selectorName) == rows[k].selectorName;
-            if (sameMethod && rows[i].gate == rows[k].gate) {
+            const bool apart = (rows[i].gate == Gate::From80) != (rows[k].gate == Gate::From80);
+            if (sameMethod && !apart) {
                 return false;
             }
         }

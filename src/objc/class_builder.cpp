@@ -2,6 +2,7 @@
 #include "objc/class_builder.hpp"
 
 #include <bit>
+#include <cstdio>
 
 namespace objc {
 namespace {
@@ -38,8 +39,9 @@ void ClassDefinition::coverUpTo(size_t offset) {
     if (offset <= end_ || !class_) {
         return;
     }
-    // One name a gap, since a class may not have two instance variables of one name.
-    const char name[] = {'_', 'z', 'q', 'G', 'a', 'p', static_cast<char>('a' + paddings_++), '\0'};
+    // Named by its offset: no class may repeat a name, not even one of its ancestors'.
+    char name[32];
+    std::snprintf(name, sizeof name, "_zqGap%zu", end_);
     const size_t size = offset - end_;
     sound_ = class_addIvar(class_, name, size, 0, "?") && sound_;
     end_ = offset;

@@ -103,10 +103,7 @@ class ClassDefinition {
     ~ClassDefinition();
     ClassDefinition(const ClassDefinition &) = delete;
     ClassDefinition(ClassDefinition &&other) noexcept
-        : class_(std::exchange(other.class_, nullptr)),
-          end_(other.end_),
-          paddings_(other.paddings_),
-          sound_(other.sound_) {}
+        : class_(std::exchange(other.class_, nullptr)), end_(other.end_), sound_(other.sound_) {}
     ClassDefinition &operator=(const ClassDefinition &) = delete;
 
     void addIvar(const char *name, size_t offset, size_t size, size_t alignment,
@@ -122,7 +119,6 @@ class ClassDefinition {
 
     Class class_ = nullptr;
     size_t end_ = 0;  // bytes of the object that instance variables cover so far
-    unsigned paddings_ = 0;
     bool sound_ = true;
 };
 
@@ -163,8 +159,12 @@ class ClassBuilder {
             definition_.addMethod("dealloc"_sel, reinterpret_cast<IMP>(&Lifetime<T>::dealloc),
                                   "v@:");
         }
-        g_classRecord<T> = {nullptr, definition_.foreignAncestor()};
-        return g_classRecord<T>.cls = definition_.finish(sizeof(T));
+        const Class ancestor = definition_.foreignAncestor();
+        const Class cls = definition_.finish(sizeof(T));
+        if (cls) {
+            g_classRecord<T> = {cls, ancestor};
+        }
+        return cls;
     }
 
   private:
@@ -198,7 +198,7 @@ class ClassBuilder {
     }
 
     template <class M>
-    static inline constexpr auto kIvarEncoding = encoding<M>();
+    static constexpr auto kIvarEncoding = encoding<M>();
 
     template <Text name, class Binding>
     static IMP implementationOf() {

@@ -12,12 +12,12 @@ namespace objc {
 class Object {
   public:
     constexpr Object() = default;
-    // NOLINTNEXTLINE(google-explicit-constructor): nil is a value of every handle type
+    // Implicit: nil is a value of every handle type
     constexpr Object(std::nullptr_t) {}
     constexpr explicit Object(id object) : object_(object) {}
 
     constexpr id get() const { return object_; }
-    // NOLINTNEXTLINE(google-explicit-constructor): any handle may be passed where an id is wanted
+    // Implicit: any handle may be passed where an id is wanted
     constexpr operator id() const { return object_; }
 
     /// The same object under another type; the caller vouches for it, as with any cast.

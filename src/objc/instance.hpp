@@ -14,17 +14,16 @@ class Instance {
     Instance(const Instance &) = delete;
     Instance &operator=(const Instance &) = delete;
 
-    // NOLINTNEXTLINE(google-explicit-constructor): the object is its own id
+    // Implicit: the object is its own id
     operator id() const { return reinterpret_cast<id>(const_cast<Instance *>(this)); }
 
   protected:
-    // The class pointer is the runtime's: it is there before construction and survives it.
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
-    Instance() {}
+    Instance() = default;
     ~Instance() = default;
 
   private:
-    Class class_;
+    // The runtime's: it is there before construction and survives it (see Lifetime).
+    [[maybe_unused]] Class class_;
 };
 
 /// What the runtime knows of one C++ class, filled in when it is defined.
@@ -53,7 +52,7 @@ T *make() {
 /// The superclass's implementation, as [super ...] inside a method of T.
 template <InstanceClass T, class Signature, Text name, class... Args>
 typename Message<Signature>::Result sendSuper(const T *self, Selector<name> selector,
-                                              Args... args) {
+                                              const Args &...args) {
     checkArity<Signature, name>();
     const IMP inherited =
         Message<Signature>::implementation(class_getSuperclass(classOf<T>()), selector);
@@ -72,7 +71,7 @@ struct Lifetime {
         const id object = Message<id(void *)>::call(allocate, cls, selector, zone);
         if (object) {
             // Construction ends the life of whatever was in this memory, the class pointer too.
-            Class *const slot = reinterpret_cast<Class *>(object);
+            auto *const slot = reinterpret_cast<Class *>(object);
             const Class runtimeClass = *slot;
             new (object) T;
             *std::launder(slot) = runtimeClass;

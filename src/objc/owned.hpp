@@ -37,11 +37,10 @@ class Owned {
 
     T get() const { return object_; }
     const T *operator->() const { return &object_; }
-    // NOLINTBEGIN(google-explicit-constructor): an owned object may be used wherever one is asked
+    // Implicit: an owned object may be used wherever one is asked
     // for
     operator T() const { return object_; }
     operator id() const { return object_; }
-    // NOLINTEND(google-explicit-constructor)
     explicit operator bool() const { return object_.get() != nullptr; }
 
     /// Hands the reference to the caller, who releases it.

@@ -27,7 +27,7 @@ struct Selector {
         return selector;
     }
 
-    // NOLINTNEXTLINE(google-explicit-constructor): a selector literal stands for its SEL
+    // Implicit: a selector literal stands for its SEL
     operator SEL() const { return get(); }
 
   private:
@@ -49,7 +49,7 @@ struct ClassName {
         return cls;
     }
 
-    // NOLINTNEXTLINE(google-explicit-constructor): a class literal stands for its Class
+    // Implicit: a class literal stands for its Class
     operator Class() const { return get(); }
 
   private:

@@ -14,7 +14,7 @@ struct Text {
     char chars[Size]{};
 
     constexpr Text() = default;
-    // NOLINTNEXTLINE(google-explicit-constructor): a literal is meant to convert silently
+    // Implicit: a literal is meant to convert silently
     constexpr Text(const char (&literal)[Size]) { std::copy_n(literal, Size, chars); }
 
     static constexpr size_t length() { return Size - 1; }

@@ -21,9 +21,7 @@ class Units {
         return room;
     }
 
-    void append(std::span<const char16_t> units) {
-        std::copy(units.begin(), units.end(), extend(units.size()));
-    }
+    void append(std::span<const char16_t> units) { std::ranges::copy(units, extend(units.size())); }
 
     void append(NSString string) {
         const NSUInteger length = string.length();
@@ -80,7 +78,7 @@ NSString formatUnits(std::span<const char16_t> text, std::span<const FormatArgum
     Units out;
     auto argument = arguments.begin();
     for (auto rest = text; !rest.empty();) {
-        const auto percent = std::find(rest.begin(), rest.end(), u'%');
+        const auto percent = std::ranges::find(rest, u'%');
         const auto plain = static_cast<size_t>(percent - rest.begin());
         out.append(rest.first(plain));
         rest = rest.subspan(plain);

@@ -22,11 +22,10 @@ struct FormatArgument {
     int32_t integer = 0;
     double real = 0;
 
-    // NOLINTBEGIN(google-explicit-constructor): an argument list converts silently
+    // Implicit: an argument list converts silently
     FormatArgument(NSObject value) : kind(Kind::Object), object(value) {}
     FormatArgument(std::same_as<int32_t> auto value) : kind(Kind::Integer), integer(value) {}
     FormatArgument(std::same_as<double> auto value) : kind(Kind::Real), real(value) {}
-    // NOLINTEND(google-explicit-constructor)
 };
 
 /// `utf8` in UTF-16 units, at compile time.
@@ -74,9 +73,10 @@ constexpr bool formatFits() {
         const bool isReal = text.chars[i + 1] == '.';
         const char conversion = text.chars[i + (isReal ? 3 : 1)];
         if (isReal != (conversion == 'f') || filled >= sizeof...(Args) ||
-            kinds[filled++] != conversion) {
+            kinds[filled] != conversion) {
             return false;
         }
+        ++filled;
         i += isReal ? 3 : 1;
     }
     return filled == sizeof...(Args);

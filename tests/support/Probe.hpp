@@ -12,7 +12,7 @@ namespace test {
 
 class Probe : public objc::Instance {
   public:
-    Probe() { ++g_living; }
+    Probe() : Instance() { ++g_living; }
     ~Probe();
 
     static int living() { return g_living; }

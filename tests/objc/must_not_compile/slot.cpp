@@ -6,11 +6,9 @@ void replacement(NSObject, SEL, BOOL) {}
 constinit objc::Saved<void(NSObject, SEL, BOOL)> saved;
 constinit objc::Saved<void(NSObject, SEL, NSString)> savedOther;
 
-constexpr bool always() { return true; }
-
-constexpr auto kGood = hook::row(hook::Group::Dialer, "A", "setFlag:"_sel, always,
+constexpr auto kGood = hook::row(hook::Group::Dialer, "A", "setFlag:"_sel, hook::Gate::Within7,
                                  hook::Hooked<&replacement, &saved>{});
 #ifdef MUST_NOT_COMPILE
-constexpr auto kBad = hook::row(hook::Group::Dialer, "A", "setFlag:"_sel, always,
+constexpr auto kBad = hook::row(hook::Group::Dialer, "A", "setFlag:"_sel, hook::Gate::Within7,
                                 hook::Hooked<&replacement, &savedOther>{});
 #endif

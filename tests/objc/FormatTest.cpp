@@ -1,11 +1,11 @@
 // Texts put together from formats, against Foundation's own formatting of the same.
-#include "platform/format.hpp"
-
 #include <cmath>
 #include <limits>
 #include <string>
 
 #include <gtest/gtest.h>
+
+#include "platform/format.hpp"
 
 namespace {
 

@@ -1,8 +1,7 @@
 // Classes defined in C++ as the runtime and Foundation see them.
-#include "objc/class_builder.hpp"
-
 #include <gtest/gtest.h>
 
+#include "objc/class_builder.hpp"
 #include "objc/ivar.hpp"
 #include "platform/Foundation.hpp"
 #include "support/Probe.hpp"
@@ -127,6 +126,20 @@ TEST_F(DefinedClass, KeepsMembersThatHaveNoName) {
     EXPECT_EQ(objc::read<double>(*object, "_shown"_ivar), 2.5);
     EXPECT_EQ(object->_hidden, 7);
     EXPECT_EQ(object->text.size(), 50U);
+    send<void()>(*object, "release"_sel);
+}
+
+class UnnamedToo : public Unnamed {
+  public:
+    std::string more = "another text too long for the short string's own storage";
+};
+
+TEST_F(DefinedClass, MayHaveNamelessMembersAtEveryLevel) {
+    objc::ClassBuilder<Unnamed>("TestUnnamedBase", "NSObject").finish();
+    ASSERT_NE(objc::ClassBuilder<UnnamedToo>("TestUnnamedDerived", "TestUnnamedBase").finish(),
+              nullptr);
+    auto *const object = objc::make<UnnamedToo>();
+    EXPECT_EQ(object->text.size() + object->more.size(), 106U);
     send<void()>(*object, "release"_sel);
 }
 

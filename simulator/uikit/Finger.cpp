@@ -1,0 +1,49 @@
+// A finger builds the touch and its event as the system would and hands them to the window.
+#include "uikit/Finger.hpp"
+
+#include "uikit/Foundation.hpp"
+
+namespace sim {
+
+Finger::Finger(SimWindow *window, Point at)
+    : window_(objc::Owned<UIView>::share(handle<UIView>(window))),
+      at_(at),
+      touch_(objc::make<SimTouch>()),
+      event_(objc::make<SimEvent>()),
+      touchOwner_(objc::Owned<NSObject>::adopt(handle<NSObject>(touch_))),
+      eventOwner_(objc::Owned<NSObject>::adopt(handle<NSObject>(event_))) {
+    objc::send<void()>(window_.get(), "layoutIfNeeded"_sel);
+    touch_->begin(objc::send<SimView *(CGPoint, SimEvent *)>(window_.get(),
+                                                             "hitTest:withEvent:"_sel, at, event_),
+                  at);
+    event_->setTouch(touch_);
+    objc::send<void(SimEvent *)>(window_.get(), "sendEvent:"_sel, event_);
+}
+
+Finger::~Finger() { cancel(); }
+
+void Finger::proceed(TouchPhase phase, Point at) {
+    if (!down_) {
+        return;
+    }
+    down_ = phase == TouchPhase::Moved;
+    at_ = at;
+    touch_->move(phase, at);
+    objc::send<void(SimEvent *)>(window_.get(), "sendEvent:"_sel, event_);
+}
+
+void tap(SimWindow *window, Point at) { Finger(window, at).lift(); }
+
+void tap(SimView *view) {
+    SimWindow *const window = view->window();
+    if (window == nullptr) {
+        raise("NSInvalidArgumentException"_ns, "a view in no window cannot be tapped"_ns);
+    }
+    objc::send<void()>(static_cast<id>(*window), "layoutIfNeeded"_sel);
+    const Rect bounds = view->bounds();
+    const Point middle{bounds.origin.x + bounds.size.width / 2,
+                       bounds.origin.y + bounds.size.height / 2};
+    tap(window, view->convertPointToView(middle, window));
+}
+
+}  // namespace sim

@@ -1,0 +1,59 @@
+// UIControl: a view that tells its targets what a finger does to it.
+#pragma once
+
+#include "uikit/SimView.hpp"
+
+class SimTouch;
+
+/// UIControlEvents and UIControlState, as far as they occur.
+inline constexpr NSUInteger kTouchDown = 1U << 0U;
+inline constexpr NSUInteger kTouchUpInside = 1U << 6U;
+inline constexpr NSUInteger kTouchUpOutside = 1U << 7U;
+inline constexpr NSUInteger kTouchCancel = 1U << 8U;
+inline constexpr NSUInteger kValueChanged = 1U << 12U;
+inline constexpr NSUInteger kStateNormal = 0;
+inline constexpr NSUInteger kStateHighlighted = 1U << 0U;
+inline constexpr NSUInteger kStateDisabled = 1U << 1U;
+inline constexpr NSUInteger kStateSelected = 1U << 2U;
+
+class SimControl : public SimView {
+  public:
+    static void define();
+
+    bool isEnabled() const { return enabled_; }
+    void setEnabled(bool enabled) { change(enabled_, enabled); }
+    bool isSelected() const { return selected_; }
+    void setSelected(bool selected) { change(selected_, selected); }
+    bool isHighlighted() const { return highlighted_; }
+    void setHighlighted(bool highlighted) { change(highlighted_, highlighted); }
+    NSUInteger state() const;
+
+    /// Targets are not retained; a nil target means the first responder that knows the action.
+    void addTarget(NSObject target, SEL action, NSUInteger events);
+    /// A nil target or a null action stands for any.
+    void removeTarget(NSObject target, SEL action, NSUInteger events);
+    /// Sends the actions of these events, in the order they were added.
+    void sendActionsForControlEvents(NSUInteger events);
+    void sendAction(SEL action, NSObject target, SimEvent *event);
+
+    void touchesBegan(NSObject touches, SimEvent *event);
+    void touchesMoved(NSObject touches, SimEvent *event);
+    void touchesEnded(NSObject touches, SimEvent *event);
+    void touchesCancelled(NSObject touches, SimEvent *event);
+
+  private:
+    struct Action {
+        id target;
+        SEL selector;
+        NSUInteger events;
+    };
+
+    void change(bool &flag, bool value);
+    void send(NSUInteger events, SimEvent *event);
+    bool isInside(SimEvent *event);
+
+    std::vector<Action> actions_;
+    bool enabled_ = true;
+    bool selected_ = false;
+    bool highlighted_ = false;
+};

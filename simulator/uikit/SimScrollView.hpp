@@ -1,0 +1,38 @@
+// UIScrollView: its bounds' origin is how far the content is scrolled.
+#pragma once
+
+#include "uikit/SimView.hpp"
+
+class SimScrollView : public SimView {
+  public:
+    static void define();
+
+    id initWithFrame(CGRect frame);
+    CGPoint contentOffset() const { return bounds().origin; }
+    void setContentOffset(CGPoint offset);
+    /// Without animation: the simulator has no time between two pictures.
+    void setContentOffsetAnimated(CGPoint offset, bool animated);
+    CGSize contentSize() const { return contentSize_; }
+    void setContentSize(CGSize size) { contentSize_ = size; }
+    UIEdgeInsets contentInset() const { return contentInset_; }
+    void setContentInset(UIEdgeInsets inset) { contentInset_ = inset; }
+    bool isScrollEnabled() const { return scrollEnabled_; }
+    void setScrollEnabled(bool enabled) { scrollEnabled_ = enabled; }
+    NSObject delegate() const { return NSObject(delegate_); }
+    /// Not retained; it hears scrollViewDidScroll:.
+    void setDelegate(NSObject delegate) { delegate_ = delegate; }
+
+    /// A finger's drag from here to there, ending as UIKit ends it: the delegate is asked through
+    /// scrollViewWillEndDragging:withVelocity:targetContentOffset: where to come to rest.
+    void dragTo(CGPoint offset, CGPoint velocity);
+
+  private:
+    void tell(SEL message);
+    /// The offset nearest to this one at which content and insets fill the view.
+    CGPoint nearestRest(CGPoint offset) const;
+
+    id delegate_ = nullptr;
+    CGSize contentSize_{};
+    UIEdgeInsets contentInset_{};
+    bool scrollEnabled_ = true;
+};

@@ -1,0 +1,78 @@
+// UITableView: rows below each other in sections; cells exist for the rows on screen only.
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include "uikit/SimScrollView.hpp"
+
+class SimTableViewCell;
+
+class SimTableView : public SimScrollView {
+  public:
+    static void define();
+
+    id initWithFrame(CGRect frame);
+    /// Style 0 plain, 1 grouped.
+    id initWithFrameStyle(CGRect frame, NSInteger style);
+    NSInteger style() const { return style_; }
+    NSObject dataSource() const { return NSObject(dataSource_); }
+    /// Neither is retained.
+    void setDataSource(NSObject dataSource);
+    void setDelegate(NSObject delegate);
+    CGFloat rowHeight() const { return rowHeight_; }
+    void setRowHeight(CGFloat height) { rowHeight_ = height; }
+    UIColor separatorColor() const { return separatorColor_; }
+    void setSeparatorColor(UIColor color);
+
+    /// Asks the data source anew and lays the visible rows out at the next layout.
+    void reloadData();
+    NSInteger numberOfSections();
+    NSInteger numberOfRowsInSection(NSInteger section);
+    /// In the table's coordinates; a zero rectangle for a row that there is not.
+    CGRect rectForRowAtIndexPath(NSObject indexPath);
+    /// Nil for a row that is not on screen.
+    SimTableViewCell *cellForRowAtIndexPath(NSObject indexPath) const;
+    NSObject indexPathForCell(SimTableViewCell *cell) const;
+    NSArray visibleCells() const;
+    SimTableViewCell *dequeueReusableCellWithIdentifier(NSString identifier);
+    bool isEditing() const { return editing_; }
+    void setEditing(bool editing);
+    /// Passed on to every visible cell.
+    void setEditingAnimated(bool editing, bool animated);
+    void layoutSubviews();
+
+  private:
+    struct RowFrame {
+        CGFloat y;
+        CGFloat height;
+    };
+    struct Section {
+        RowFrame header;
+        std::vector<RowFrame> rows;
+        objc::Owned<UIView> headerView;
+    };
+    struct Place {
+        NSInteger section;
+        NSInteger row;
+        auto operator<=>(const Place &) const = default;
+    };
+
+    CGFloat measureSection(NSInteger section, CGFloat y);
+    void loadIfNeeded();
+    void dropInvisible(CGRect visible);
+    void addVisible(CGRect visible);
+    void addCell(Place place, CGRect frame);
+    void addHeader(NSInteger index, CGRect visible);
+    CGRect rectAt(RowFrame row) const;
+
+    id dataSource_ = nullptr;
+    std::vector<Section> sections_;
+    std::map<Place, objc::Owned<UIView>> cells_;
+    std::vector<objc::Owned<UIView>> reusable_;
+    objc::Owned<UIColor> separatorColor_;
+    NSInteger style_ = 0;
+    CGFloat rowHeight_ = 44;
+    bool editing_ = false;
+    bool loaded_ = false;
+};

@@ -1,0 +1,155 @@
+// UITableViewCell and the private scroll view that swipes it open before iOS 8.
+#include "uikit/SimTableViewCell.hpp"
+
+#include "uikit/Device.hpp"
+#include "uikit/Foundation.hpp"
+#include "uikit/Registration.hpp"
+#include "uikit/SimFont.hpp"
+#include "uikit/SimImage.hpp"
+#include "uikit/SimImageView.hpp"
+#include "uikit/SimLabel.hpp"
+#include "uikit/SimScrollView.hpp"
+#include "uikit/SimTableViewCellScrollView.hpp"
+
+using objc::Owned;
+using sim::handle;
+using sim::instance;
+
+namespace {
+
+constexpr CGFloat kMargin = 15;
+constexpr CGFloat kTextPoints = 17;
+constexpr CGFloat kDetailPoints = 12;
+constexpr NSInteger kValueAtTheRight = 1;
+constexpr NSInteger kSubtitle = 3;
+
+}  // namespace
+
+SimTableViewCell::~SimTableViewCell() {
+    if (scrollView_) {
+        scrollView()->setDelegate(nullptr);
+    }
+}
+
+id SimTableViewCell::initWithFrame(CGRect frame) {
+    objc::sendSuper<SimTableViewCell, id(CGRect)>(this, "initWithFrame:"_sel, frame);
+    contentView_ = withFrame<UIView>(bounds());
+    if (sim::Device::current().isAtLeast(8, 0)) {
+        addSubview(contentView());
+        return *this;
+    }
+    scrollView_ = Owned<UIView>::adopt(handle<UIView>(objc::make<SimTableViewCellScrollView>()));
+    scrollView()->setDelegate(handle<NSObject>(this));
+    scrollView()->addSubview(contentView());
+    addSubview(scrollView());
+    return *this;
+}
+
+id SimTableViewCell::initWithStyle(NSInteger style, NSString reuseIdentifier) {
+    objc::send<id(CGRect)>(id(*this), "initWithFrame:"_sel, rect(0, 0, 320, 44));
+    style_ = style;
+    reuseIdentifier_ = sim::copied(reuseIdentifier);
+    return *this;
+}
+
+SimView *SimTableViewCell::contentView() { return instance<SimView>(contentView_.get()); }
+
+SimScrollView *SimTableViewCell::scrollView() { return instance<SimScrollView>(scrollView_.get()); }
+
+SimLabel *SimTableViewCell::label(Owned<UILabel> &slot, CGFloat points) {
+    if (!slot) {
+        slot = withFrame<UILabel>({});
+        slot->setFont(SimFont::systemFontOfSize(points));
+        handle<UIView>(contentView()).addSubview(slot);
+    }
+    return instance<SimLabel>(slot.get());
+}
+
+SimLabel *SimTableViewCell::textLabel() { return label(textLabel_, kTextPoints); }
+
+SimLabel *SimTableViewCell::detailTextLabel() {
+    return style_ == 0 ? nullptr : label(detailTextLabel_, kDetailPoints);
+}
+
+SimImageView *SimTableViewCell::imageView() {
+    if (!imageView_) {
+        imageView_ = withFrame<UIImageView>({});
+        handle<UIView>(contentView()).addSubview(imageView_);
+    }
+    return instance<SimImageView>(imageView_.get());
+}
+
+void SimTableViewCell::setEditing(bool editing) {
+    objc::send<void(bool, bool)>(id(*this), "setEditing:animated:"_sel, editing, false);
+}
+
+void SimTableViewCell::setEditingAnimated(bool editing, bool) {
+    editing_ = editing;
+    setNeedsLayout();
+}
+
+void SimTableViewCell::layoutSubviews() {
+    const CGRect whole{{0, 0}, bounds().size};
+    if (scrollView_) {
+        scrollView_->setFrame(whole);
+        scrollView()->setContentSize(whole.size);
+    }
+    contentView_->setFrame(whole);
+    placeParts(whole.size);
+}
+
+void SimTableViewCell::placeParts(CGSize room) {
+    CGFloat x = kMargin;
+    if (imageView_) {
+        const CGSize size = instance<SimImageView>(imageView_.get())->sizeThatFits({0, 0});
+        imageView_->setFrame(rect(x, (room.height - size.height) / 2, size.width, size.height));
+        x += size.width > 0 ? size.width + kMargin : 0;
+    }
+    if (!textLabel_) {
+        return;
+    }
+    const CGFloat width = room.width - x - kMargin;
+    const CGFloat text = SimFont::of(textLabel_->font()).lineHeight();
+    const CGFloat detail =
+        detailTextLabel_ ? SimFont::of(detailTextLabel_->font()).lineHeight() : 0;
+    const CGFloat top = (room.height - text - detail) / 2;
+    if (style_ == kSubtitle && detailTextLabel_) {
+        textLabel_->setFrame(rect(x, top, width, text));
+        detailTextLabel_->setFrame(rect(x, top + text, width, detail));
+        return;
+    }
+    textLabel_->setFrame(rect(x, 0, width, room.height));
+    if (style_ == kValueAtTheRight && detailTextLabel_) {
+        const CGFloat value =
+            instance<SimLabel>(detailTextLabel_.get())->sizeThatFits({0, 0}).width;
+        detailTextLabel_->setFrame(rect(room.width - kMargin - value, 0, value, room.height));
+    }
+}
+
+void SimTableViewCell::define() {
+    using objc::member;
+    using C = SimTableViewCell;
+    sim::defined("UITableViewCell",
+                 objc::ClassBuilder<C>("UITableViewCell", "UIView")
+                     .method("initWithFrame:"_sel, member<&C::initWithFrame>)
+                     .method("initWithStyle:reuseIdentifier:"_sel, member<&C::initWithStyle>)
+                     .method("reuseIdentifier"_sel, member<&C::reuseIdentifier>)
+                     .method("contentView"_sel, member<&C::contentView>)
+                     .method("textLabel"_sel, member<&C::textLabel>)
+                     .method("detailTextLabel"_sel, member<&C::detailTextLabel>)
+                     .method("imageView"_sel, member<&C::imageView>)
+                     .method("isEditing"_sel, member<&C::isEditing>)
+                     .method("setEditing:"_sel, member<&C::setEditing>)
+                     .method("setEditing:animated:"_sel, member<&C::setEditingAnimated>)
+                     .method("isSelected"_sel, member<&C::isSelected>)
+                     .method("setSelected:"_sel, member<&C::setSelected>)
+                     .method("isHighlighted"_sel, member<&C::isHighlighted>)
+                     .method("setHighlighted:"_sel, member<&C::setHighlighted>)
+                     .method("accessoryType"_sel, member<&C::accessoryType>)
+                     .method("setAccessoryType:"_sel, member<&C::setAccessoryType>)
+                     .method("selectionStyle"_sel, member<&C::selectionStyle>)
+                     .method("setSelectionStyle:"_sel, member<&C::setSelectionStyle>)
+                     .method("prepareForReuse"_sel, member<&C::prepareForReuse>)
+                     .method("layoutSubviews"_sel, member<&C::layoutSubviews>)
+                     .finish());
+}

@@ -1,0 +1,172 @@
+// UIView's geometry, look and layout; the tree and the touches are in SimViewTree.cpp.
+#include "uikit/SimView.hpp"
+
+#include <cmath>
+
+#include "uikit/Foundation.hpp"
+#include "uikit/Registration.hpp"
+#include "uikit/SimColor.hpp"
+#include "uikit/SimViewController.hpp"
+#include "uikit/SimWindow.hpp"
+
+using objc::Owned;
+using sim::handle;
+using sim::instance;
+
+SimView::~SimView() {
+    for (const Owned<UIView> &subview : subviews_) {
+        instance<SimView>(subview.get())->superview_ = nullptr;
+    }
+}
+
+id SimView::init() { return objc::send<id(CGRect)>(id(*this), "initWithFrame:"_sel, CGRect{}); }
+
+id SimView::initWithFrame(CGRect frame) {
+    objc::sendSuper<SimView, id()>(this, "init"_sel);
+    setFrame(frame);
+    return *this;
+}
+
+void SimView::setFrame(CGRect frame) {
+    if (std::isnan(frame.origin.x + frame.origin.y + frame.size.width + frame.size.height)) {
+        sim::raise("CALayerInvalidGeometry"_ns, "a frame with a number that is none (NaN)"_ns);
+    }
+    if (frame.size != frame_.size) {
+        needsLayout_ = true;
+    }
+    frame_ = frame;
+}
+
+void SimView::setBounds(CGRect bounds) {
+    const CGPoint middle = center();
+    const CGSize size = bounds.size;
+    boundsOrigin_ = bounds.origin;
+    if (size != frame_.size) {
+        handle<UIView>(this).setFrame(
+            rect(middle.x - size.width / 2, middle.y - size.height / 2, size.width, size.height));
+    }
+}
+
+CGPoint SimView::center() const {
+    return {frame_.origin.x + frame_.size.width / 2, frame_.origin.y + frame_.size.height / 2};
+}
+
+void SimView::setCenter(CGPoint center) {
+    const CGSize size = frame_.size;
+    handle<UIView>(this).setFrame(
+        rect(center.x - size.width / 2, center.y - size.height / 2, size.width, size.height));
+}
+
+void SimView::setBackgroundColor(UIColor color) { backgroundColor_ = Owned<UIColor>::share(color); }
+
+UIColor SimView::tintColor() const {
+    if (tintColor_) {
+        return tintColor_;
+    }
+    if (superview_ != nullptr) {
+        return objc::send<UIColor()>(id(*superview_), "tintColor"_sel);
+    }
+    return SimColor::make({0, 122 / 255.0, 1, 1});
+}
+
+void SimView::setTintColor(UIColor color) { tintColor_ = Owned<UIColor>::share(color); }
+
+SimLayer *SimView::layer() const {
+    if (!layer_) {
+        layer_ = Owned<NSObject>::adopt(handle<NSObject>(objc::make<SimLayer>()));
+    }
+    return instance<SimLayer>(layer_.get());
+}
+
+void SimView::layoutIfNeeded() {
+    if (needsLayout_) {
+        needsLayout_ = false;
+        objc::send<void()>(id(*this), "layoutSubviews"_sel);
+    }
+    // By copies: a layout may add and remove views.
+    const NSArray subviews = this->subviews();
+    for (NSUInteger i = 0; i < subviews.count(); ++i) {
+        objc::send<void()>(subviews.objectAtIndex(i), "layoutIfNeeded"_sel);
+    }
+}
+
+CGSize SimView::sizeThatFits(CGSize) const { return frame_.size; }
+
+void SimView::sizeToFit() {
+    const auto size = objc::send<CGSize(CGSize)>(id(*this), "sizeThatFits:"_sel, frame_.size);
+    handle<UIView>(this).setFrame({frame_.origin, size});
+}
+
+void SimView::invalidateIntrinsicContentSize() {
+    objc::send<void()>(handle<UIView>(superview_), "setNeedsLayout"_sel);
+}
+
+void SimView::define() {
+    using objc::member;
+    sim::defined(
+        "UIView",
+        objc::ClassBuilder<SimView>("UIView", "UIResponder")
+            .method("init"_sel, member<&SimView::init>)
+            .method("initWithFrame:"_sel, member<&SimView::initWithFrame>)
+            .method("frame"_sel, member<&SimView::frame>)
+            .method("setFrame:"_sel, member<&SimView::setFrame>)
+            .method("bounds"_sel, member<&SimView::bounds>)
+            .method("setBounds:"_sel, member<&SimView::setBounds>)
+            .method("center"_sel, member<&SimView::center>)
+            .method("setCenter:"_sel, member<&SimView::setCenter>)
+            .method("isHidden"_sel, member<&SimView::isHidden>)
+            .method("setHidden:"_sel, member<&SimView::setHidden>)
+            .method("alpha"_sel, member<&SimView::alpha>)
+            .method("setAlpha:"_sel, member<&SimView::setAlpha>)
+            .method("isOpaque"_sel, member<&SimView::isOpaque>)
+            .method("setOpaque:"_sel, member<&SimView::setOpaque>)
+            .method("tag"_sel, member<&SimView::tag>)
+            .method("setTag:"_sel, member<&SimView::setTag>)
+            .method("clipsToBounds"_sel, member<&SimView::clipsToBounds>)
+            .method("setClipsToBounds:"_sel, member<&SimView::setClipsToBounds>)
+            .method("isUserInteractionEnabled"_sel, member<&SimView::isUserInteractionEnabled>)
+            .method("setUserInteractionEnabled:"_sel, member<&SimView::setUserInteractionEnabled>)
+            .method("contentMode"_sel, member<&SimView::contentMode>)
+            .method("setContentMode:"_sel, member<&SimView::setContentMode>)
+            .method("backgroundColor"_sel, member<&SimView::backgroundColor>)
+            .method("setBackgroundColor:"_sel, member<&SimView::setBackgroundColor>)
+            .method("tintColor"_sel, member<&SimView::tintColor>)
+            .method("setTintColor:"_sel, member<&SimView::setTintColor>)
+            .method("layer"_sel, member<&SimView::layer>)
+            .method("superview"_sel, member<&SimView::superview>)
+            .method("subviews"_sel, member<&SimView::subviews>)
+            .method("window"_sel, member<&SimView::window>)
+            .method("addSubview:"_sel, member<&SimView::addSubview>)
+            .method("insertSubview:atIndex:"_sel, member<&SimView::insertSubviewAtIndex>)
+            .method("insertSubview:belowSubview:"_sel, member<&SimView::insertSubviewBelow>)
+            .method("insertSubview:aboveSubview:"_sel, member<&SimView::insertSubviewAbove>)
+            .method("removeFromSuperview"_sel, member<&SimView::removeFromSuperview>)
+            .method("bringSubviewToFront:"_sel, member<&SimView::bringSubviewToFront>)
+            .method("sendSubviewToBack:"_sel, member<&SimView::sendSubviewToBack>)
+            .method("viewWithTag:"_sel, member<&SimView::viewWithTag>)
+            .method("isDescendantOfView:"_sel, member<&SimView::isDescendantOfView>)
+            .method("willMoveToSuperview:"_sel, member<&SimView::ignoreView>)
+            .method("didMoveToSuperview"_sel, member<&SimView::ignoreMove>)
+            .method("willMoveToWindow:"_sel, member<&SimView::ignoreView>)
+            .method("didMoveToWindow"_sel, member<&SimView::ignoreMove>)
+            .method("didAddSubview:"_sel, member<&SimView::ignoreView>)
+            .method("willRemoveSubview:"_sel, member<&SimView::ignoreView>)
+            .method("setNeedsLayout"_sel, member<&SimView::setNeedsLayout>)
+            .method("layoutIfNeeded"_sel, member<&SimView::layoutIfNeeded>)
+            .method("layoutSubviews"_sel, member<&SimView::layoutSubviews>)
+            .method("sizeThatFits:"_sel, member<&SimView::sizeThatFits>)
+            .method("sizeToFit"_sel, member<&SimView::sizeToFit>)
+            .method("intrinsicContentSize"_sel, member<&SimView::intrinsicContentSize>)
+            .method("invalidateIntrinsicContentSize"_sel,
+                    member<&SimView::invalidateIntrinsicContentSize>)
+            .method("setNeedsDisplay"_sel, member<&SimView::setNeedsDisplay>)
+            .method("drawRect:"_sel, member<&SimView::drawRect>)
+            .method("nextResponder"_sel, member<&SimView::nextResponder>)
+            .method("pointInside:withEvent:"_sel, member<&SimView::pointInside>)
+            .method("hitTest:withEvent:"_sel, member<&SimView::hitTest>)
+            .method("convertPoint:toView:"_sel, member<&SimView::convertPointToView>)
+            .method("convertPoint:fromView:"_sel, member<&SimView::convertPointFromView>)
+            .method("convertRect:toView:"_sel, member<&SimView::convertRectToView>)
+            .method("convertRect:fromView:"_sel, member<&SimView::convertRectFromView>)
+            .finish());
+}

@@ -1,0 +1,123 @@
+// UIView: a rectangle with subviews. There are no transforms, so a view keeps its frame as it was
+// set and frames read back exactly; the bounds have the frame's size.
+#pragma once
+
+#include <vector>
+
+#include "uikit/ContentMode.hpp"
+#include "uikit/SimLayer.hpp"
+#include "uikit/SimResponder.hpp"
+#include "uikit/drawing/Geometry.hpp"
+
+class SimViewController;
+class SimWindow;
+
+/// Member functions are the implementations of the messages; what a subclass or a hook may replace
+/// is to be sent as a message, through a UIView handle.
+class SimView : public SimResponder {
+  public:
+    static void define();
+
+    ~SimView();
+
+    id init();
+    id initWithFrame(CGRect frame);
+
+    // Geometry, in points of the superview; bounds in the view's own.
+    CGRect frame() const { return frame_; }
+    void setFrame(CGRect frame);
+    CGRect bounds() const { return {boundsOrigin_, frame_.size}; }
+    /// A new size keeps the centre where it is.
+    void setBounds(CGRect bounds);
+    CGPoint center() const;
+    void setCenter(CGPoint center);
+
+    bool isHidden() const { return hidden_; }
+    void setHidden(bool hidden) { hidden_ = hidden; }
+    CGFloat alpha() const { return alpha_; }
+    void setAlpha(CGFloat alpha) { alpha_ = alpha; }
+    bool isOpaque() const { return opaque_; }
+    void setOpaque(bool opaque) { opaque_ = opaque; }
+    NSInteger tag() const { return tag_; }
+    void setTag(NSInteger tag) { tag_ = tag; }
+    bool clipsToBounds() const { return layer()->masksToBounds(); }
+    void setClipsToBounds(bool clips) { layer()->setMasksToBounds(clips); }
+    bool isUserInteractionEnabled() const { return userInteractionEnabled_; }
+    void setUserInteractionEnabled(bool enabled) { userInteractionEnabled_ = enabled; }
+    ContentMode contentMode() const { return contentMode_; }
+    void setContentMode(ContentMode mode) { contentMode_ = mode; }
+    UIColor backgroundColor() const { return backgroundColor_; }
+    void setBackgroundColor(UIColor color);
+    /// The nearest one set on this view or above it, else the system's blue.
+    UIColor tintColor() const;
+    void setTintColor(UIColor color);
+    /// Made on first use, owned by the view.
+    SimLayer *layer() const;
+
+    // The tree. A view owns its subviews, back to front.
+    SimView *superview() const { return superview_; }
+    NSArray subviews() const;
+    SimWindow *window() const;
+    const std::vector<objc::Owned<UIView>> &children() const { return subviews_; }
+    void addSubview(SimView *view);
+    /// An index behind the end adds on top.
+    void insertSubviewAtIndex(SimView *view, NSInteger index);
+    void insertSubviewBelow(SimView *view, SimView *sibling);
+    void insertSubviewAbove(SimView *view, SimView *sibling);
+    void removeFromSuperview();
+    void bringSubviewToFront(SimView *view);
+    void sendSubviewToBack(SimView *view);
+    SimView *viewWithTag(NSInteger tag);
+    bool isDescendantOfView(SimView *view) const;
+    // Called as the tree changes; they do nothing by themselves.
+    void ignoreView(SimView *) {}
+    void ignoreMove() {}
+
+    // Layout, by message: layoutIfNeeded sends layoutSubviews to every view that needs it.
+    void setNeedsLayout() { needsLayout_ = true; }
+    void layoutIfNeeded();
+    void layoutSubviews() {}
+    CGSize sizeThatFits(CGSize room) const;
+    void sizeToFit();
+    /// -1 stands for no width or height of its own.
+    CGSize intrinsicContentSize() const { return {-1, -1}; }
+    void invalidateIntrinsicContentSize();
+
+    /// The renderer sends drawRect: on every pass, so there is nothing to be remembered.
+    void setNeedsDisplay() {}
+    void drawRect(CGRect) {}
+
+    // Touches and coordinates; a nil view stands for the window.
+    SimResponder *nextResponder();
+    bool pointInside(CGPoint point, SimEvent *event);
+    SimView *hitTest(CGPoint point, SimEvent *event);
+    CGPoint convertPointToView(CGPoint point, SimView *view);
+    CGPoint convertPointFromView(CGPoint point, SimView *view);
+    CGRect convertRectToView(CGRect rect, SimView *view);
+    CGRect convertRectFromView(CGRect rect, SimView *view);
+
+    /// The controller whose view this is; it becomes the next responder. Not retained.
+    void setViewController(SimViewController *controller) { controller_ = controller; }
+
+  private:
+    CGPoint originInWindow() const;
+    void insert(SimView *view, std::size_t index);
+    void detach();
+    std::size_t indexOf(const SimView *view) const;
+
+    SimView *superview_ = nullptr;
+    SimViewController *controller_ = nullptr;
+    std::vector<objc::Owned<UIView>> subviews_;
+    objc::Owned<UIColor> backgroundColor_;
+    objc::Owned<UIColor> tintColor_;
+    mutable objc::Owned<NSObject> layer_;
+    CGRect frame_{};
+    CGPoint boundsOrigin_{};
+    CGFloat alpha_ = 1;
+    NSInteger tag_ = 0;
+    ContentMode contentMode_ = ContentMode::ScaleToFill;
+    bool hidden_ = false;
+    bool opaque_ = true;
+    bool userInteractionEnabled_ = true;
+    bool needsLayout_ = true;
+};

@@ -1,0 +1,132 @@
+// Loads fonts.conf, which the build lays at ../share beside the folder of this
+// library.
+#include "uikit/drawing/FontSet.hpp"
+
+#include <array>
+#include <filesystem>
+#include <string>
+
+#include <dlfcn.h>
+#include <fontconfig/fontconfig.h>
+#include <pango/pangofc-fontmap.h>
+
+namespace sim {
+namespace {
+
+struct FcConfigDestroyer {
+    void operator()(FcConfig *config) const { FcConfigDestroy(config); }
+};
+using FcConfigPtr = std::unique_ptr<FcConfig, FcConfigDestroyer>;
+
+struct NeededFont {
+    const char *family;
+    const char *package;
+};
+constexpr std::array kNeededFonts{
+    NeededFont{"TeX Gyre Heros", "fonts-texgyre"},
+    NeededFont{"Roboto", "fonts-roboto-unhinted"},
+    NeededFont{"Noto Sans CJK SC", "fonts-noto-cjk"},
+};
+
+std::filesystem::path fontsFile() {
+    Dl_info info{};
+    // Any address inside this library serves; the class's own function is the
+    // nearest one.
+    if (dladdr(reinterpret_cast<const void *>(&FontSet::shared), &info) == 0) {
+        throw FontError(
+            "fonts: the folder of libUIKit.so is unknown; load it as a "
+            "shared library");
+    }
+    const auto library = std::filesystem::canonical(info.dli_fname);
+    return library.parent_path().parent_path() / "share" / "fonts.conf";
+}
+
+FcConfigPtr loadConfig() {
+    const std::string file = fontsFile().string();
+    FcConfigPtr config(FcConfigCreate());
+    const auto *name = reinterpret_cast<const FcChar8 *>(file.c_str());
+    if (FcConfigParseAndLoad(config.get(), name, FcTrue) == FcFalse) {
+        throw FontError(file + ": missing or damaged; build the project again");
+    }
+    FcConfigBuildFonts(config.get());
+    return config;
+}
+
+bool hasFamily(FcConfig *config, const char *family) {
+    FcPattern *pattern = FcPatternBuild(nullptr, FC_FAMILY, FcTypeString, family, nullptr);
+    FcObjectSet *wanted = FcObjectSetBuild(FC_FILE, nullptr);
+    FcFontSet *found = FcFontList(config, pattern, wanted);
+    const bool any = found != nullptr && found->nfont > 0;
+    FcFontSetDestroy(found);
+    FcObjectSetDestroy(wanted);
+    FcPatternDestroy(pattern);
+    return any;
+}
+
+void requireFonts(FcConfig *config) {
+    for (const NeededFont &font : kNeededFonts) {
+        if (!hasFamily(config, font.family)) {
+            throw FontError(std::string("font \"") + font.family +
+                            "\" is not installed; install the package " + font.package);
+        }
+    }
+}
+
+PangoWeight pangoWeight(FontWeight weight) {
+    switch (weight) {
+    case FontWeight::Light:
+        return PANGO_WEIGHT_LIGHT;
+    case FontWeight::Regular:
+        return PANGO_WEIGHT_NORMAL;
+    case FontWeight::Bold:
+        return PANGO_WEIGHT_BOLD;
+    }
+    return PANGO_WEIGHT_NORMAL;
+}
+
+/// Hinting would round advances to whole pixels and so tie widths to the scale.
+void useUnhintedFonts(PangoContext *context) {
+    cairo_font_options_t *options = cairo_font_options_create();
+    cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
+    cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
+    cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+    pango_cairo_context_set_font_options(context, options);
+    cairo_font_options_destroy(options);
+    pango_context_set_round_glyph_positions(context, FALSE);
+}
+
+}  // namespace
+
+const FontSet &FontSet::shared() {
+    static const FontSet g_set;
+    return g_set;
+}
+
+FontSet::FontSet() : fontMap_(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)) {
+    const FcConfigPtr config = loadConfig();
+    requireFonts(config.get());
+    // Pango and cairo ask for the process's own configuration too; it must not be the user's.
+    FcConfigSetCurrent(config.get());
+    pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(fontMap_.get()), config.get());
+    context_.reset(pango_font_map_create_context(fontMap_.get()));
+    useUnhintedFonts(context_.get());
+    // Without a language Pango would pick the Han shapes by the user's locale.
+    pango_context_set_language(context_.get(), pango_language_from_string("zh-cn"));
+}
+
+FontSet::~FontSet() = default;
+
+PangoLayoutPtr FontSet::shape(std::string_view utf8, const Font &font) const {
+    PangoLayoutPtr layout(pango_layout_new(context_.get()));
+    PangoFontDescription *description = pango_font_description_new();
+    pango_font_description_set_family_static(description, "Helvetica Neue");
+    pango_font_description_set_weight(description, pangoWeight(font.weight));
+    pango_font_description_set_absolute_size(description, font.points * PANGO_SCALE);
+    pango_layout_set_font_description(layout.get(), description);
+    pango_font_description_free(description);
+    pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
+    pango_layout_set_text(layout.get(), utf8.data(), static_cast<int>(utf8.size()));
+    return layout;
+}
+
+}  // namespace sim

@@ -1,0 +1,45 @@
+// The fonts of the simulator, loaded from its own fontconfig file, and Pango
+// set up so that widths are the same at every scale.
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <string_view>
+
+#include <pango/pangocairo.h>
+
+#include "uikit/drawing/Font.hpp"
+
+namespace sim {
+
+struct GObjectUnref {
+    void operator()(gpointer object) const { g_object_unref(object); }
+};
+using PangoLayoutPtr = std::unique_ptr<PangoLayout, GObjectUnref>;
+
+/// A font or the fontconfig file is missing; the message names it and the
+/// package to install.
+class FontError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+class FontSet {
+  public:
+    /// Loaded on first use; throws FontError.
+    static const FontSet &shared();
+
+    FontSet(const FontSet &) = delete;
+    FontSet &operator=(const FontSet &) = delete;
+    ~FontSet();
+
+    /// One line of text, shaped and ready to be measured or drawn.
+    PangoLayoutPtr shape(std::string_view utf8, const Font &font) const;
+
+  private:
+    FontSet();
+    std::unique_ptr<PangoFontMap, GObjectUnref> fontMap_;
+    std::unique_ptr<PangoContext, GObjectUnref> context_;
+};
+
+}  // namespace sim

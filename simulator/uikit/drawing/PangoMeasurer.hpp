@@ -1,0 +1,15 @@
+// The measurer that people see the results of: Pango's own advances, unhinted.
+#pragma once
+
+#include "uikit/drawing/TextMeasurer.hpp"
+
+namespace sim {
+
+/// Throws FontError (see FontSet.hpp) at the first measurement when the fonts
+/// are not installed.
+class PangoMeasurer : public TextMeasurer {
+  public:
+    std::vector<double> advances(std::u16string_view text, const Font &font) const override;
+};
+
+}  // namespace sim
