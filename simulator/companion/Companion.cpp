@@ -1,0 +1,74 @@
+// The state of the one run that a process has.
+#include "companion/Companion.hpp"
+
+#include <memory>
+#include <utility>
+
+#include <dlfcn.h>
+
+namespace companion {
+
+namespace {
+
+/// build/share, found from where this library lies (build/lib).
+std::filesystem::path shareDir() {
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<const void *>(&shareDir), &info) == 0 ||
+        info.dli_fname == nullptr) {
+        return "share";
+    }
+    const auto library = std::filesystem::absolute(info.dli_fname);
+    return (library.parent_path().parent_path() / "share").lexically_normal();
+}
+
+struct Run {
+    std::unique_ptr<Store> store = std::make_unique<Store>();
+    std::filesystem::path dataDir{};
+    std::filesystem::path resourceDir = shareDir() / "companion";
+    Journal journal{};
+};
+
+Run &currentRun() {
+    static Run run;
+    return run;
+}
+
+}  // namespace
+
+void open(const Settings &settings) {
+    const World world =
+        World::read(settings.worldFile.empty() ? sampleWorldFile() : settings.worldFile);
+    std::unique_ptr<Store> opened;
+    if (settings.dataDir.empty()) {
+        opened = std::make_unique<Store>();
+        opened->load(world);
+    } else {
+        opened = std::make_unique<Store>(settings.dataDir, world);
+    }
+    // Absolute, since the paths are handed out and the process may change its folder.
+    const auto absolute = [](const std::filesystem::path &path) {
+        return path.empty() ? path : std::filesystem::absolute(path);
+    };
+    Run &run = currentRun();
+    run.store = std::move(opened);
+    run.dataDir = absolute(settings.dataDir);
+    run.resourceDir =
+        settings.resourceDir.empty() ? shareDir() / "companion" : absolute(settings.resourceDir);
+    run.journal = {};
+}
+
+Store &store() { return *currentRun().store; }
+
+Journal &journal() { return currentRun().journal; }
+
+const std::filesystem::path &resourceDir() { return currentRun().resourceDir; }
+
+std::filesystem::path logoFile(std::int32_t partnerId) {
+    const std::filesystem::path &dataDir = currentRun().dataDir;
+    return dataDir.empty() ? dataDir
+                           : dataDir / "logos" / ("partner_" + std::to_string(partnerId) + ".png");
+}
+
+std::filesystem::path sampleWorldFile() { return shareDir() / "worlds" / "default.json"; }
+
+}  // namespace companion

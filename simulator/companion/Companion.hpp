@@ -1,0 +1,75 @@
+// The companion as its host sees it: opened with a world before the first question, asked
+// afterwards what happened. Everything else goes through the companion's classes.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "companion/store/Store.hpp"
+
+namespace companion {
+
+struct Settings {
+    std::filesystem::path worldFile{};    ///< empty: the sample world
+    std::filesystem::path dataDir{};      ///< empty: nothing is kept, no logo can be downloaded
+    std::filesystem::path resourceDir{};  ///< empty: the pictures beside this library
+};
+
+/// One question for a number's identity, as it was asked.
+struct Question {
+    std::string number;
+    bool ignoreDiagnose = false;
+    bool onlyLocal = false;
+    bool hasDelegate = false;
+    double retryPeriod = 0;
+    std::int32_t displayType = 0;
+};
+
+/// One logo that was asked for.
+struct Download {
+    std::string icon;
+    std::string destination;
+    bool finished = false;  ///< the file is in place and the message was posted
+};
+
+/// What the companion was asked since it was opened: the latest of each, oldest first.
+struct Journal {
+    std::deque<Question> questions{};
+    std::deque<Download> downloads{};
+    std::deque<std::string> messages{};  ///< names of the messages posted
+    int preferenceInitializations = 0;
+};
+
+/// Starts a run. Throws WorldError or StoreError, each with a message of one line; the companion is
+/// then as it was before. A companion that is never opened knows no world and keeps nothing.
+void open(const Settings &settings);
+
+/// The store of the run.
+Store &store();
+
+/// What was asked in the run; may be cleared.
+Journal &journal();
+
+/// The folder of the companion's pictures.
+const std::filesystem::path &resourceDir();
+
+/// Where a partner's logo is kept; empty without a data folder.
+std::filesystem::path logoFile(std::int32_t partnerId);
+
+/// The world that is used when none is named.
+std::filesystem::path sampleWorldFile();
+
+/// Adds to a list of the journal, which keeps no more than the latest entries.
+template <class Entry>
+Entry &note(std::deque<Entry> &list, Entry entry) {
+    constexpr std::size_t kKept = 10000;
+    if (list.size() == kKept) {
+        list.pop_front();
+    }
+    return list.emplace_back(std::move(entry));
+}
+
+}  // namespace companion

@@ -1,0 +1,50 @@
+// Advertisement entries are whatever the cloud sent; the store keeps them as JSON.
+#include "companion/classes/ZQPartnerItem.hpp"
+
+#include "companion/Companion.hpp"
+#include "companion/classes/Conversions.hpp"
+#include "companion/classes/Property.hpp"
+
+namespace companion {
+
+Class ZQPartnerItem::define() {
+    using Self = ZQPartnerItem;
+    return objc::ClassBuilder<Self>("ZQPartnerItem", "NSObject")
+        .method("Id"_sel, getter<&Self::_id>)
+        .method("setId:"_sel, setter<&Self::_id>)
+        .method("name"_sel, getter<&Self::_name>)
+        .method("setName:"_sel, setter<&Self::_name>)
+        .method("icon"_sel, getter<&Self::_icon>)
+        .method("setIcon:"_sel, setter<&Self::_icon>)
+        .method("source"_sel, getter<&Self::_source>)
+        .method("setSource:"_sel, setter<&Self::_source>)
+        .method("ads"_sel, getter<&Self::_ads>)
+        .method("setAds:"_sel, setter<&Self::_ads>)
+        .method("getIconImagePath"_sel, objc::member<&Self::iconImagePath>)
+        .finish();
+}
+
+ZQPartnerItem *ZQPartnerItem::withRecord(const Partner &record) {
+    auto *const item = autoreleased<ZQPartnerItem>();
+    item->_id = record.id;
+    item->_name = objc::Owned<NSString>::share(string(record.name));
+    item->_icon = objc::Owned<NSString>::share(string(record.icon));
+    item->_source = objc::Owned<NSString>::share(string(record.source));
+    item->_ads = objc::Owned<NSArray>::share(objectFromJson(record.ads).as<NSArray>());
+    return item;
+}
+
+Partner ZQPartnerItem::record() const {
+    return {.id = _id,
+            .name = utf8(_name),
+            .icon = utf8(_icon),
+            .source = utf8(_source),
+            .ads = jsonFromObject(_ads.get(), "[]")};
+}
+
+NSString ZQPartnerItem::iconImagePath() const {
+    const std::string path = logoFile(_id).string();
+    return path.empty() ? NSString() : string(path);
+}
+
+}  // namespace companion

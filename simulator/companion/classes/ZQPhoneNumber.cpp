@@ -1,0 +1,68 @@
+// All knowledge is in companion/numbers; a nil text is treated as one without digits.
+#include "companion/classes/ZQPhoneNumber.hpp"
+
+#include "companion/classes/Conversions.hpp"
+#include "companion/classes/Property.hpp"
+#include "companion/numbers/NumberText.hpp"
+#include "companion/numbers/Numbers.hpp"
+
+namespace companion {
+
+namespace {
+
+NSString areaNameOfNumber(NSString number) { return string(areaName(utf8(number))); }
+
+/// Nil when there is nothing to say.
+NSString descriptionOfNumber(NSString number) {
+    const std::string text = areaName(utf8(number));
+    return text.empty() ? NSString() : string(text);
+}
+
+NSString mobileNumberFrom(NSString number) { return string(mobileNumber(utf8(number))); }
+
+NSString formatted(NSString number) { return string(formattedNumber(utf8(number))); }
+
+NSString digitNumber(NSString text) { return string(digitsOf(utf8(text))); }
+
+NSString withoutLeading86(NSString number) { return string(trimLeading86(utf8(number))); }
+
+}  // namespace
+
+Class ZQPhoneNumber::define() {
+    using Self = ZQPhoneNumber;
+    return objc::ClassBuilder<Self>("ZQPhoneNumber", "NSObject")
+        .method("initWithOriginNumber:"_sel, objc::member<&Self::initWithOriginNumber>)
+        .method("parse"_sel, objc::member<&Self::parse>)
+        .method("originNumber"_sel, getter<&Self::_originNumber>)
+        .method("pureNumber"_sel, getter<&Self::_pureNumber>)
+        .method("areaName"_sel, getter<&Self::_areaName>)
+        .method("type"_sel, getter<&Self::_type>)
+        .classMethod("descriptionOfNumber:"_sel, objc::function<&descriptionOfNumber>)
+        .classMethod("areaNameOfNumber:"_sel, objc::function<&areaNameOfNumber>)
+        .classMethod("getMobileNumberFromNumber:"_sel, objc::function<&mobileNumberFrom>)
+        .classMethod("getFormattedNumberWithNumber:"_sel, objc::function<&formatted>)
+        .finish();
+}
+
+id ZQPhoneNumber::initWithOriginNumber(NSString text) {
+    const id self = objc::sendSuper<ZQPhoneNumber, id()>(this, "init"_sel);
+    Property<&ZQPhoneNumber::_originNumber>::set(this, text);
+    return self;
+}
+
+void ZQPhoneNumber::parse() {
+    const std::string text = utf8(_originNumber);
+    const std::string number = pureNumber(text);
+    _pureNumber = objc::Owned<NSString>::share(string(number));
+    _areaName = objc::Owned<NSString>::share(string(areaName(text)));
+    _type = static_cast<std::int32_t>(numberKind(number));
+}
+
+Class ZQPhoneNumberHelper::define() {
+    return objc::ClassBuilder<ZQPhoneNumberHelper>("ZQPhoneNumberHelper", "NSObject")
+        .classMethod("getDigitNumber:"_sel, objc::function<&digitNumber>)
+        .classMethod("trimLeading86:"_sel, objc::function<&withoutLeading86>)
+        .finish();
+}
+
+}  // namespace companion

@@ -1,0 +1,99 @@
+// The device, its version and screen asked by message, and the small helpers without a home.
+#include <charconv>
+#include <cmath>
+
+#include "companion/Companion.hpp"
+#include "companion/classes/Conversions.hpp"
+#include "companion/classes/Pictures.hpp"
+#include "companion/classes/Utilities.hpp"
+#include "objc/class_builder.hpp"
+
+namespace companion {
+
+namespace {
+
+constexpr CGFloat kHeight35Inch = 480;
+constexpr CGFloat kHeightIPhone5 = 568;
+
+/// Major and minor version as one number: "7.1.2" is 7.1; 0 without a device.
+double systemVersion() {
+    const id device = objc::send<id()>("UIDevice"_cls, "currentDevice"_sel);
+    const std::string text = utf8(objc::send<NSString()>(device, "systemVersion"_sel));
+    double version = 0;
+    const size_t minor = text.find('.');
+    const size_t end = minor == std::string::npos ? text.size() : text.find('.', minor + 1);
+    std::from_chars(text.data(), text.data() + std::min(end, text.size()), version);
+    return version;
+}
+
+bool isEarlierThan(double version, bool include) {
+    const double running = systemVersion();
+    return running < version || (include && running == version);
+}
+
+bool isLaterThan(double version, bool include) {
+    const double running = systemVersion();
+    return running > version || (include && running == version);
+}
+
+CGFloat screenHeight() {
+    const id screen = objc::send<id()>("UIScreen"_cls, "mainScreen"_sel);
+    return objc::send<CGRect()>(screen, "bounds"_sel).size.height;
+}
+
+bool isScreen35Inch() { return screenHeight() == kHeight35Inch; }
+
+bool isIPhone5() { return screenHeight() == kHeightIPhone5; }
+
+NSString appResourceDir() { return string(resourceDir().string()); }
+
+NSObject imageWithName(NSString name) {
+    return name.length() == 0 ? NSObject() : picture(utf8(name));
+}
+
+/// A text that is no URL opens nothing.
+void openUrl(NSString text) {
+    if (text.length() == 0) {
+        return;
+    }
+    const id url = objc::send<id(NSString)>("NSURL"_cls, "URLWithString:"_sel, text);
+    if (url != nullptr) {
+        const id application = objc::send<id()>("UIApplication"_cls, "sharedApplication"_sel);
+        objc::send<bool(id)>(application, "openURL:"_sel, url);
+    }
+}
+
+CGFloat ceiling(CGFloat value) { return std::ceil(value); }
+
+NSString trimmed(NSString text) {
+    const id white = objc::send<id()>("NSCharacterSet"_cls, "whitespaceAndNewlineCharacterSet"_sel);
+    return objc::send<NSString(id)>(text, "stringByTrimmingCharactersInSet:"_sel, white);
+}
+
+}  // namespace
+
+Class ZQPhoneUtil::define() {
+    return objc::ClassBuilder<ZQPhoneUtil>("ZQPhoneUtil", "NSObject")
+        .classMethod("isEalierThanIOSVersion:include:"_sel, objc::function<&isEarlierThan>)
+        .classMethod("isLaterThanIOSVersion:include:"_sel, objc::function<&isLaterThan>)
+        .classMethod("isScreen35Inch"_sel, objc::function<&isScreen35Inch>)
+        .classMethod("isIPhone5"_sel, objc::function<&isIPhone5>)
+        .classMethod("getAppResourceDir"_sel, objc::function<&appResourceDir>)
+        .classMethod("getImageWithName:"_sel, objc::function<&imageWithName>)
+        .classMethod("systemOpenUrl:"_sel, objc::function<&openUrl>)
+        .finish();
+}
+
+Class ZQMathUtil::define() {
+    return objc::ClassBuilder<ZQMathUtil>("ZQMathUtil", "NSObject")
+        .classMethod("getCeilCGFloat:"_sel, objc::function<&ceiling>)
+        .finish();
+}
+
+Class ZQStringHelper::define() {
+    return objc::ClassBuilder<ZQStringHelper>("ZQStringHelper", "NSObject")
+        .classMethod("trimmingWhiteSpace:"_sel, objc::function<&trimmed>)
+        .finish();
+}
+
+}  // namespace companion

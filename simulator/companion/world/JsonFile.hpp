@@ -1,0 +1,14 @@
+// Reading a JSON file whole, with errors that say the line.
+#pragma once
+
+#include <filesystem>
+
+#include <nlohmann/json_fwd.hpp>
+
+namespace companion {
+
+/// The document in a file. Throws WorldError, one line naming the file, when it cannot be read,
+/// is no JSON (with line and column) or gives one key twice in the same object.
+nlohmann::json readJsonFile(const std::filesystem::path &file);
+
+}  // namespace companion

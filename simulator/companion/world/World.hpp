@@ -1,0 +1,40 @@
+// Everything that is known at the start of one run: people, numbers, calls, cloud answers.
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <vector>
+
+#include "companion/world/Identity.hpp"
+#include "companion/world/Records.hpp"
+
+namespace companion {
+
+/// A world file that cannot be used. The message is one line: file, place, what was found and what
+/// was expected there.
+class WorldError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+struct World {
+    bool showNumberArea = true;
+    double cloudDelay = 1.0;     ///< seconds from a query to its answer
+    double downloadDelay = 1.0;  ///< seconds from a logo request to the file
+
+    std::vector<Contact> contacts;
+    std::vector<Identity> identities;
+    std::vector<Partner> partners;
+    std::vector<BlackListRule> blackList;
+    std::vector<Microblog> microblogs;
+    std::vector<HistoryEntry> history;
+    std::vector<StoredCall> storedCalls;
+    std::vector<RecentCall> recents;
+    std::vector<CloudAnswer> cloudAnswers;
+
+    /// Reads a JSON file in the format of docs/world.md. Nothing is read in part: a file with any
+    /// mistake throws WorldError.
+    static World read(const std::filesystem::path &file);
+};
+
+}  // namespace companion

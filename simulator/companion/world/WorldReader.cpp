@@ -1,0 +1,217 @@
+// People, calls, partners and answers; the sections that describe numbers are next door.
+#include "companion/world/WorldReader.hpp"
+
+#include <limits>
+#include <set>
+
+#include <nlohmann/json.hpp>
+
+#include "companion/numbers/NumberText.hpp"
+#include "companion/world/JsonFile.hpp"
+
+namespace companion {
+
+namespace {
+
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kLowestPartnerId = 5001;  // smaller numbers are counts of marks
+constexpr double kLongestDelay = 3600;
+constexpr std::int32_t kHighestAction = 9;
+
+void checkCloudAnswer(const JsonPlace &answer) {
+    answer.expectObject({"hit", "Tag", "type", "Amount", "source", "partner"});
+    answer["hit"].booleanOr(false);
+    answer["Tag"].textOr("");
+    answer["type"].integerOr(0, kMost, 0);
+    answer["Amount"].integerOr(0, kMost, 0);
+    answer["source"].textOr("");
+    const JsonPlace partner = answer["partner"];
+    if (!answer.has("partner")) {
+        return;
+    }
+    partner.expectObject({"brand_type", "b_id", "b_n", "b_icon", "source", "ads", "rating"});
+    partner["brand_type"].textOr("");
+    partner["b_id"].integerOr(kLowestPartnerId, kMost, kLowestPartnerId);
+    partner["b_n"].textOr("");
+    partner["b_icon"].pictureOrNone();
+    partner["source"].textOr("");
+    partner["rating"].realOr(0, 5, 0);
+}
+
+}  // namespace
+
+World World::read(const std::filesystem::path &file) {
+    const nlohmann::json document = readJsonFile(file);
+    const std::string name = file.string();
+    return WorldReader().read(JsonPlace(document, name));
+}
+
+World WorldReader::read(const JsonPlace &root) {
+    root.expectObject({"about",          "preferences", "cloudDelay", "downloadDelay",
+                       "contacts",       "ownMarks",    "brands",     "partners",
+                       "partnerNumbers", "reviews",     "marks",      "webSearches",
+                       "labels",         "foreign",     "blackList",  "microblogs",
+                       "history",        "storedCalls", "recents",    "cloudAnswers"});
+    root["about"].textOr("");
+    if (root.has("preferences")) {
+        root["preferences"].expectObject({"showNumberArea"});
+        world_.showNumberArea = root["preferences"]["showNumberArea"].booleanOr(true);
+    }
+    world_.cloudDelay = root["cloudDelay"].realOr(0, kLongestDelay, world_.cloudDelay);
+    world_.downloadDelay = root["downloadDelay"].realOr(0, kLongestDelay, world_.downloadDelay);
+    readContacts(root["contacts"]);
+    readPartners(root["partners"]);
+    readOwnMarks(root["ownMarks"]);
+    readBrands(root["brands"]);
+    readPartnerNumbers(root["partnerNumbers"]);
+    readReviews(root["reviews"]);
+    readMarks(root["marks"]);
+    readWebSearches(root["webSearches"]);
+    readLabels(root["labels"]);
+    readForeign(root["foreign"]);
+    readBlackList(root["blackList"]);
+    readMicroblogs(root["microblogs"]);
+    readCalls(root);
+    readCloudAnswers(root["cloudAnswers"]);
+    return std::move(world_);
+}
+
+void WorldReader::readContacts(const JsonPlace &list) {
+    std::set<std::int32_t> ids;
+    for (const JsonPlace &entry : list.items()) {
+        entry.expectObject({"recordId", "name", "numbers", "avatar"});
+        Contact contact;
+        contact.recordId = entry["recordId"].integer(0, kMost);
+        if (!ids.insert(contact.recordId).second) {
+            entry["recordId"].fail("a record id that no other contact has");
+        }
+        contact.name = entry["name"].nonEmptyText();
+        contact.avatar = entry["avatar"].pictureOrNone();
+        for (const JsonPlace &number : entry["numbers"].items()) {
+            number.expectObject({"label", "number"});
+            static_cast<void>(number["number"].number());  // checked here, kept as written
+            contact.numbers.push_back({number["label"].textOr(""), number["number"].text()});
+        }
+        if (contact.numbers.empty()) {
+            entry["numbers"].fail("a list with one number at least");
+        }
+        world_.contacts.push_back(std::move(contact));
+    }
+}
+
+void WorldReader::readPartners(const JsonPlace &list) {
+    std::set<std::int32_t> ids;
+    for (const JsonPlace &entry : list.items()) {
+        entry.expectObject({"id", "name", "icon", "source", "ads"});
+        Partner partner;
+        partner.id = entry["id"].integer(kLowestPartnerId, kMost);
+        if (!ids.insert(partner.id).second) {
+            entry["id"].fail("an id that no other partner has");
+        }
+        partner.name = entry["name"].nonEmptyText();
+        partner.icon = entry["icon"].pictureOrNone();
+        partner.source = entry["source"].textOr("");
+        nlohmann::json ads = nlohmann::json::array();
+        for (const JsonPlace &ad : entry["ads"].items()) {
+            ads.push_back(ad.nonEmptyText());
+        }
+        partner.ads = ads.dump();
+        world_.partners.push_back(std::move(partner));
+    }
+}
+
+void WorldReader::readBlackList(const JsonPlace &list) {
+    for (const JsonPlace &entry : list.items()) {
+        entry.expectObject({"number", "prefix"});
+        if (entry.has("number") == entry.has("prefix")) {
+            entry.fail("either a number or a prefix", entry.has("number") ? "both" : "neither");
+        }
+        if (entry.has("number")) {
+            world_.blackList.push_back({entry["number"].number(), false});
+            continue;
+        }
+        const std::string prefix = entry["prefix"].text();
+        if (prefix.empty() || digitsOf(prefix) != prefix) {
+            entry["prefix"].fail("the first digits of a pure number, as a text");
+        }
+        world_.blackList.push_back({prefix, true});
+    }
+}
+
+void WorldReader::readMicroblogs(const JsonPlace &list) {
+    std::set<std::string> numbers;
+    for (const JsonPlace &entry : list.items()) {
+        entry.expectObject({"number", "name", "content", "avatarType", "boundType", "avatar"});
+        Microblog blog;
+        blog.number = entry["number"].number();
+        if (!numbers.insert(blog.number).second) {
+            entry["number"].fail("a number that has no other microblog");
+        }
+        blog.name = entry["name"].nonEmptyText();
+        blog.content = entry["content"].textOr("");
+        blog.avatarKind = entry["avatarType"].integerOr(0, kMost, 0);
+        blog.boundKind = entry["boundType"].integerOr(0, kMost, 0);
+        blog.avatar = entry["avatar"].pictureOrNone();
+        world_.microblogs.push_back(std::move(blog));
+    }
+}
+
+void WorldReader::readCalls(const JsonPlace &root) {
+    for (const JsonPlace &entry : root["history"].items()) {
+        entry.expectObject({"number", "actionType", "date"});
+        world_.history.push_back({entry["number"].number(),
+                                  entry["actionType"].integer(0, kHighestAction),
+                                  entry["date"].date()});
+    }
+    for (const JsonPlace &entry : root["storedCalls"].items()) {
+        entry.expectObject({"number", "date"});
+        world_.storedCalls.push_back({entry["number"].number(), entry["date"].date()});
+    }
+    for (const JsonPlace &entry : root["recents"].items()) {
+        entry.expectObject({"number", "name", "label", "direction", "answered", "date"});
+        RecentCall call;
+        call.number = entry["number"].textOr("");
+        call.name = entry["name"].textOr("");
+        call.label = entry["label"].textOr("");
+        const std::string direction = entry["direction"].textOr("");
+        if (direction != "incoming" && direction != "outgoing") {
+            entry["direction"].fail("\"incoming\" or \"outgoing\"");
+        }
+        call.incoming = direction == "incoming";
+        call.answered = entry["answered"].boolean();
+        call.date = entry["date"].date();
+        world_.recents.push_back(std::move(call));
+    }
+}
+
+void WorldReader::readCloudAnswers(const JsonPlace &list) {
+    std::set<std::string> numbers;
+    for (const JsonPlace &entry : list.items()) {
+        entry.expectObject({"number", "delay", "answer", "error", "cancel"});
+        CloudAnswer answer;
+        answer.number = entry["number"].number();
+        if (!numbers.insert(answer.number).second) {
+            entry["number"].fail("a number that has no other cloud answer");
+        }
+        if (entry.has("delay")) {
+            answer.delay = entry["delay"].real(0, kLongestDelay);
+        }
+        const bool cancel = entry["cancel"].booleanOr(false);
+        const int outcomes = int{entry.has("answer")} + int{entry.has("error")} + int{cancel};
+        if (outcomes != 1) {
+            entry.fail("one of answer, error and cancel (true)", std::to_string(outcomes));
+        }
+        if (entry.has("answer")) {
+            checkCloudAnswer(entry["answer"]);
+            answer.text = entry["answer"].compactJson();
+        } else if (entry.has("error")) {
+            answer.outcome = CloudAnswer::Outcome::error;
+            answer.text = entry["error"].nonEmptyText();
+        } else {
+            answer.outcome = CloudAnswer::Outcome::cancel;
+        }
+        world_.cloudAnswers.push_back(std::move(answer));
+    }
+}
+
+}  // namespace companion

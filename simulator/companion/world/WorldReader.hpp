@@ -1,0 +1,42 @@
+// The format of world files: which sections there are and what each entry of them holds.
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+
+#include "companion/world/JsonPlace.hpp"
+#include "companion/world/World.hpp"
+
+namespace companion {
+
+/// Fills a world from a document, section by section; throws WorldError at the first mistake.
+class WorldReader {
+  public:
+    World read(const JsonPlace &root);
+
+  private:
+    void readContacts(const JsonPlace &list);
+    void readPartners(const JsonPlace &list);
+    void readBlackList(const JsonPlace &list);
+    void readMicroblogs(const JsonPlace &list);
+    void readCalls(const JsonPlace &root);
+    void readCloudAnswers(const JsonPlace &list);
+
+    void readOwnMarks(const JsonPlace &list);
+    void readBrands(const JsonPlace &list);
+    void readPartnerNumbers(const JsonPlace &list);
+    void readReviews(const JsonPlace &list);
+    void readMarks(const JsonPlace &list);
+    void readWebSearches(const JsonPlace &list);
+    void readLabels(const JsonPlace &list);
+    void readForeign(const JsonPlace &list);
+
+    /// An identity with the number that the entry gives; a number has one identity of an origin.
+    Identity identityAt(const JsonPlace &entry, IdentityOrigin origin, std::int32_t kind);
+
+    World world_;
+    std::map<std::pair<IdentityOrigin, std::string>, std::string> describedAt_;
+};
+
+}  // namespace companion
