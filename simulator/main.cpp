@@ -1,0 +1,10 @@
+// phone-simulator: the simulated Phone application from the command line.
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "stage/Run.hpp"
+
+int main(int count, char **words) {
+    return stage::run(std::vector<std::string>(words + 1, words + count), std::cout, std::cerr);
+}

@@ -1,0 +1,68 @@
+// Makes all classes known when the library is mapped, superclasses first.
+#include "phone/Classes.hpp"
+
+#include "phone/contact/ABContactViewController.hpp"
+#include "phone/contact/ABNewPersonViewController.hpp"
+#include "phone/dialer/DialerController.hpp"
+#include "phone/dialer/DialerView.hpp"
+#include "phone/dialer/PHHandsetDialerLCDView.hpp"
+#include "phone/dialer/PHHandsetDialerNameLabelView.hpp"
+#include "phone/frame/PhoneStatusBar.hpp"
+#include "phone/frame/PhoneTabBarController.hpp"
+#include "phone/incall/InCallController.hpp"
+#include "phone/incall/TPLCDLabelView.hpp"
+#include "phone/incall/TPLCDTextView.hpp"
+#include "phone/incall/TPLCDView.hpp"
+#include "phone/incall/TPWallpaperView.hpp"
+#include "phone/incall/TUTelephonyCall.hpp"
+#include "phone/recents/PHRecentsCell.hpp"
+#include "phone/recents/PHRecentsViewController.hpp"
+#include "phone/recents/UIDateLabel.hpp"
+
+namespace phone {
+namespace {
+
+__attribute__((constructor)) void defineClasses() {
+    const objc::AutoreleasePool pool;
+    PhoneStatusBar::define();
+    PhoneTabBar::define();
+    PhoneTabBarController::define();
+    PhoneViewController::define();
+
+    PHHandsetDialerNameLabelView::define();
+    PHHandsetDialerLCDView::define();
+    DialerKey::define();
+    DialerView::define();
+    DialerController::define();
+
+    TUTelephonyCall::define();
+    InCallController::define();
+    TPLCDTextView::define();
+    TPLCDLabelView::define();
+    TPLCDView::define();
+    TPWallpaperView::define();
+
+    UIDateLabel::define();
+    PHRecentsCell::define();
+    PHRecentsViewController::define();
+
+    ABContactHeaderDisplayView::define();
+    ABContactHeaderView::define();
+    ABContactViewController::define();
+    ABNewPersonViewController::define();
+}
+
+}  // namespace
+
+bool forgetClass(const char *name) {
+    const Class cls = objc::findClass(name);
+    if (!cls) {
+        return false;
+    }
+    // GCC's runtime never takes a class back, but finds it by comparing names, and a class made at
+    // run time has a copy of its name that is its own. A name that no source can write hides it.
+    *const_cast<char *>(class_getName(cls)) = '-';
+    return true;
+}
+
+}  // namespace phone

@@ -1,0 +1,43 @@
+// The small pieces that all screens are put together from.
+#pragma once
+
+#include "objc/owned.hpp"
+#include "platform/UIKit.hpp"
+#include "uikit/SimLabel.hpp"
+
+namespace phone {
+
+/// One of our own views as a handle.
+inline UIView asView(const SimView &view) { return UIView(view); }
+
+/// [[T alloc] initWithFrame:frame]
+template <class T>
+objc::Owned<UIView> makeView(CGRect frame) {
+    const id memory = objc::send<id()>(objc::classOf<T>(), "alloc"_sel);
+    return objc::Owned<UIView>::adopt(
+        objc::send<UIView(CGRect)>(memory, "initWithFrame:"_sel, frame));
+}
+
+/// A label of one line with the system font in `points`.
+objc::Owned<UILabel> makeLabel(CGRect frame, CGFloat points,
+                               sim::TextAlignment alignment = sim::TextAlignment::Center);
+
+/// The simulator's side of a label, for what the handle does not offer.
+SimLabel *simLabel(UILabel label);
+
+/// The picture "share/phone/NAME.png"; nil when it is missing.
+UIImage picture(const char *name);
+
+/// An image view of the picture's size with its origin at `origin`.
+objc::Owned<UIImageView> makePicture(const char *name, CGPoint origin);
+
+/// The light face that numbers are written in.
+UIFont lightFont(CGFloat points);
+
+/// Components from 0 to 255.
+UIColor color(int red, int green, int blue);
+
+/// Whether the text is neither nil nor empty.
+inline bool hasText(NSString text) { return text.length() > 0; }
+
+}  // namespace phone

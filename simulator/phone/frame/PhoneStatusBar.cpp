@@ -1,0 +1,29 @@
+// The status bar. Its time stands still, so that pictures are the same from run to run.
+#include "phone/frame/PhoneStatusBar.hpp"
+
+#include "uikit/Registration.hpp"
+
+namespace phone {
+
+void PhoneStatusBar::define() {
+    using objc::member;
+    sim::defined("PhoneStatusBar",
+                 objc::ClassBuilder<PhoneStatusBar>("PhoneStatusBar", "UIView")
+                     .method("initWithFrame:"_sel, member<&PhoneStatusBar::initWithFrame>)
+                     .finish());
+}
+
+id PhoneStatusBar::initWithFrame(CGRect frame) {
+    objc::sendSuper<PhoneStatusBar, id(CGRect)>(this, "initWithFrame:"_sel, frame);
+    const CGFloat width = frame.size.width;
+    time_ = makeLabel(rect(0, 0, width, frame.size.height), 12);
+    time_->setFont(objc::send<UIFont(CGFloat)>("UIFont"_cls, "boldSystemFontOfSize:"_sel, 12));
+    time_->setText("9:41"_ns);
+    asView(*this).addSubview(makePicture("status_signal", {6, 6}));
+    asView(*this).addSubview(time_);
+    asView(*this).addSubview(makePicture("status_battery", {width - 31, 5}));
+    setUserInteractionEnabled(false);
+    return *this;
+}
+
+}  // namespace phone

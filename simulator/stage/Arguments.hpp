@@ -1,0 +1,61 @@
+// A small reader of command lines. Written here because the steps of a scene are options whose
+// order counts, and because a typed text is taken exactly as it stands, whatever it begins with.
+#pragma once
+
+#include <initializer_list>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace stage {
+
+/// One option of a command. Without a value it is a switch.
+struct OptionSpec {
+    std::string_view name;   // "--ios"
+    std::string_view value;  // what the help calls the value: "VERSION"
+    std::string_view help;
+    std::vector<std::string_view> choices{};  // the only values allowed; any when empty
+};
+
+struct CommandSpec {
+    std::string_view name;
+    std::string_view summary;
+    std::string_view
+        words;  // what the help calls the plain arguments: "NUMBER..."; none when empty
+    std::vector<OptionSpec> options;
+};
+
+/// One option as it was given.
+struct GivenOption {
+    std::string_view name;
+    std::string value;
+};
+
+/// A command line in the order in which it was written.
+struct Arguments {
+    const CommandSpec *command = nullptr;  // none: only --help, --version or nothing at all
+    std::vector<GivenOption> options;
+    std::vector<std::string> words;
+    bool help = false;
+    bool version = false;
+
+    /// The last value given for an option.
+    std::optional<std::string> last(std::string_view name) const;
+    bool has(std::string_view name) const { return last(name).has_value(); }
+};
+
+/// Reads the arguments after the program's name. Throws UsageError, naming the choices.
+Arguments readArguments(std::span<const CommandSpec> commands, std::span<const std::string> words);
+
+/// A whole number from `least` upwards. Throws UsageError naming the option.
+int readNumber(const GivenOption &given, int least);
+
+std::string helpText(std::span<const CommandSpec> commands);
+std::string helpText(const CommandSpec &command);
+
+/// "a, b or c"
+std::string joinChoices(std::span<const std::string_view> choices);
+
+}  // namespace stage

@@ -1,0 +1,109 @@
+// Writing the gallery's page. Picking a device is done by radio buttons and a style sheet alone.
+#include "stage/GalleryPage.hpp"
+
+namespace stage {
+namespace {
+
+constexpr std::string_view kStyle = R"(
+body { font: 15px/1.5 system-ui, sans-serif; margin: 0 auto; max-width: 1080px; padding: 24px;
+       color: #1c1c1e; background: #f2f2f7; }
+h1 { font-weight: 600; } h2 { font-size: 18px; margin: 0; } p { margin: 2px 0 12px; color: #636366; }
+section { background: #fff; border-radius: 12px; padding: 20px; margin: 16px 0; }
+input { position: absolute; opacity: 0; }
+label { display: inline-block; padding: 6px 14px; margin: 0 6px 8px 0; border-radius: 16px;
+        background: #e5e5ea; cursor: pointer; }
+input:focus-visible + label { outline: 2px solid #007aff; }
+.pair { display: none; gap: 24px; flex-wrap: wrap; }
+figure { margin: 0; width: 320px; }
+img { width: 320px; height: auto; border: 1px solid #d1d1d6; border-radius: 4px; display: block; }
+figcaption { padding-top: 6px; font-size: 13px; color: #48484a; }
+)";
+
+std::string id(const Model &model) {
+    std::string name = "d-" + model.slug();
+    for (char &c : name) {
+        c = c == '.' ? '-' : c;
+    }
+    return name;
+}
+
+/// For each device: its button looks chosen, and its pictures are shown.
+std::string chooserStyle(std::span<const Model> models) {
+    std::string style;
+    for (const Model &model : models) {
+        style += "#" + id(model) + ":checked + label { background: #007aff; color: #fff; }\n";
+        style += "#" + id(model) + ":checked ~ section ." + id(model) + " { display: flex; }\n";
+    }
+    return style;
+}
+
+std::string chooser(std::span<const Model> models) {
+    std::string buttons;
+    for (const Model &model : models) {
+        buttons += R"(<input type="radio" name="device" id=")" + id(model) + "\"" +
+                   (&model == models.data() ? " checked" : "") + "><label for=\"" + id(model) +
+                   "\">" + escapedHtml(model.title()) + "</label>\n";
+    }
+    return buttons;
+}
+
+std::string figure(const std::string &picture, const std::string &who, const std::string &caption) {
+    const std::string said = caption.empty() ? "" : ": " + escapedHtml(caption);
+    return R"(<figure><img loading="lazy" src=")" + escapedHtml(picture) + "\" alt=\"" + who +
+           said + "\"><figcaption>" + who + said + "</figcaption></figure>\n";
+}
+
+std::string section(const Scene &scene, std::span<const Exhibit> exhibits) {
+    std::string html = "<section id=\"" + escapedHtml(scene.name) + "\">\n<h2>" +
+                       escapedHtml(scene.title) + "</h2>\n<p>" + escapedHtml(scene.note) + "</p>\n";
+    for (const Exhibit &exhibit : exhibits) {
+        if (exhibit.scene == scene.name) {
+            html += "<div class=\"pair " + id(exhibit.model) + "\">\n" +
+                    figure(exhibit.pictureWithout, "Without the add-on", exhibit.captionWithout) +
+                    figure(exhibit.pictureWith, "With it", exhibit.captionWith) + "</div>\n";
+        }
+    }
+    return html + "</section>\n";
+}
+
+}  // namespace
+
+std::string escapedHtml(std::string_view text) {
+    std::string escaped;
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            escaped += "&amp;";
+            break;
+        case '<':
+            escaped += "&lt;";
+            break;
+        case '>':
+            escaped += "&gt;";
+            break;
+        case '"':
+            escaped += "&quot;";
+            break;
+        default:
+            escaped += c;
+        }
+    }
+    return escaped;
+}
+
+std::string galleryPage(std::span<const Scene> scenes, std::span<const Model> models,
+                        std::span<const Exhibit> exhibits) {
+    std::string html =
+        "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+        "<title>libZQDial: the gallery</title>\n<style>";
+    html += kStyle;
+    html += chooserStyle(models) + "</style>\n</head>\n<body>\n<h1>libZQDial</h1>\n" +
+            "<p>The simulated Phone application without and with the add-on. Pick a device:</p>\n" +
+            chooser(models);
+    for (const Scene &scene : scenes) {
+        html += section(scene, exhibits);
+    }
+    return html + "</body>\n</html>\n";
+}
+
+}  // namespace stage

@@ -1,0 +1,35 @@
+// What the user asked for, read from the command line and checked as far as that goes without
+// running anything.
+#pragma once
+
+#include <filesystem>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "stage/Arguments.hpp"
+#include "stage/Model.hpp"
+#include "stage/Step.hpp"
+
+namespace stage {
+
+enum class Task { Help, Version, Dialer, Hooks, Gallery, Describe };
+
+struct Request {
+    Task task = Task::Help;
+    std::string help;  // the text to print for Task::Help
+    Model model;
+    bool withAddOn = true;
+    std::filesystem::path world;  // empty: the simulator's own
+    std::filesystem::path data;   // empty: the build's folder
+    std::filesystem::path out;    // of the gallery
+    bool verbose = false;
+    std::string withoutClass;  // a class of the Phone application to leave out
+    Steps steps;
+    std::vector<std::string> numbers;
+};
+
+/// Reads the arguments after the program's name. Throws UsageError.
+Request readRequest(std::span<const std::string> words);
+
+}  // namespace stage

@@ -1,0 +1,136 @@
+// The commands of phone-simulator.
+#include "stage/Run.hpp"
+
+#include <filesystem>
+
+#include "stage/Errors.hpp"
+#include "stage/Gallery.hpp"
+#include "stage/Request.hpp"
+#include "stage/Session.hpp"
+#include "stage/TextTable.hpp"
+#include "substrate/HookLog.hpp"
+
+namespace stage {
+namespace {
+
+namespace fs = std::filesystem;
+
+Settings settingsOf(const Request &request) {
+    Settings settings;
+    settings.model = request.model;
+    settings.withAddOn = request.withAddOn;
+    settings.world = request.world;
+    settings.data = request.data;
+    settings.verbose = request.verbose;
+    settings.withoutClass = request.withoutClass;
+    return settings;
+}
+
+/// Pictures have to have a place before the first step is done.
+void checkPictureFolders(const Steps &steps) {
+    for (const Step &step : steps) {
+        const fs::path folder = fs::path(step.text).parent_path();
+        if (step.kind == Step::Kind::Picture && !folder.empty() && !fs::is_directory(folder)) {
+            throw Failure(step.text + ": there is no folder " + folder.string() +
+                          "; make it first, or name another file with --png");
+        }
+    }
+}
+
+void runDialer(const Request &request, std::ostream &out) {
+    checkPictureFolders(request.steps);
+    Session session(settingsOf(request));
+    for (const Step &step : request.steps) {
+        session.perform(step, out);
+    }
+}
+
+std::string outcomeText(substrate::HookEntry::Outcome outcome) {
+    switch (outcome) {
+    case substrate::HookEntry::Outcome::Replaced:
+        return "replaced";
+    case substrate::HookEntry::Outcome::Added:
+        return "overridden, was inherited";
+    case substrate::HookEntry::Outcome::MissingMethod:
+        return "skipped: no such method";
+    case substrate::HookEntry::Outcome::MissingClass:
+        return "skipped: no such class";
+    }
+    return {};
+}
+
+void runHooks(const Request &request, std::ostream &out) {
+    const Session session(settingsOf(request));
+    TextTable table({"", "class", "selector", "replacement", "outcome"});
+    int installed = 0;
+    for (const substrate::HookEntry &entry : substrate::hookLog()) {
+        const bool isInstalled = entry.outcome == substrate::HookEntry::Outcome::Replaced ||
+                                 entry.outcome == substrate::HookEntry::Outcome::Added;
+        installed += isInstalled ? 1 : 0;
+        table.add({isInstalled ? std::to_string(installed) : "", entry.className, entry.selector,
+                   entry.replacement, outcomeText(entry.outcome)});
+    }
+    out << table.str() << request.model.title() << ": " << installed
+        << (installed == 1 ? " method" : " methods") << " replaced, "
+        << substrate::hookLog().size() - static_cast<size_t>(installed) << " skipped\n";
+}
+
+void runDescribe(const Request &request, std::ostream &out) {
+    Session session(settingsOf(request));
+    TextTable table({"typed", "shown", "below the number"});
+    for (const std::string &number : request.numbers) {
+        session.openDialer();
+        session.perform({Step::Kind::Type, number}, out);
+        table.add({number, session.numberText(), session.lineText()});
+    }
+    out << table.str();
+}
+
+void runRequest(const Request &request, std::ostream &out) {
+    switch (request.task) {
+    case Task::Help:
+        out << request.help;
+        break;
+    case Task::Version:
+        out << "phone-simulator " << ZQDIAL_VERSION << '\n';
+        break;
+    case Task::Dialer:
+        runDialer(request, out);
+        break;
+    case Task::Hooks:
+        runHooks(request, out);
+        break;
+    case Task::Gallery:
+        out << makeGallery(request.out, settingsOf(request)) << " pictures and "
+            << (request.out / "index.html").string() << '\n';
+        break;
+    case Task::Describe:
+        runDescribe(request, out);
+        break;
+    }
+}
+
+}  // namespace
+
+int run(std::span<const std::string> words, std::ostream &out, std::ostream &err) {
+    constexpr int kFailed = 1;
+    constexpr int kWrongUsage = 2;
+    try {
+        runRequest(readRequest(words), out);
+        if (!out.flush()) {
+            throw Failure("the output cannot be written; is the disk full?");
+        }
+        return 0;
+    } catch (const UsageError &error) {
+        err << error.what() << '\n';
+        return kWrongUsage;
+    } catch (const std::exception &error) {
+        err << "phone-simulator: " << error.what() << '\n';
+    } catch (...) {
+        err << "phone-simulator: an Objective-C exception ended the run; please report the "
+               "command\n";
+    }
+    return kFailed;
+}
+
+}  // namespace stage

@@ -1,0 +1,22 @@
+// The moments that the gallery shows, each a title and the steps that lead to it in the sample
+// world.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "stage/Step.hpp"
+
+namespace stage {
+
+struct Scene {
+    std::string_view name;   // of its files: "dialer-brand"
+    std::string_view title;  // for the page
+    std::string_view note;   // what to look at
+    Steps steps;
+};
+
+/// Every scene, in the order of the page.
+std::span<const Scene> scenes();
+
+}  // namespace stage

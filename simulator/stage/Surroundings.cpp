@@ -1,0 +1,86 @@
+// Preparing the process, in the order in which things depend on each other.
+#include "stage/Surroundings.hpp"
+
+#include <cstdlib>
+
+#include <unistd.h>
+
+#include "companion/Companion.hpp"
+#include "phone/Classes.hpp"
+#include "phone/Resources.hpp"
+#include "phone/dialer/ContactBook.hpp"
+#include "stage/Errors.hpp"
+#include "stage/MainBundle.hpp"
+#include "stage/Session.hpp"
+#include "substrate/HookLog.hpp"
+#include "substrate/Loader.hpp"
+#include "uikit/Device.hpp"
+#include "uikit/SimImage.hpp"
+#include "uikit/drawing/FixedAdvanceMeasurer.hpp"
+
+namespace stage {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Foundation keeps defaults in the user's home as soon as anybody asks for one; the simulator's
+/// belong to its own data.
+fs::path openDataFolder(const fs::path &wanted) {
+    const fs::path folder = wanted.empty() ? defaultDataFolder() : wanted;
+    const fs::path home = folder / "home";
+    std::error_code error;
+    fs::create_directories(home / "GNUstep" / "Defaults", error);
+    if (error) {
+        throw Failure(folder.string() + ": cannot be made a data folder: " + error.message() +
+                      "; name another with --data");
+    }
+    setenv("HOME", home.c_str(), 1);
+    setenv("GNUSTEP_USER_ROOT", (home / "GNUstep").c_str(), 1);
+    return folder;
+}
+
+void fillContactBook() {
+    phone::ContactBook::shared().clear();
+    for (const companion::Contact &known : companion::store().contacts()) {
+        phone::Contact contact{known.name, {}};
+        for (const companion::ContactNumber &entry : known.numbers) {
+            contact.numbers.push_back({entry.number, entry.label});
+        }
+        phone::ContactBook::shared().add(std::move(contact));
+    }
+}
+
+void loadAddOn() {
+    const fs::path folder = phone::installFolder() / "lib";
+    if (!fs::exists(folder / "libZQDial.so")) {
+        throw Failure((folder / "libZQDial.so").string() +
+                      ": the add-on is not there; build it, or pass --without-addon");
+    }
+    substrate::loadAddOns(folder);
+}
+
+}  // namespace
+
+fs::path defaultDataFolder() { return phone::installFolder() / "data"; }
+
+void prepareProcess(const Settings &settings) {
+    const fs::path data = openDataFolder(settings.data);
+    if (!settings.withoutClass.empty() && !phone::forgetClass(settings.withoutClass.c_str())) {
+        throw Failure("--without-class: the Phone application has no class " +
+                      settings.withoutClass);
+    }
+    sim::Device::setCurrent({std::string(settings.model.ios), settings.model.screenSize(), 2});
+    if (settings.fixedMeasurer) {
+        sim::TextMeasurer::setCurrent(std::make_unique<sim::FixedAdvanceMeasurer>());
+    }
+    SimImage::setNamedFolder(phone::pictureFolder().string());
+    substrate::setVerbose(settings.verbose);
+    setMainBundleIdentifier(settings.bundleIdentifier);
+    companion::open({settings.world, data, {}});
+    fillContactBook();
+    if (settings.withAddOn) {
+        loadAddOn();
+    }
+}
+
+}  // namespace stage

@@ -1,0 +1,16 @@
+// What the hooking framework asks of GCC's runtime beyond the bridge's own list.
+#pragma once
+
+#include "objc/runtime.hpp"
+
+extern "C" {
+Method *class_copyMethodList(Class cls, unsigned int *count);
+SEL method_getName(Method method);
+IMP method_getImplementation(Method method);
+IMP method_setImplementation(Method method, IMP implementation);
+const char *method_getTypeEncoding(Method method);
+
+/// Called with the name of a class that objc_getClass does not find; answers the class, or nil.
+using ClassHandler = Class (*)(const char *name);
+ClassHandler objc_setGetUnknownClassHandler(ClassHandler handler);
+}

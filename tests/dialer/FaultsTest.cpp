@@ -1,0 +1,99 @@
+// The dialer's row when something is missing: the Phone application's own line is what stays.
+#include <gtest/gtest.h>
+
+#include "dialer/ZQDialNumberInputUIHook.hpp"
+#include "dialer/replacements.hpp"
+#include "hook/installation.hpp"
+#include "phone/Parts.hpp"
+#include "phone/dialer/PHHandsetDialerLCDView.hpp"
+#include "support/StubCompanion.hpp"
+
+namespace {
+
+using objc::send;
+using test::StubCompanion;
+
+class DialerFaults : public testing::Test {
+  protected:
+    DialerFaults() {
+        StubCompanion::registerClasses();
+        stub = {};
+        stub.iosVersion = 7.0;
+        stub.labels = {{"02012345678", "广告推销"}};
+        hook::registerClasses();
+        hook::initializeDialerHook();
+        display = phone::makeView<phone::PHHandsetDialerLCDView>(rect(0, 0, 320, 80));
+        lcd = display.get().as<PHHandsetDialerLCDView>();
+    }
+
+    /// As the Phone application does after each key press.
+    void type(NSString number) {
+        lcd.numberLabel().setText(number);
+        send<void(NSString, NSString)>(lcd, "setName:numberLabel:"_sel, nullptr, nullptr);
+    }
+    bool isHidden(UIView view) const { return send<bool()>(view, "isHidden"_sel); }
+    UIView row() const { return lcd.viewWithTag(1000); }
+    bool showsNameLineOnly() const {
+        return !isHidden(lcd.nameAndLabelView()) && (!row() || isHidden(row()));
+    }
+
+    objc::AutoreleasePool pool_;
+    StubCompanion &stub = StubCompanion::current();
+    objc::Owned<UIView> display;
+    PHHandsetDialerLCDView lcd;
+};
+
+TEST_F(DialerFaults, NothingIsAskedForShortTexts) {
+    for (const NSString text : {NSString(), ""_ns, "1"_ns, "12"_ns, "😀"_ns}) {
+        type(text);
+        EXPECT_TRUE(showsNameLineOnly());
+    }
+    EXPECT_TRUE(stub.queries.empty());
+    EXPECT_EQ(stub.parsedNumbers, 0);
+    type("123"_ns);
+    EXPECT_EQ(stub.queries.size(), 1U);
+}
+
+TEST_F(DialerFaults, ACompanionThatRaisesHidesAnEarlierDescription) {
+    type("02012345678"_ns);
+    ASSERT_FALSE(showsNameLineOnly());
+    stub.raises = true;
+    type("02012345678"_ns);
+    EXPECT_TRUE(showsNameLineOnly());
+    stub.raises = false;
+    type("02012345678"_ns);
+    EXPECT_TRUE(isHidden(lcd.nameAndLabelView()));
+    EXPECT_FALSE(isHidden(row()));
+}
+
+TEST_F(DialerFaults, AMissingPictureLeavesAnEmptyIcon) {
+    type("02012345678"_ns);
+    EXPECT_EQ(stub.imagesAskedFor, 1);
+    EXPECT_EQ(lcd.viewWithTag(1001).frame(), rect(0, 5, 15, 15));
+    type("020123456789"_ns);
+    type("02012345678"_ns);
+    EXPECT_EQ(stub.imagesAskedFor, 1) << "the row is made once";
+}
+
+TEST_F(DialerFaults, ARowThatCannotBeLaidOutLeavesThePhoneApplicationsLine) {
+    type("02012345678"_ns);
+    // A view that is no label has no font and no text: the row cannot be laid out.
+    lcd.viewWithTag(1002).removeFromSuperview();
+    const auto other = withFrame<UIView>(rect(0, 0, 1, 1));
+    other->setTag(1002);
+    row().addSubview(other);
+    type("02012345678"_ns);
+    EXPECT_TRUE(showsNameLineOnly());
+}
+
+TEST_F(DialerFaults, MissingViewsOfTheRowAreLeftOut) {
+    type("02012345678"_ns);
+    for (const NSInteger tag : {1001, 1003, 1004}) {
+        lcd.viewWithTag(tag).removeFromSuperview();
+    }
+    type("02012345678"_ns);
+    EXPECT_EQ(row().frame().size.width, 56 + 5 + 10);
+    EXPECT_EQ(lcd.viewWithTag(1002).frame().origin.x, 5);
+}
+
+}  // namespace

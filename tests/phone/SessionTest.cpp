@@ -1,0 +1,188 @@
+// Sessions with the add-on, and the commands as a whole.
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <gmock/gmock.h>
+
+#include "objc/runtime.hpp"
+#include "stage/Errors.hpp"
+#include "stage/Run.hpp"
+#include "stage/Session.hpp"
+#include "substrate/HookLog.hpp"
+
+namespace {
+
+namespace fs = std::filesystem;
+using stage::Session;
+using stage::Settings;
+using stage::Step;
+using substrate::HookEntry;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class Stage : public testing::Test {
+  public:
+    Stage() {
+        fs::remove_all(folder_);
+        fs::create_directories(folder_);
+    }
+    ~Stage() override { fs::remove_all(folder_); }
+
+  protected:
+    Settings settings(std::string_view ios, std::string_view screen) const {
+        Settings settings;
+        settings.model = stage::modelNamed(ios, screen);
+        settings.data = folder_ / "data";
+        settings.fixedMeasurer = true;
+        return settings;
+    }
+
+    struct Outcome {
+        int code;
+        std::string out;
+        std::string err;
+    };
+
+    Outcome run(std::vector<std::string> words) const {
+        words.insert(words.end(), {"--data", (folder_ / "data").string()});
+        std::ostringstream out;
+        std::ostringstream err;
+        const int code = stage::run(words, out, err);
+        return {code, out.str(), err.str()};
+    }
+
+    static long count(HookEntry::Outcome outcome) {
+        return std::ranges::count(substrate::hookLog(), outcome, &HookEntry::outcome);
+    }
+
+    fs::path folder_ = fs::path(testing::TempDir()) /
+                       testing::UnitTest::GetInstance()->current_test_info()->name();
+};
+
+std::string typed(Session &session, const std::string &text) {
+    std::ostringstream out;
+    session.perform({Step::Kind::Type, text}, out);
+    return session.lineText();
+}
+
+TEST_F(Stage, InstallsEveryRowOfTheOldestDevice) {
+    const Session session(settings("7.0", "3.5"));
+    EXPECT_EQ(count(HookEntry::Outcome::Replaced) + count(HookEntry::Outcome::Added), 24);
+    EXPECT_EQ(std::ssize(substrate::hookLog()), 24) << "nothing is skipped";
+    for (const HookEntry &entry : substrate::hookLog()) {
+        EXPECT_THAT(entry.replacement, StartsWith("replace_" + entry.className));
+        EXPECT_TRUE(entry.saved);
+    }
+}
+
+TEST_F(Stage, SkipsAMissingClassAndGoesOn) {
+    Settings without = settings("7.0", "4");
+    without.withoutClass = "TUTelephonyCall";
+    const Session session(without);
+    EXPECT_EQ(count(HookEntry::Outcome::MissingClass), 2);
+    EXPECT_EQ(count(HookEntry::Outcome::Replaced) + count(HookEntry::Outcome::Added), 21);
+}
+
+TEST_F(Stage, AnotherApplicationLoadsNothing) {
+    Settings other = settings("7.0", "4");
+    other.bundleIdentifier = "com.example.other";
+    const Session session(other);
+    EXPECT_TRUE(substrate::hookLog().empty());
+    EXPECT_FALSE(objc::findClass("ZQDialNumberInputUIHook"));
+}
+
+TEST_F(Stage, TypesInTheSampleWorld) {
+    Session session(settings("7.1", "4"));
+    EXPECT_EQ(typed(session, "13800130011"), "林小满 | 手机");
+    session.openDialer();
+    EXPECT_EQ(typed(session, "4002001818"), "云雀速递");
+    EXPECT_EQ(session.numberText(), "400 200 1818");
+    session.openDialer();
+    EXPECT_EQ(typed(session, std::string(10000, '9')), "添加到通讯录");
+}
+
+TEST_F(Stage, EightHasNoAddOnInTheDialer) {
+    Session session(settings("8.0", "4"));
+    EXPECT_EQ(typed(session, "4002001818"), "添加到通讯录");
+}
+
+TEST_F(Stage, SavesANewContact) {
+    std::ostringstream out;
+    Session session(settings("7.0", "4"));
+    const Step save{Step::Kind::SaveContact, "新朋友"};
+    EXPECT_THROW(session.perform(save, out), stage::Failure) << "no sheet is open";
+    typed(session, "4002001818");
+    session.perform({Step::Kind::Touch}, out);
+    session.perform(save, out);
+    EXPECT_EQ(session.lineText(), "新朋友 | 手机");
+}
+
+TEST_F(Stage, RunsStepsAndWritesPictures) {
+    const fs::path picture = folder_ / "screen.png";
+    const Outcome outcome = run({"dialer", "--type", "138", "--tree", "--delete", "1", "--png",
+                                 picture.string(), "--without-addon"});
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_THAT(outcome.out, HasSubstr("UILabel (12, 2, 296, 46) \"138\""));
+    EXPECT_GT(fs::file_size(picture), 1000U);
+}
+
+TEST_F(Stage, MissingFolderStopsBeforeTheFirstStep) {
+    const std::string picture = folder_ / "nowhere" / "screen.png";
+    const Outcome outcome = run({"dialer", "--tree", "--png", picture});
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_THAT(outcome.err, StartsWith("phone-simulator: " + picture));
+}
+
+TEST_F(Stage, BrokenWorldEndsInOneLine) {
+    const fs::path world = folder_ / "world.json";
+    std::ofstream(world) << R"({"contacts": 3})";
+    const Outcome outcome = run({"describe", "10086", "--world", world.string()});
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_THAT(outcome.err, HasSubstr(world.string()));
+    EXPECT_THAT(outcome.err, EndsWith("\n"));
+    EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1);
+}
+
+TEST_F(Stage, DataFolderHasToBeAFolder) {
+    std::ofstream(folder_ / "data") << "in the way";
+    const Outcome outcome = run({"describe", "10086"});
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_THAT(outcome.err, HasSubstr("cannot be made a data folder"));
+}
+
+TEST_F(Stage, ListsHooks) {
+    const Outcome outcome = run({"hooks", "--ios", "8.0", "--without-class", "PHRecentsCell"});
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_THAT(outcome.out, HasSubstr("replace_PHRecentsViewController_viewWillAppear_"));
+    EXPECT_THAT(outcome.out, HasSubstr("skipped: no such class"));
+    EXPECT_THAT(outcome.out, EndsWith("iOS 8.0, 4 inch: 1 method replaced, 1 skipped\n"));
+}
+
+TEST_F(Stage, WrongUsageIsCodeTwo) {
+    const Outcome outcome = run({"gallery"});
+    EXPECT_EQ(outcome.code, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1);
+}
+
+TEST_F(Stage, FailedGalleryLeavesNothing) {
+    const fs::path world = folder_ / "world.json";
+    std::ofstream(world) << "[]";
+    const fs::path gallery = folder_ / "gallery";
+    const Outcome outcome = run({"gallery", "--out", gallery.string(), "--world", world.string()});
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_THAT(outcome.err, HasSubstr(world.string()));
+    EXPECT_FALSE(fs::exists(gallery));
+    EXPECT_EQ(
+        std::ranges::count_if(fs::directory_iterator(folder_),
+                              [](const auto &entry) {
+                                  return entry.path().filename().string().starts_with("gallery");
+                              }),
+        0);
+}
+
+}  // namespace
