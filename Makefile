@@ -1,0 +1,54 @@
+# The everyday commands. Each installs the Debian packages it needs, if any are missing, and builds
+# what it works on; none needs an environment variable.
+.PHONY: help demo test build bench asan tsan clang format lint device-check contract
+
+help:
+	@echo 'make demo          build, draw every scene into build/demo, describe some numbers'
+	@echo 'make test          build, run the tests'
+	@echo 'make bench         build, run the benchmarks'
+	@echo 'make asan          run the tests under the address, undefined-behaviour and leak checks'
+	@echo 'make tsan          run the tests under the thread checks'
+	@echo 'make clang         build everything with clang as well'
+	@echo 'make format        format the sources'
+	@echo 'make lint          check format and style of the sources'
+	@echo 'make contract      check what libZQDial.so shows and takes'
+	@echo 'make device-check  compile the library for iOS, both targets'
+
+packages-%:
+	@tools/install-packages.sh $*
+
+build: packages-build
+	@cmake --preset host >/dev/null
+	@cmake --build --preset host
+
+demo: build
+	@tools/demo.sh
+
+test: build
+	@ctest --preset host --parallel "$$(nproc)"
+
+bench: build
+	@build/bin/send-bench
+
+contract: build
+	@cmake --build --preset host --target contract
+
+asan tsan: packages-build
+	@cmake --preset $@ >/dev/null
+	@cmake --build --preset $@
+	@ctest --preset $@ --parallel "$$(nproc)"
+
+clang: packages-build packages-lint
+	@cmake --preset clang >/dev/null
+	@cmake --build --preset clang
+
+format: packages-lint
+	@tools/format.sh
+
+lint: packages-build packages-lint
+	@tools/format.sh --check
+	@cmake --preset host >/dev/null
+	@tools/lint.sh
+
+device-check: packages-device
+	@tools/device-check.sh
