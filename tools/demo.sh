@@ -11,7 +11,9 @@ if [ ! -x "$simulator" ]; then
 fi
 
 "$simulator" gallery --out "$gallery"
-"$simulator" describe 10086 13800138000 02012345678
+echo
+"$simulator" describe 17700000061 13800000000 4002001818 075501238001 02101065012 02000000000 \
+    +442079460123 13800130011 66668888 13
 echo
 echo "All scenes, with and without the add-on: $PWD/$gallery/index.html"
 echo "Your own number: $simulator describe NUMBER, or $simulator --help"

@@ -61,7 +61,7 @@ void loadAddOn() {
 
 }  // namespace
 
-fs::path defaultDataFolder() { return phone::installFolder() / "data"; }
+fs::path defaultDataFolder() { return phone::installFolder() / "demo" / "data"; }
 
 void prepareProcess(const Settings &settings) {
     const fs::path data = openDataFolder(settings.data);
