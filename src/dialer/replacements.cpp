@@ -6,20 +6,6 @@
 #include "dialer/description.hpp"
 #include "identity/companion.hpp"
 
-constinit objc::Saved<decltype(replace_DialerController_viewWillAppear)>
-    saved_DialerController_viewWillAppear;
-constinit objc::Saved<decltype(replace_DialerController_viewWillDisappear)>
-    saved_DialerController_viewWillDisappear;
-constinit objc::Saved<
-    decltype(replace_DialerController_newPersonViewController_didCompleteWithNewPerson_)>
-    saved_DialerController_newPersonViewController_didCompleteWithNewPerson_;
-constinit objc::Saved<decltype(replace_PHHandsetDialerLCDView_setName_numberLabel_)>
-    saved_PHHandsetDialerLCDView_setName_numberLabel_;
-constinit objc::Saved<decltype(replace_PHHandsetDialerLCDView_touchesBegan_withEvent_)>
-    saved_PHHandsetDialerLCDView_touchesBegan_withEvent_;
-constinit objc::Saved<decltype(replace_PHHandsetDialerLCDView_touchesCancelled_withEvent_)>
-    saved_PHHandsetDialerLCDView_touchesCancelled_withEvent_;
-
 namespace {
 
 /// Work of ours on the one hook object, which is there once the hooks are installed.

@@ -22,16 +22,16 @@ ZQ_EXPORT void replace_PHHandsetDialerLCDView_touchesBegan_withEvent_(PHHandsetD
 ZQ_EXPORT void replace_PHHandsetDialerLCDView_touchesCancelled_withEvent_(
     PHHandsetDialerLCDView self, SEL selector, NSObject touches, NSObject event);
 
-extern objc::Saved<decltype(replace_DialerController_viewWillAppear)>
+inline constinit objc::Saved<decltype(replace_DialerController_viewWillAppear)>
     saved_DialerController_viewWillAppear;
-extern objc::Saved<decltype(replace_DialerController_viewWillDisappear)>
+inline constinit objc::Saved<decltype(replace_DialerController_viewWillDisappear)>
     saved_DialerController_viewWillDisappear;
-extern objc::Saved<
+inline constinit objc::Saved<
     decltype(replace_DialerController_newPersonViewController_didCompleteWithNewPerson_)>
     saved_DialerController_newPersonViewController_didCompleteWithNewPerson_;
-extern objc::Saved<decltype(replace_PHHandsetDialerLCDView_setName_numberLabel_)>
+inline constinit objc::Saved<decltype(replace_PHHandsetDialerLCDView_setName_numberLabel_)>
     saved_PHHandsetDialerLCDView_setName_numberLabel_;
-extern objc::Saved<decltype(replace_PHHandsetDialerLCDView_touchesBegan_withEvent_)>
+inline constinit objc::Saved<decltype(replace_PHHandsetDialerLCDView_touchesBegan_withEvent_)>
     saved_PHHandsetDialerLCDView_touchesBegan_withEvent_;
-extern objc::Saved<decltype(replace_PHHandsetDialerLCDView_touchesCancelled_withEvent_)>
+inline constinit objc::Saved<decltype(replace_PHHandsetDialerLCDView_touchesCancelled_withEvent_)>
     saved_PHHandsetDialerLCDView_touchesCancelled_withEvent_;

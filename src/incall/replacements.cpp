@@ -4,22 +4,6 @@
 
 constinit BOOL g_isThreePartyCall = 0;
 
-constinit objc::Saved<decltype(replace_TUTelephonyCall_initWithCall_)>
-    saved_TUTelephonyCall_initWithCall_;
-constinit objc::Saved<decltype(replace_TUTelephonyCall_dealloc)> saved_TUTelephonyCall_dealloc;
-constinit objc::Saved<decltype(replace_InCallLCDField_layoutSubviews)>
-    saved_InCallLCDField_layoutSubviews;
-constinit objc::Saved<decltype(replace_InCallLCDView_layoutSubviews)>
-    saved_InCallLCDView_layoutSubviews;
-constinit objc::Saved<decltype(replace_InCallController__callStatusChangedNotification_)>
-    saved_InCallController__callStatusChangedNotification_;
-constinit objc::Saved<decltype(replace_TPLCDTextView_setCenterText_)>
-    saved_TPLCDTextView_setCenterText_;
-constinit objc::Saved<decltype(replace_TPLCDTextView_setLCDTextFont_)>
-    saved_TPLCDTextView_setLCDTextFont_;
-constinit objc::Saved<decltype(replace_TPWallpaperView_setContactImage_animated_)>
-    saved_TPWallpaperView_setContactImage_animated_;
-
 id replace_TUTelephonyCall_initWithCall_(TUTelephonyCall self, SEL selector, NSObject call) {
     return saved_TUTelephonyCall_initWithCall_(self, selector, call);
 }

@@ -20,18 +20,19 @@ ZQ_EXPORT void replace_TPLCDTextView_setLCDTextFont_(TPLCDTextView self, SEL sel
 ZQ_EXPORT void replace_TPWallpaperView_setContactImage_animated_(TPWallpaperView self, SEL selector,
                                                                  UIImage image, BOOL animated);
 
-extern objc::Saved<decltype(replace_TUTelephonyCall_initWithCall_)>
+inline constinit objc::Saved<decltype(replace_TUTelephonyCall_initWithCall_)>
     saved_TUTelephonyCall_initWithCall_;
-extern objc::Saved<decltype(replace_TUTelephonyCall_dealloc)> saved_TUTelephonyCall_dealloc;
-extern objc::Saved<decltype(replace_InCallLCDField_layoutSubviews)>
+inline constinit objc::Saved<decltype(replace_TUTelephonyCall_dealloc)>
+    saved_TUTelephonyCall_dealloc;
+inline constinit objc::Saved<decltype(replace_InCallLCDField_layoutSubviews)>
     saved_InCallLCDField_layoutSubviews;
-extern objc::Saved<decltype(replace_InCallLCDView_layoutSubviews)>
+inline constinit objc::Saved<decltype(replace_InCallLCDView_layoutSubviews)>
     saved_InCallLCDView_layoutSubviews;
-extern objc::Saved<decltype(replace_InCallController__callStatusChangedNotification_)>
+inline constinit objc::Saved<decltype(replace_InCallController__callStatusChangedNotification_)>
     saved_InCallController__callStatusChangedNotification_;
-extern objc::Saved<decltype(replace_TPLCDTextView_setCenterText_)>
+inline constinit objc::Saved<decltype(replace_TPLCDTextView_setCenterText_)>
     saved_TPLCDTextView_setCenterText_;
-extern objc::Saved<decltype(replace_TPLCDTextView_setLCDTextFont_)>
+inline constinit objc::Saved<decltype(replace_TPLCDTextView_setLCDTextFont_)>
     saved_TPLCDTextView_setLCDTextFont_;
-extern objc::Saved<decltype(replace_TPWallpaperView_setContactImage_animated_)>
+inline constinit objc::Saved<decltype(replace_TPWallpaperView_setContactImage_animated_)>
     saved_TPWallpaperView_setContactImage_animated_;

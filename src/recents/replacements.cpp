@@ -2,30 +2,6 @@
 // application has them: every replacement calls through.
 #include "recents/replacements.hpp"
 
-constinit objc::Saved<decltype(replace_PHRecentsViewController_viewWillAppear_)>
-    saved_PHRecentsViewController_viewWillAppear_;
-constinit objc::Saved<decltype(replace_PhoneViewController_viewWillAppear_)>
-    saved_PhoneViewController_viewWillAppear_;
-constinit objc::Saved<decltype(replace_PHRecentsCell_layoutSubviews)>
-    saved_PHRecentsCell_layoutSubviews;
-constinit objc::Saved<decltype(replace_PHRecentsViewController_showCallDetail_animate_)>
-    saved_PHRecentsViewController_showCallDetail_animate_;
-constinit objc::Saved<decltype(replace_ABContactViewController_tableView_heightForHeaderInSection_)>
-    saved_ABContactViewController_tableView_heightForHeaderInSection_;
-constinit objc::Saved<decltype(replace_ABContactViewController_tableView_viewForHeaderInSection_)>
-    saved_ABContactViewController_tableView_viewForHeaderInSection_;
-constinit objc::Saved<decltype(replace_ABContactHeaderView_layoutSubviews)>
-    saved_ABContactHeaderView_layoutSubviews;
-constinit objc::Saved<decltype(replace_PHRecentsCell_setEditing_animated_)>
-    saved_PHRecentsCell_setEditing_animated_;
-constinit objc::Saved<decltype(replace_PHRecentsViewController_setEditing_animated_)>
-    saved_PHRecentsViewController_setEditing_animated_;
-constinit objc::Saved<
-    decltype(replace_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_)>
-    saved_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_;
-constinit objc::Saved<decltype(replace_UITableViewCellScrollView_setContentOffset_)>
-    saved_UITableViewCellScrollView_setContentOffset_;
-
 void replace_PHRecentsViewController_viewWillAppear_(PHRecentsViewController self, SEL selector,
                                                      BOOL animated) {
     saved_PHRecentsViewController_viewWillAppear_(self, selector, animated);

@@ -32,26 +32,28 @@ ZQ_EXPORT void replace_UITableViewCellScrollView_setContentOffset_(UITableViewCe
 /// Never to be installed: calling it is a mistake, and it traps.
 ZQ_EXPORT void replace_ABContactHeaderDisplayView__taglineStringForContact_();
 
-extern objc::Saved<decltype(replace_PHRecentsViewController_viewWillAppear_)>
+inline constinit objc::Saved<decltype(replace_PHRecentsViewController_viewWillAppear_)>
     saved_PHRecentsViewController_viewWillAppear_;
-extern objc::Saved<decltype(replace_PhoneViewController_viewWillAppear_)>
+inline constinit objc::Saved<decltype(replace_PhoneViewController_viewWillAppear_)>
     saved_PhoneViewController_viewWillAppear_;
-extern objc::Saved<decltype(replace_PHRecentsCell_layoutSubviews)>
+inline constinit objc::Saved<decltype(replace_PHRecentsCell_layoutSubviews)>
     saved_PHRecentsCell_layoutSubviews;
-extern objc::Saved<decltype(replace_PHRecentsViewController_showCallDetail_animate_)>
+inline constinit objc::Saved<decltype(replace_PHRecentsViewController_showCallDetail_animate_)>
     saved_PHRecentsViewController_showCallDetail_animate_;
-extern objc::Saved<decltype(replace_ABContactViewController_tableView_heightForHeaderInSection_)>
+inline constinit objc::Saved<
+    decltype(replace_ABContactViewController_tableView_heightForHeaderInSection_)>
     saved_ABContactViewController_tableView_heightForHeaderInSection_;
-extern objc::Saved<decltype(replace_ABContactViewController_tableView_viewForHeaderInSection_)>
+inline constinit objc::Saved<
+    decltype(replace_ABContactViewController_tableView_viewForHeaderInSection_)>
     saved_ABContactViewController_tableView_viewForHeaderInSection_;
-extern objc::Saved<decltype(replace_ABContactHeaderView_layoutSubviews)>
+inline constinit objc::Saved<decltype(replace_ABContactHeaderView_layoutSubviews)>
     saved_ABContactHeaderView_layoutSubviews;
-extern objc::Saved<decltype(replace_PHRecentsCell_setEditing_animated_)>
+inline constinit objc::Saved<decltype(replace_PHRecentsCell_setEditing_animated_)>
     saved_PHRecentsCell_setEditing_animated_;
-extern objc::Saved<decltype(replace_PHRecentsViewController_setEditing_animated_)>
+inline constinit objc::Saved<decltype(replace_PHRecentsViewController_setEditing_animated_)>
     saved_PHRecentsViewController_setEditing_animated_;
-extern objc::Saved<
+inline constinit objc::Saved<
     decltype(replace_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_)>
     saved_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_;
-extern objc::Saved<decltype(replace_UITableViewCellScrollView_setContentOffset_)>
+inline constinit objc::Saved<decltype(replace_UITableViewCellScrollView_setContentOffset_)>
     saved_UITableViewCellScrollView_setContentOffset_;
