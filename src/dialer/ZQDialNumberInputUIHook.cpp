@@ -6,7 +6,7 @@
 #include "dialer/description.hpp"
 #include "dialer/geometry.hpp"
 #include "identity/companion.hpp"
-#include "objc/saved.hpp"
+#include "objc/silently.hpp"
 
 using dialer::HintRow;
 

@@ -5,6 +5,7 @@
 #include "dialer/ZQDialNumberInputUIHook.hpp"
 #include "dialer/description.hpp"
 #include "identity/companion.hpp"
+#include "objc/silently.hpp"
 
 namespace {
 

@@ -1,8 +1,10 @@
 // The library's one entry: the loader calls it when the library is mapped, in every process that
 // the hooking framework reaches. Nothing happens outside the Phone application.
+#include <string_view>
+
 #include "hook/installation.hpp"
 #include "identity/companion.hpp"
-#include "objc/saved.hpp"
+#include "objc/silently.hpp"
 #include "platform/Substrate.hpp"
 
 ZQ_EXPORT void ZQDialMain();
