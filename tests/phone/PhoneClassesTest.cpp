@@ -134,8 +134,8 @@ TEST(InCallDisplay, GivesThePictureRoom) {
         return objc::read<UIView>(display.get(), "_textView"_ivar).frame().size.width;
     };
     EXPECT_EQ(textWidth(), 280);
-    objc::send<void(UIImage)>(display.get(), "setImage:"_sel,
-                              UIImage(objc::send<id()>("UIImage"_cls, "new"_sel)));
+    const auto picture = objc::create<UIImage>();
+    objc::send<void(UIImage)>(display.get(), "setImage:"_sel, picture);
     EXPECT_EQ(textWidth(), 190);
     objc::send<void(UIImage)>(display.get(), "setImage:"_sel, UIImage());
     EXPECT_EQ(textWidth(), 280);
