@@ -28,7 +28,7 @@ test: build
 	@ctest --preset host --parallel "$$(nproc)"
 
 bench: build
-	@build/bin/send-bench
+	@cmake --build --preset host --target bench
 
 contract: build
 	@cmake --build --preset host --target contract
