@@ -86,6 +86,23 @@ TEST_F(DialerFaults, ARowThatCannotBeLaidOutLeavesThePhoneApplicationsLine) {
     EXPECT_TRUE(showsNameLineOnly());
 }
 
+/// A display that has no name line to stand in for.
+class BareDisplay : public objc::Instance {
+  public:
+    NSObject nameAndLabelView() const { return nullptr; }
+};
+
+TEST_F(DialerFaults, ADisplayWithoutANameLineIsLeftAsItIs) {
+    objc::ClassBuilder<BareDisplay>("TestBareDisplay", "UIView")
+        .method("nameAndLabelView"_sel, objc::member<&BareDisplay::nameAndLabelView>)
+        .finish();
+    const id made = send<id()>("TestBareDisplay"_cls, "new"_sel);
+    const auto bare = objc::Owned<UIView>::adopt(UIView(made));
+    ZQDialNumberInputUIHook::shared()->layoutNumInfoIfNeeded(
+        bare.get().as<PHHandsetDialerLCDView>(), "02012345678"_ns, nullptr, nullptr);
+    EXPECT_EQ(send<NSArray()>(bare, "subviews"_sel).count(), 0U);
+}
+
 TEST_F(DialerFaults, MissingViewsOfTheRowAreLeftOut) {
     type("02012345678"_ns);
     for (const NSInteger tag : {1001, 1003, 1004}) {
