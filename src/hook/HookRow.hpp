@@ -21,7 +21,6 @@ struct HookRow {
     const char *selectorName;
     Gate gate;
     // Functions, because an address of another type is no constant.
-    SEL (*selector)();
     IMP (*replacement)();
     IMP *(*slot)();
 };
@@ -53,7 +52,6 @@ constexpr HookRow row(Group group, const char *className, objc::Selector<selecto
         .className = className,
         .selectorName = objc::Selector<selector>::text,
         .gate = gate,
-        .selector = &objc::Selector<selector>::get,
         .replacement = &Hook::implementation,
         .slot = &Hook::slot,
     };

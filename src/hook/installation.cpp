@@ -27,7 +27,7 @@ void install(Group group) {
         }
         const Class cls = open ? objc::findClass(row.className) : nullptr;
         if (cls) {
-            MSHookMessageEx(cls, row.selector(), row.replacement(), row.slot());
+            MSHookMessageEx(cls, sel_registerName(row.selectorName), row.replacement(), row.slot());
         }
     }
 }
