@@ -74,6 +74,13 @@ void ClassDefinition::addClassMethod(SEL selector, IMP implementation, const cha
     }
 }
 
+void ClassDefinition::addProtocol(const char *name) {
+    const id protocol = objc_getProtocol(name);
+    if (class_ && protocol) {
+        class_addProtocol(class_, protocol);
+    }
+}
+
 Class ClassDefinition::foreignAncestor() const {
     Class ancestor = class_ ? class_getSuperclass(class_) : nullptr;
     while (ancestor && isOurs(ancestor)) {

@@ -37,6 +37,7 @@ class ClassDefinition {
                  const char *encoding);
     void addMethod(SEL selector, IMP implementation, const char *encoding);
     void addClassMethod(SEL selector, IMP implementation, const char *encoding);
+    void addProtocol(const char *name);
     /// Registers the class. `memory` is the size of the C++ object in bytes.
     Class finish(size_t memory);
     Class foreignAncestor() const;
@@ -75,6 +76,12 @@ class ClassBuilder {
     template <Text name, class Binding>
     ClassBuilder &&classMethod(Selector<name> selector, Binding) && {
         definition_.addClassMethod(selector, implementationOf<name, Binding>(), Binding::encoding);
+        return std::move(*this);
+    }
+
+    /// Conforms to a protocol, unless the process has none of that name.
+    ClassBuilder &&protocol(const char *name) && {
+        definition_.addProtocol(name);
         return std::move(*this);
     }
 

@@ -72,6 +72,8 @@ void objc_disposeClassPair(Class cls);
 BOOL class_addIvar(Class cls, const char *name, size_t size, uint8_t log2Alignment,
                    const char *encoding);
 BOOL class_addMethod(Class cls, SEL selector, IMP implementation, const char *encoding);
+id objc_getProtocol(const char *name);
+BOOL class_addProtocol(Class cls, id protocol);
 
 int objc_sync_enter(id object);
 int objc_sync_exit(id object);

@@ -90,6 +90,23 @@ TEST_F(DefinedClass, EncodesEveryTypeOfAMessage) {
     EXPECT_STREQ((objc::kMethodEncoding<id, id *, const char *, const void *>.chars), "@@:^@*^v");
 }
 
+class Copyable : public objc::Instance {};
+
+TEST_F(DefinedClass, ConformsToTheProtocolsThatThereAre) {
+    const Class cls = objc::ClassBuilder<Copyable>("TestCopyable", "NSObject")
+                          .protocol("NSCopying")
+                          .protocol("NoSuchProtocol")
+                          .finish();
+    ASSERT_NE(cls, nullptr);
+    const auto conforms = [](Class asked, const char *name) {
+        return send<bool(id)>(asked, "conformsToProtocol:"_sel, objc_getProtocol(name));
+    };
+    ASSERT_NE(objc_getProtocol("NSCoding"), nullptr);
+    EXPECT_TRUE(conforms(cls, "NSCopying"));
+    EXPECT_FALSE(conforms(cls, "NSCoding"));
+    EXPECT_FALSE(conforms("NSObject"_cls, "NSCopying"));
+}
+
 class Misplaced : public objc::Instance {
   public:
     int32_t _first = 0;
