@@ -1,10 +1,9 @@
 // A key press whose number has a description: what the add-on adds to it, against the sends alone
 // that its steps cannot do without. The companion's answers are constants and texts are measured by
 // rule, so what is timed is the add-on and not the world around it.
-#include <chrono>
-
 #include <benchmark/benchmark.h>
 
+#include "Share.hpp"
 #include "dialer/replacements.hpp"
 #include "hook/installation.hpp"
 #include "identity/companion.hpp"
@@ -15,7 +14,6 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using objc::Owned;
 using objc::send;
 
@@ -84,8 +82,8 @@ void requiredSends(PHHandsetDialerLCDView lcd, bool from71) {
     const auto label = row.viewWithTag(1002).as<UILabel>();
     label.setText(description);
     const CGRect labelFrame = label.frame();
-    const auto attributes = NSDictionary::withObject(label.font(), NSObject(NSFontAttributeName));
-    boundingRect(description, {165, labelFrame.size.height}, kUsesLineFragmentOrigin, attributes);
+    boundingWidth(description, label.font(), {165, labelFrame.size.height},
+                  kUsesLineFragmentOrigin);
     lcd.frame();
     row.viewWithTag(1001).frame();
     row.setFrame(row.frame());
@@ -100,36 +98,13 @@ void requiredSends(PHHandsetDialerLCDView lcd, bool from71) {
     row.setHidden(false);
 }
 
-template <class Work>
-double seconds(Work work) {
-    constexpr int kPresses = 200;
-    const objc::AutoreleasePool pool;
-    const auto start = Clock::now();
-    for (int i = 0; i < kPresses; ++i) {
-        work();
-    }
-    return std::chrono::duration<double>(Clock::now() - start).count() / kPresses;
-}
-
 void keyPress(benchmark::State &state, double iosVersion) {
     const objc::AutoreleasePool pool;
     const Display display(iosVersion);
     const bool from71 = iosVersion >= 7.1;
-    double hooked = 0;
-    double unhooked = 0;
-    double sends = 0;
-    for ([[maybe_unused]] auto _ : state) {
-        const double with = seconds([&] { display.hooked(); });
-        const double without = seconds([&] { display.unhooked(); });
-        sends += seconds([&] { requiredSends(display.lcd(), from71); });
-        hooked += with;
-        unhooked += without;
-        state.SetIterationTime(with - without);
-    }
-    const auto runs = static_cast<double>(state.iterations());
-    state.counters["share_ns"] = (hooked - unhooked) / runs * 1e9;
-    state.counters["sends_ns"] = sends / runs * 1e9;
-    state.counters["ratio"] = (hooked - unhooked) / sends;
+    bench::measureShare(
+        state, [&] { display.hooked(); }, [&] { display.unhooked(); },
+        [&] { requiredSends(display.lcd(), from71); });
     state.counters["sends"] = from71 ? kSends71 : kSends70;
 }
 

@@ -16,15 +16,11 @@ enum Tag : NSInteger {
 };
 
 constexpr CGFloat kFontSize = 14;
+constexpr CGFloat kWidestDescription = 165;  // of one line; a longer text wraps
 
 UIColor offerColor(bool pressed) {
     return pressed ? ZQUIUtil::getFormattedColor(0, 73, 153, 1)
                    : ZQUIUtil::getFormattedColor(0, 122, 255, 1);
-}
-
-void addTagged(UIView parent, UIView child, Tag tag) {
-    child.setTag(tag);
-    parent.addSubview(child);
 }
 
 void addIcon(UIView container, CGRect frame) {
@@ -53,13 +49,6 @@ void addOffer(UIView container, CGRect frame) {
     label->setTextColor(offerColor(false));
     label->setText("添加到通讯录"_ns);
     addTagged(container, label, kAddContactTag);
-}
-
-/// How wide `text` is in that font on lines of at most 165 points.
-CGFloat widthOfDescription(NSString text, UIFont font, CGFloat height) {
-    constexpr CGFloat kWidest = 165;
-    const auto attributes = NSDictionary::withObject(font, NSObject(NSFontAttributeName));
-    return boundingRect(text, {kWidest, height}, kUsesLineFragmentOrigin, attributes).size.width;
 }
 
 void moveTo(UIView view, CGRect frame, CGFloat x) {
@@ -93,7 +82,9 @@ void HintRow::show(NSString description, PHHandsetDialerLCDView lcd, bool from71
     const auto label = container_.viewWithTag(kDescriptionTag).as<UILabel>();
     label.setText(description);
     CGRect labelFrame = label.frame();
-    labelFrame.size.width = widthOfDescription(description, label.font(), labelFrame.size.height);
+    labelFrame.size.width =
+        boundingWidth(description, label.font(), {kWidestDescription, labelFrame.size.height},
+                      kUsesLineFragmentOrigin);
 
     const UIView separator = from71 ? nullptr : container_.viewWithTag(kSeparatorTag);
     const UIView offer = from71 ? nullptr : container_.viewWithTag(kAddContactTag);

@@ -58,9 +58,22 @@ class NSString : public NSObject {
     NSString substringFromIndex(NSUInteger index) const {
         return send<NSString(NSUInteger)>("substringFromIndex:"_sel, index);
     }
+    /// The units before `index`; raises when it lies behind the end.
+    NSString substringToIndex(NSUInteger index) const {
+        return send<NSString(NSUInteger)>("substringToIndex:"_sel, index);
+    }
+    /// Where `part` first begins, kNotFound where it does not occur; in a nil text nothing occurs.
+    NSUInteger indexOf(NSString part) const {
+        return *this ? send<NSRange(NSString)>("rangeOfString:"_sel, part).location : kNotFound;
+    }
+    bool contains(NSString part) const { return indexOf(part) != kNotFound; }
     /// Copies units into `units`, which must have room for `range`.
     void getCharacters(char16_t *units, NSRange range) const {
         send<void(char16_t *, NSRange)>("getCharacters:range:"_sel, units, range);
+    }
+    /// What the text is now, whoever changes it later; empty for nil.
+    objc::Owned<NSString> copy() const {
+        return objc::Owned<NSString>::adopt(send<NSString()>("copy"_sel));
     }
     /// Zero-terminated, valid as long as the innermost pool; null for nil.
     const char *UTF8String() const { return send<const char *()>("UTF8String"_sel); }
@@ -77,13 +90,50 @@ class NSString : public NSObject {
     }
 };
 
+/// What a container holds, as a text; nil when it holds something else.
+inline NSString asText(NSObject object) {
+    return object.isKindOfClass(NSString::classObject()) ? object.as<NSString>() : nullptr;
+}
+
+/// What a container holds, as a whole number; 0 when it is nothing of the kind.
+inline NSInteger asInteger(NSObject object) {
+    const auto selector = "integerValue"_sel;
+    return object.respondsToSelector(selector) ? objc::send<NSInteger()>(object, selector) : 0;
+}
+
 inline NSString NSObject::description() const { return send<NSString()>("description"_sel); }
+
+/// What a container holds, as a number; 0 or NO when it is neither a number nor a text of one.
+inline int32_t intOf(NSObject object) {
+    return object.respondsToSelector("intValue"_sel) ? objc::send<int32_t()>(object, "intValue"_sel)
+                                                     : 0;
+}
+inline float floatOf(NSObject object) {
+    return object.respondsToSelector("floatValue"_sel)
+               ? objc::send<float()>(object, "floatValue"_sel)
+               : 0;
+}
+inline bool boolOf(NSObject object) {
+    return object.respondsToSelector("boolValue"_sel) &&
+           objc::send<bool()>(object, "boolValue"_sel);
+}
+
+class NSNumber : public NSObject {
+  public:
+    using NSObject::NSObject;
+    static Class classObject() { return "NSNumber"_cls; }
+
+    static NSNumber withBool(bool value) {
+        return objc::send<NSNumber(bool)>(classObject(), "numberWithBool:"_sel, value);
+    }
+};
 
 class NSDictionary : public NSObject {
   public:
     using NSObject::NSObject;
     static Class classObject() { return "NSDictionary"_cls; }
 
+    NSUInteger count() const { return send<NSUInteger()>("count"_sel); }
     NSObject objectForKey(NSObject key) const {
         return send<NSObject(NSObject)>("objectForKey:"_sel, key);
     }
@@ -94,11 +144,48 @@ class NSDictionary : public NSObject {
     }
 };
 
+/// What a container holds, as a dictionary; nil when it holds something else.
+inline NSDictionary asDictionary(NSObject object) {
+    return object.isKindOfClass(NSDictionary::classObject()) ? object.as<NSDictionary>() : nullptr;
+}
+
+class NSMutableDictionary : public NSDictionary {
+  public:
+    using NSDictionary::NSDictionary;
+    static Class classObject() { return "NSMutableDictionary"_cls; }
+
+    /// Raises when either is nil.
+    void setObject(NSObject object, NSObject key) const {
+        send<void(NSObject, NSObject)>("setObject:forKey:"_sel, object, key);
+    }
+    void removeAllObjects() const { send<void()>("removeAllObjects"_sel); }
+};
+
+class NSMutableSet : public NSObject {
+  public:
+    using NSObject::NSObject;
+    static Class classObject() { return "NSMutableSet"_cls; }
+
+    NSUInteger count() const { return send<NSUInteger()>("count"_sel); }
+    bool containsObject(NSObject object) const {
+        return send<bool(NSObject)>("containsObject:"_sel, object);
+    }
+    /// Raises when `object` is nil.
+    void addObject(NSObject object) const { send<void(NSObject)>("addObject:"_sel, object); }
+    void removeObject(NSObject object) const { send<void(NSObject)>("removeObject:"_sel, object); }
+    void removeAllObjects() const { send<void()>("removeAllObjects"_sel); }
+};
+
 class NSArray : public NSObject {
   public:
     using NSObject::NSObject;
     static Class classObject() { return "NSArray"_cls; }
 
+    static NSArray array() { return objc::send<NSArray()>(classObject(), "array"_sel); }
+    /// Raises when `object` is nil.
+    static NSArray withObject(NSObject object) {
+        return objc::send<NSArray(NSObject)>(classObject(), "arrayWithObject:"_sel, object);
+    }
     NSUInteger count() const { return send<NSUInteger()>("count"_sel); }
     /// Raises when `index` lies behind the end.
     NSObject objectAtIndex(NSUInteger index) const {
@@ -123,6 +210,29 @@ class NSAttributedString : public NSObject {
   public:
     using NSObject::NSObject;
     static Class classObject() { return "NSAttributedString"_cls; }
+};
+
+class NSMutableAttributedString : public NSAttributedString {
+  public:
+    using NSAttributedString::NSAttributedString;
+    static Class classObject() { return "NSMutableAttributedString"_cls; }
+
+    /// Raises when `range` reaches behind the end.
+    void addAttribute(NSString name, NSObject value, NSRange range) const {
+        send<void(NSString, NSObject, NSRange)>("addAttribute:value:range:"_sel, name, value,
+                                                range);
+    }
+};
+
+class NSFileManager : public NSObject {
+  public:
+    using NSObject::NSObject;
+    static NSFileManager defaultManager() {
+        return objc::send<NSFileManager()>("NSFileManager"_cls, "defaultManager"_sel);
+    }
+    bool fileExistsAtPath(NSString path) const {
+        return send<bool(NSString)>("fileExistsAtPath:"_sel, path);
+    }
 };
 
 class NSBundle : public NSObject {

@@ -10,6 +10,7 @@ class UIColor : public NSObject {
     static Class classObject() { return "UIColor"_cls; }
 
     static UIColor clearColor() { return objc::send<UIColor()>(classObject(), "clearColor"_sel); }
+    static UIColor whiteColor() { return objc::send<UIColor()>(classObject(), "whiteColor"_sel); }
     static UIColor blackColor() { return objc::send<UIColor()>(classObject(), "blackColor"_sel); }
     /// Components from 0 to 1.
     static UIColor withWhite(CGFloat white, CGFloat alpha) {
@@ -26,12 +27,23 @@ class UIFont : public NSObject {
     static UIFont systemFontOfSize(CGFloat points) {
         return objc::send<UIFont(CGFloat)>(classObject(), "systemFontOfSize:"_sel, points);
     }
+    /// Nil when the system has no such font.
+    static UIFont withName(NSString name, CGFloat points) {
+        return objc::send<UIFont(NSString, CGFloat)>(classObject(), "fontWithName:size:"_sel, name,
+                                                     points);
+    }
+    CGFloat pointSize() const { return send<CGFloat()>("pointSize"_sel); }
 };
 
 class UIImage : public NSObject {
   public:
     using NSObject::NSObject;
     static Class classObject() { return "UIImage"_cls; }
+
+    /// Nil when there is no such file or it is no picture.
+    static UIImage withContentsOfFile(NSString path) {
+        return objc::send<UIImage(NSString)>(classObject(), "imageWithContentsOfFile:"_sel, path);
+    }
 };
 
 class UIView : public NSObject {
@@ -49,6 +61,7 @@ class UIView : public NSObject {
         send<void(UIColor)>("setBackgroundColor:"_sel, color);
     }
 
+    NSArray subviews() const { return send<NSArray()>("subviews"_sel); }
     UIView superview() const { return send<UIView()>("superview"_sel); }
     /// The first view of that tag in the whole tree below, this view included; nil when none.
     UIView viewWithTag(NSInteger tag) const {
@@ -64,6 +77,12 @@ objc::Owned<View> withFrame(CGRect frame) {
     return objc::create<View(CGRect)>("initWithFrame:"_sel, frame);
 }
 
+/// Adds a view that is found again by its tag.
+inline void addTagged(UIView parent, UIView child, NSInteger tag) {
+    child.setTag(tag);
+    parent.addSubview(child);
+}
+
 class UILabel : public UIView {
   public:
     using UIView::UIView;
@@ -71,6 +90,9 @@ class UILabel : public UIView {
 
     NSString text() const { return send<NSString()>("text"_sel); }
     void setText(NSString text) const { send<void(NSString)>("setText:"_sel, text); }
+    void setAttributedText(NSAttributedString text) const {
+        send<void(NSAttributedString)>("setAttributedText:"_sel, text);
+    }
     UIFont font() const { return send<UIFont()>("font"_sel); }
     void setFont(UIFont font) const { send<void(UIFont)>("setFont:"_sel, font); }
     void setTextColor(UIColor color) const { send<void(UIColor)>("setTextColor:"_sel, color); }
@@ -92,15 +114,24 @@ class UIImageView : public UIView {
 
 extern "C" {
 extern const id NSFontAttributeName;
+extern const id NSForegroundColorAttributeName;
 }
 
 /// NSStringDrawingUsesLineFragmentOrigin: the size bounds lines of text, not one line.
 inline constexpr NSInteger kUsesLineFragmentOrigin = 1;
+/// NSStringDrawingTruncatesLastVisibleLine
+inline constexpr NSInteger kTruncatesLastVisibleLine = 32;
 
-/// The room that `text` takes within `bounds`; a nil text takes none.
-inline CGRect boundingRect(NSString text, CGSize bounds, NSInteger options,
-                           NSDictionary attributes) {
+/// How wide `text` is within `room`, set in that font; a nil text has no width.
+inline CGFloat boundingWidth(NSString text, UIFont font, CGSize room, NSInteger options) {
+    const auto attributes = NSDictionary::withObject(font, NSObject(NSFontAttributeName));
     return objc::send<CGRect(CGSize, NSInteger, NSDictionary, NSObject)>(
-        text, "boundingRectWithSize:options:attributes:context:"_sel, bounds, options, attributes,
-        nullptr);
+               text, "boundingRectWithSize:options:attributes:context:"_sel, room, options,
+               attributes, nullptr)
+        .size.width;
+}
+
+/// The room that `text` takes on one line; a nil text takes none.
+inline CGSize lineSize(NSString text, UIFont font) {
+    return objc::send<CGSize(UIFont)>(text, "sizeWithFont:"_sel, font);
 }

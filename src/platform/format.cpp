@@ -9,6 +9,21 @@ namespace objc {
 namespace {
 
 /// UTF-16 units that grow: short texts, which nearly all are, stay within the object.
+/// A cut may have left half a surrogate pair.
+void replaceHalfCharacters(std::span<char16_t> units) {
+    constexpr char16_t kReplacement = 0xFFFD;
+    const auto isHalf = [&](size_t i, char16_t first) {
+        return i < units.size() && (units[i] & 0xFC00U) == first;
+    };
+    for (size_t i = 0; i < units.size(); ++i) {
+        if (isHalf(i, 0xD800) && isHalf(i + 1, 0xDC00)) {
+            ++i;
+        } else if (isHalf(i, 0xD800) || isHalf(i, 0xDC00)) {
+            units[i] = kReplacement;
+        }
+    }
+}
+
 class Units {
   public:
     /// Room for `count` more units, to be filled by the caller.
@@ -36,7 +51,15 @@ class Units {
         std::copy_n(digits, count, extend(static_cast<size_t>(count)));
     }
 
-    NSString string() const { return NSString::withCharacters(units_, length_); }
+    NSString string() {
+        const NSString made = NSString::withCharacters(units_, length_);
+        if (made) [[likely]] {
+            return made;
+        }
+        // The device's Foundation takes half a character, the development host's refuses the text.
+        replaceHalfCharacters({units_, length_});
+        return NSString::withCharacters(units_, length_);
+    }
 
   private:
     void grow(size_t wanted) {

@@ -1,0 +1,45 @@
+// What the add-on adds to something the Phone application does, and what the sends alone would cost
+// that it cannot do without.
+#pragma once
+
+#include <chrono>
+
+#include <benchmark/benchmark.h>
+
+#include "objc/owned.hpp"
+
+namespace bench {
+
+/// One run of `work`, averaged over a few hundred.
+template <class Work>
+double seconds(Work work) {
+    using Clock = std::chrono::steady_clock;
+    constexpr int kRuns = 200;
+    const objc::AutoreleasePool pool;
+    const auto start = Clock::now();
+    for (int i = 0; i < kRuns; ++i) {
+        work();
+    }
+    return std::chrono::duration<double>(Clock::now() - start).count() / kRuns;
+}
+
+/// The three take turns, so that a busy machine troubles all alike. The benchmark's time is the
+/// add-on's share, the counters are both sides and their ratio.
+template <class Hooked, class Unhooked, class Sends>
+void measureShare(benchmark::State &state, Hooked hooked, Unhooked unhooked, Sends sends) {
+    double share = 0;
+    double required = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        const double with = seconds(hooked);
+        const double without = seconds(unhooked);
+        required += seconds(sends);
+        share += with - without;
+        state.SetIterationTime(with - without);
+    }
+    const auto runs = static_cast<double>(state.iterations());
+    state.counters["share_ns"] = share / runs * 1e9;
+    state.counters["sends_ns"] = required / runs * 1e9;
+    state.counters["ratio"] = share / required;
+}
+
+}  // namespace bench
