@@ -21,6 +21,29 @@ std::filesystem::path shareDir() {
     return (library.parent_path().parent_path() / "share").lexically_normal();
 }
 
+constexpr std::string_view kLogoPrefix = "partner_";
+
+std::filesystem::path logoFolder(const std::filesystem::path &dataDir) { return dataDir / "logos"; }
+
+/// A run begins without the logos that an earlier one downloaded.
+void forgetLogos(const std::filesystem::path &dataDir) {
+    namespace fs = std::filesystem;
+    const fs::path folder = logoFolder(dataDir);
+    if (!fs::is_directory(folder)) {
+        return;
+    }
+    try {
+        for (const fs::directory_entry &entry : fs::directory_iterator(folder)) {
+            if (entry.path().filename().string().starts_with(kLogoPrefix)) {
+                fs::remove(entry.path());
+            }
+        }
+    } catch (const fs::filesystem_error &error) {
+        throw StoreError(folder.string() + ": cannot be emptied (" + error.code().message() +
+                         "); choose a data folder that you may write to");
+    }
+}
+
 struct Run {
     std::unique_ptr<Store> store = std::make_unique<Store>();
     std::filesystem::path dataDir{};
@@ -44,6 +67,7 @@ void open(const Settings &settings) {
         opened->load(world);
     } else {
         opened = std::make_unique<Store>(settings.dataDir, world);
+        forgetLogos(settings.dataDir);
     }
     // Absolute, since the paths are handed out and the process may change its folder.
     const auto absolute = [](const std::filesystem::path &path) {
@@ -61,12 +85,19 @@ Store &store() { return *currentRun().store; }
 
 Journal &journal() { return currentRun().journal; }
 
+int &awaited() {
+    static int count = 0;  // not of the run: what was asked for in one may come in the next
+    return count;
+}
+
 const std::filesystem::path &resourceDir() { return currentRun().resourceDir; }
 
 std::filesystem::path logoFile(std::int32_t partnerId) {
     const std::filesystem::path &dataDir = currentRun().dataDir;
-    return dataDir.empty() ? dataDir
-                           : dataDir / "logos" / ("partner_" + std::to_string(partnerId) + ".png");
+    if (dataDir.empty()) {
+        return {};
+    }
+    return logoFolder(dataDir) / (std::string(kLogoPrefix) + std::to_string(partnerId) + ".png");
 }
 
 std::filesystem::path sampleWorldFile() { return shareDir() / "worlds" / "default.json"; }

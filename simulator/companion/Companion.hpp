@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "companion/SimulatedTime.hpp"
 #include "companion/store/Store.hpp"
 
 namespace companion {
@@ -52,6 +53,9 @@ Store &store();
 
 /// What was asked in the run; may be cleared.
 Journal &journal();
+
+/// How many cloud answers and downloads are still to come.
+int &awaited();
 
 /// The folder of the companion's pictures.
 const std::filesystem::path &resourceDir();

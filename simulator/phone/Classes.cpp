@@ -9,12 +9,13 @@
 #include "phone/dialer/PHHandsetDialerNameLabelView.hpp"
 #include "phone/frame/PhoneStatusBar.hpp"
 #include "phone/frame/PhoneTabBarController.hpp"
+#include "phone/incall/InCallButton.hpp"
 #include "phone/incall/InCallController.hpp"
+#include "phone/incall/InCallLCDField.hpp"
+#include "phone/incall/InCallLCDView.hpp"
 #include "phone/incall/TPLCDLabelView.hpp"
 #include "phone/incall/TPLCDTextView.hpp"
-#include "phone/incall/TPLCDView.hpp"
 #include "phone/incall/TPWallpaperView.hpp"
-#include "phone/incall/TUTelephonyCall.hpp"
 #include "phone/recents/PHRecentsCell.hpp"
 #include "phone/recents/PHRecentsViewController.hpp"
 #include "phone/recents/UIDateLabel.hpp"
@@ -36,11 +37,16 @@ __attribute__((constructor)) void defineClasses() {
     DialerController::define();
 
     TUTelephonyCall::define();
-    InCallController::define();
     TPLCDTextView::define();
     TPLCDLabelView::define();
     TPLCDView::define();
+    InCallLCDView::define();
+    InCallLCDField::define();
     TPWallpaperView::define();
+    InCallButton::define();
+    InCallView::define();
+    CallClock::define();
+    InCallController::define();
 
     UIDateLabel::define();
     PHRecentsCell::define();

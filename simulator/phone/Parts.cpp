@@ -2,6 +2,7 @@
 #include "phone/Parts.hpp"
 
 #include "phone/Resources.hpp"
+#include "uikit/SimButton.hpp"
 #include "uikit/SimColor.hpp"
 #include "uikit/SimImage.hpp"
 
@@ -16,10 +17,13 @@ objc::Owned<UILabel> makeLabel(CGRect frame, CGFloat points, sim::TextAlignment 
 
 SimLabel *simLabel(UILabel label) { return objc::Wire<SimLabel *>::from(label.get()); }
 
-UIImage picture(const char *name) {
-    const auto file = pictureFolder() / (std::string(name) + ".png");
+UIImage picture(const std::filesystem::path &file) {
     return UIImage(objc::Wire<SimImage *>::to(
         SimImage::withContentsOfFile(NSString::withUTF8String(file.c_str()))));
+}
+
+UIImage picture(const char *name) {
+    return picture(pictureFolder() / (std::string(name) + ".png"));
 }
 
 objc::Owned<UIImageView> makePicture(const char *name, CGPoint origin) {
@@ -30,9 +34,28 @@ objc::Owned<UIImageView> makePicture(const char *name, CGPoint origin) {
     return view;
 }
 
+objc::Owned<UIView> makeButton(CGRect frame, const char *icon) {
+    auto button = makeView<SimButton>(frame);
+    objc::send<void(UIImage, NSUInteger)>(button.get(), "setImage:forState:"_sel, picture(icon),
+                                          kStateNormal);
+    return button;
+}
+
+void onTouch(UIView control, NSObject target, SEL action, NSUInteger events) {
+    objc::send<void(NSObject, SEL, NSUInteger)>(control, "addTarget:action:forControlEvents:"_sel,
+                                                target, action, events);
+}
+
 UIFont lightFont(CGFloat points) {
     return objc::send<UIFont(NSString, CGFloat)>("UIFont"_cls, "fontWithName:size:"_sel,
                                                  "HelveticaNeue-Light"_ns, points);
+}
+
+void drawLine(NSString text, UIFont font, CGRect within, sim::TextAlignment alignment) {
+    objc::send<void()>(color(255, 255, 255), "set"_sel);
+    objc::send<CGSize(CGRect, UIFont, sim::LineBreak, sim::TextAlignment)>(
+        text, "drawInRect:withFont:lineBreakMode:alignment:"_sel, within, font,
+        sim::LineBreak::TruncateTail, alignment);
 }
 
 UIColor color(int red, int green, int blue) {

@@ -1,6 +1,8 @@
 // The small pieces that all screens are put together from.
 #pragma once
 
+#include <filesystem>
+
 #include "objc/owned.hpp"
 #include "platform/UIKit.hpp"
 #include "uikit/SimLabel.hpp"
@@ -25,14 +27,26 @@ objc::Owned<UILabel> makeLabel(CGRect frame, CGFloat points,
 /// The simulator's side of a label, for what the handle does not offer.
 SimLabel *simLabel(UILabel label);
 
+/// The picture in that file; nil when there is none.
+UIImage picture(const std::filesystem::path &file);
+
 /// The picture "share/phone/NAME.png"; nil when it is missing.
 UIImage picture(const char *name);
 
 /// An image view of the picture's size with its origin at `origin`.
 objc::Owned<UIImageView> makePicture(const char *name, CGPoint origin);
 
+/// A button of one icon.
+objc::Owned<UIView> makeButton(CGRect frame, const char *icon);
+
+/// Sends `action` to `target`, which is not retained, when one of the control events occurs.
+void onTouch(UIView control, NSObject target, SEL action, NSUInteger events);
+
 /// The light face that numbers are written in.
 UIFont lightFont(CGFloat points);
+
+/// Inside drawRect: one line of white text, cut off at its end where it is too long.
+void drawLine(NSString text, UIFont font, CGRect within, sim::TextAlignment alignment);
 
 /// Components from 0 to 255.
 UIColor color(int red, int green, int blue);

@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "stage/Errors.hpp"
+#include "uikit/ViewTree.hpp"
 #include "uikit/drawing/Utf16.hpp"
 
 namespace stage {
@@ -122,6 +123,15 @@ class Reader {
     Arguments result_;
 };
 
+/// The whole text as a number; none when anything else is in it, or it is out of range.
+template <class Number>
+std::optional<Number> parsed(const std::string &text) {
+    Number number{};
+    const char *const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
+}
+
 void appendRow(std::string &help, std::string_view left, std::string_view right) {
     std::string row = joined({"  ", left});
     row.append(row.size() < kHelpColumn ? kHelpColumn - row.size() : 2, ' ');
@@ -146,14 +156,23 @@ Arguments readArguments(std::span<const CommandSpec> commands, std::span<const s
 }
 
 int readNumber(const GivenOption &given, int least) {
-    int number = 0;
-    const char *const end = given.value.data() + given.value.size();
-    const auto [stop, error] = std::from_chars(given.value.data(), end, number);
-    if (error != std::errc() || stop != end || number < least) {
+    const auto number = parsed<int>(given.value);
+    if (!number || *number < least) {
         throw UsageError(joined({kProgram, ": ", given.name, " takes a whole number from ",
                                  std::to_string(least), " upwards, not '", given.value, "'"}));
     }
-    return number;
+    return *number;
+}
+
+double readReal(const GivenOption &given, double least, double most) {
+    const auto number = parsed<double>(given.value);
+    // Written so that what is no number at all does not pass either.
+    if (!number || !(*number >= least && *number <= most)) {
+        throw UsageError(
+            joined({kProgram, ": ", given.name, " takes a number from ", sim::trimmedNumber(least),
+                    " to ", sim::trimmedNumber(most), ", not '", given.value, "'"}));
+    }
+    return *number;
 }
 
 std::string helpText(std::span<const CommandSpec> commands) {

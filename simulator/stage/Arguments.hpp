@@ -52,6 +52,9 @@ Arguments readArguments(std::span<const CommandSpec> commands, std::span<const s
 /// A whole number from `least` upwards. Throws UsageError naming the option.
 int readNumber(const GivenOption &given, int least);
 
+/// A number, decimals allowed, from `least` to `most`. Throws UsageError naming the option.
+double readReal(const GivenOption &given, double least, double most);
+
 std::string helpText(std::span<const CommandSpec> commands);
 std::string helpText(const CommandSpec &command);
 

@@ -53,32 +53,52 @@ std::string readAll(int file) {
 
 }  // namespace
 
-std::string inChildProcess(const std::function<std::string()> &work) {
+ChildProcess::ChildProcess(const std::function<std::string()> &work) {
     int ends[2];
     if (pipe(ends) != 0) {
         throw Failure(std::string("no pipe for a child process: ") + std::strerror(errno));
     }
-    const pid_t child = fork();
-    if (child < 0) {
-        throw Failure(std::string("no child process: ") + std::strerror(errno));
+    child_ = fork();
+    if (child_ < 0) {
+        const std::string reason = std::strerror(errno);
+        close(ends[0]);
+        close(ends[1]);
+        throw Failure("no child process: " + reason);
     }
-    if (child == 0) {
+    if (child_ == 0) {
         close(ends[0]);
         runChild(work, ends[1]);
     }
     close(ends[1]);
-    const std::string answer = readAll(ends[0]);
-    close(ends[0]);
-    int status = 0;
-    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+    output_ = ends[0];
+}
+
+ChildProcess::~ChildProcess() {
+    if (child_ != 0) {
+        readAll(output_);  // a child that nobody reads would not end
+        wait();
     }
+}
+
+int ChildProcess::wait() {
+    close(output_);
+    int status = 0;
+    while (waitpid(child_, &status, 0) < 0 && errno == EINTR) {
+    }
+    child_ = 0;
+    return status;
+}
+
+std::string ChildProcess::answer() {
+    std::string text = readAll(output_);
+    const int status = wait();
     if (WIFSIGNALED(status)) {
         throw Failure("a child process was ended by signal " + std::to_string(WTERMSIG(status)));
     }
     if (WEXITSTATUS(status) != 0) {
-        throw Failure(answer);
+        throw Failure(text);
     }
-    return answer;
+    return text;
 }
 
 }  // namespace stage

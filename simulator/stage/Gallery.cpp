@@ -1,5 +1,5 @@
-// Drawing the gallery: one child process for each device and for each side, pictures first into a
-// folder of their own, so that a gallery is complete or not there.
+// Drawing the gallery: one child process for each device and for each side, both sides at a time,
+// pictures first into a folder of their own, so that a gallery is complete or not there.
 #include "stage/Gallery.hpp"
 
 #include <algorithm>
@@ -12,6 +12,7 @@
 #include "stage/ChildProcess.hpp"
 #include "stage/Errors.hpp"
 #include "stage/GalleryPage.hpp"
+#include "stage/Surroundings.hpp"
 
 namespace stage {
 namespace {
@@ -20,6 +21,7 @@ namespace fs = std::filesystem;
 
 constexpr auto kPictures = "pictures";
 constexpr auto kPage = "index.html";
+constexpr double kPace = 0.01;  // nobody watches
 
 std::vector<Model> allModels() {
     std::vector<Model> models;
@@ -37,20 +39,58 @@ std::string pictureName(const Scene &scene, const Settings &settings) {
 }
 
 /// Draws all scenes on one device; answers what the screen said, one line a scene.
-std::string drawScenes(const fs::path &folder, const Settings &settings) {
+std::string drawScenes(const fs::path &folder, const std::vector<SceneGroup> &groups,
+                       const Settings &settings) {
     Session session(settings);
     std::ostringstream captions;
-    for (const Scene &scene : scenes()) {
-        session.openDialer();
-        for (const Step &step : scene.steps) {
-            session.perform(step, captions);
+    for (const SceneGroup &group : groups) {
+        for (const Scene &scene : group.scenes) {
+            session.startOver();
+            session.open(scene.opening);
+            for (const Step &step : scene.steps) {
+                session.perform(step, captions);
+            }
+            session.savePicture(folder / pictureName(scene, settings));
+            std::string said = session.lineText();
+            std::ranges::replace(said, '\n', ' ');
+            captions << said << '\n';
         }
-        session.savePicture(folder / pictureName(scene, settings));
-        std::string said = session.lineText();
-        std::ranges::replace(said, '\n', ' ');
-        captions << said << '\n';
     }
     return captions.str();
+}
+
+Settings sideOf(const Settings &settings, const Model &model, bool withAddOn) {
+    Settings side = settings;
+    side.model = model;
+    side.withAddOn = withAddOn;
+    side.pace = kPace;
+    // Two runs at a time cannot share a store.
+    side.data = (settings.data.empty() ? defaultDataFolder() : settings.data) /
+                (withAddOn ? "with-addon" : "without-addon");
+    return side;
+}
+
+/// What a device shows in all scenes: the captions of both sides come in the order of the scenes.
+std::vector<Exhibit> exhibitsOf(const std::vector<SceneGroup> &groups, const Settings &without,
+                                const Settings &with, const std::string &saidWithout,
+                                const std::string &saidWith) {
+    std::vector<Exhibit> exhibits;
+    std::istringstream captionsWithout(saidWithout);
+    std::istringstream captionsWith(saidWith);
+    for (const SceneGroup &group : groups) {
+        for (const Scene &scene : group.scenes) {
+            Exhibit exhibit{with.model,
+                            std::string(scene.name),
+                            pictureName(scene, without),
+                            pictureName(scene, with),
+                            {},
+                            {}};
+            std::getline(captionsWithout, exhibit.captionWithout);
+            std::getline(captionsWith, exhibit.captionWith);
+            exhibits.push_back(std::move(exhibit));
+        }
+    }
+    return exhibits;
 }
 
 /// A folder beside `folder` that vanishes with the object, whatever is left in it.
@@ -115,31 +155,19 @@ int makeGallery(const fs::path &folder, const Settings &settings) {
         throw Failure(folder.string() + ": is no folder; choose another with --out");
     }
     const StagingFolder staging(folder);
+    const std::vector<SceneGroup> groups = {dialerScenes(), inCallScenes()};
     const std::vector<Model> models = allModels();
     std::vector<Exhibit> exhibits;
     for (const Model &model : models) {
-        Settings without = settings;
-        without.model = model;
-        without.withAddOn = false;
-        Settings with = without;
-        with.withAddOn = true;
-        std::istringstream captionsWithout(
-            inChildProcess([&] { return drawScenes(staging.path(), without); }));
-        std::istringstream captionsWith(
-            inChildProcess([&] { return drawScenes(staging.path(), with); }));
-        for (const Scene &scene : scenes()) {
-            Exhibit exhibit{model,
-                            std::string(scene.name),
-                            pictureName(scene, without),
-                            pictureName(scene, with),
-                            {},
-                            {}};
-            std::getline(captionsWithout, exhibit.captionWithout);
-            std::getline(captionsWith, exhibit.captionWith);
-            exhibits.push_back(std::move(exhibit));
-        }
+        const Settings without = sideOf(settings, model, false);
+        const Settings with = sideOf(settings, model, true);
+        ChildProcess drawWithout([&] { return drawScenes(staging.path(), groups, without); });
+        ChildProcess drawWith([&] { return drawScenes(staging.path(), groups, with); });
+        const std::string saidWithout = drawWithout.answer();
+        std::ranges::move(exhibitsOf(groups, without, with, saidWithout, drawWith.answer()),
+                          std::back_inserter(exhibits));
     }
-    writePage(staging.path() / kPage, galleryPage(scenes(), models, exhibits));
+    writePage(staging.path() / kPage, galleryPage(groups, models, exhibits));
     return moveInto(folder, staging.path());
 }
 

@@ -7,7 +7,9 @@ namespace {
 constexpr std::string_view kStyle = R"(
 body { font: 15px/1.5 system-ui, sans-serif; margin: 0 auto; max-width: 1080px; padding: 24px;
        color: #1c1c1e; background: #f2f2f7; }
-h1 { font-weight: 600; } h2 { font-size: 18px; margin: 0; } p { margin: 2px 0 12px; color: #636366; }
+h1 { font-weight: 600; } h2 { margin: 40px 0 0; scroll-margin-top: 16px; }
+h3 { font-size: 18px; margin: 0; } p { margin: 2px 0 12px; color: #636366; }
+nav a { margin-right: 16px; color: #007aff; text-decoration: none; }
 section { background: #fff; border-radius: 12px; padding: 20px; margin: 16px 0; }
 input { position: absolute; opacity: 0; }
 label { display: inline-block; padding: 6px 14px; margin: 0 6px 8px 0; border-radius: 16px;
@@ -54,8 +56,8 @@ std::string figure(const std::string &picture, const std::string &who, const std
 }
 
 std::string section(const Scene &scene, std::span<const Exhibit> exhibits) {
-    std::string html = "<section id=\"" + escapedHtml(scene.name) + "\">\n<h2>" +
-                       escapedHtml(scene.title) + "</h2>\n<p>" + escapedHtml(scene.note) + "</p>\n";
+    std::string html = "<section id=\"" + escapedHtml(scene.name) + "\">\n<h3>" +
+                       escapedHtml(scene.title) + "</h3>\n<p>" + escapedHtml(scene.note) + "</p>\n";
     for (const Exhibit &exhibit : exhibits) {
         if (exhibit.scene == scene.name) {
             html += "<div class=\"pair " + id(exhibit.model) + "\">\n" +
@@ -64,6 +66,20 @@ std::string section(const Scene &scene, std::span<const Exhibit> exhibits) {
         }
     }
     return html + "</section>\n";
+}
+
+/// Where on the page each screen begins.
+std::string contents(std::span<const SceneGroup> groups) {
+    std::string links = "<nav>";
+    for (const SceneGroup &group : groups) {
+        links +=
+            "<a href=\"#" + escapedHtml(group.name) + "\">" + escapedHtml(group.title) + "</a>";
+    }
+    return links + "</nav>\n";
+}
+
+std::string heading(const SceneGroup &group) {
+    return "<h2 id=\"" + escapedHtml(group.name) + "\">" + escapedHtml(group.title) + "</h2>\n";
 }
 
 }  // namespace
@@ -91,7 +107,7 @@ std::string escapedHtml(std::string_view text) {
     return escaped;
 }
 
-std::string galleryPage(std::span<const Scene> scenes, std::span<const Model> models,
+std::string galleryPage(std::span<const SceneGroup> groups, std::span<const Model> models,
                         std::span<const Exhibit> exhibits) {
     std::string html =
         "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
@@ -99,9 +115,13 @@ std::string galleryPage(std::span<const Scene> scenes, std::span<const Model> mo
     html += kStyle;
     html += chooserStyle(models) + "</style>\n</head>\n<body>\n<h1>libZQDial</h1>\n" +
             "<p>The simulated Phone application without and with the add-on. Pick a device:</p>\n" +
-            chooser(models);
-    for (const Scene &scene : scenes) {
-        html += section(scene, exhibits);
+            chooser(models) + contents(groups);
+    // Headings and scenes lie side by side: the style sheet reaches the scenes from the buttons.
+    for (const SceneGroup &group : groups) {
+        html += heading(group);
+        for (const Scene &scene : group.scenes) {
+            html += section(scene, exhibits);
+        }
     }
     return html + "</body>\n</html>\n";
 }

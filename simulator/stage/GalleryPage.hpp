@@ -1,4 +1,5 @@
-// The gallery's one HTML page: no scripts, nothing from elsewhere, pictures by relative names.
+// The gallery's one HTML page, screen by screen: no scripts, nothing from elsewhere, pictures by
+// relative names.
 #pragma once
 
 #include <span>
@@ -21,7 +22,7 @@ struct Exhibit {
 };
 
 /// The page for `exhibits`; a reader picks the device, the first one is shown at first.
-std::string galleryPage(std::span<const Scene> scenes, std::span<const Model> models,
+std::string galleryPage(std::span<const SceneGroup> groups, std::span<const Model> models,
                         std::span<const Exhibit> exhibits);
 
 /// The text with the characters that HTML reserves written as references.

@@ -7,13 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "stage/Arguments.hpp"
+#include "stage/Commands.hpp"
 #include "stage/Model.hpp"
+#include "stage/Screen.hpp"
 #include "stage/Step.hpp"
 
 namespace stage {
-
-enum class Task { Help, Version, Dialer, Hooks, Gallery, Describe };
 
 struct Request {
     Task task = Task::Help;
@@ -25,6 +24,8 @@ struct Request {
     std::filesystem::path out;    // of the gallery
     bool verbose = false;
     std::string withoutClass;  // a class of the Phone application to leave out
+    double pace = 1;           // real seconds that a simulated second takes
+    Opening opening;           // of the screen that the steps are for
     Steps steps;
     std::vector<std::string> numbers;
 };

@@ -23,6 +23,7 @@ Settings settingsOf(const Request &request) {
     settings.data = request.data;
     settings.verbose = request.verbose;
     settings.withoutClass = request.withoutClass;
+    settings.pace = request.pace;
     return settings;
 }
 
@@ -37,9 +38,10 @@ void checkPictureFolders(const Steps &steps) {
     }
 }
 
-void runDialer(const Request &request, std::ostream &out) {
+void runScreen(const Request &request, std::ostream &out) {
     checkPictureFolders(request.steps);
     Session session(settingsOf(request));
+    session.open(request.opening);
     for (const Step &step : request.steps) {
         session.perform(step, out);
     }
@@ -95,7 +97,8 @@ void runRequest(const Request &request, std::ostream &out) {
         out << "phone-simulator " << ZQDIAL_VERSION << '\n';
         break;
     case Task::Dialer:
-        runDialer(request, out);
+    case Task::InCall:
+        runScreen(request, out);
         break;
     case Task::Hooks:
         runHooks(request, out);

@@ -4,7 +4,9 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
+#include "stage/Screen.hpp"
 #include "stage/Step.hpp"
 
 namespace stage {
@@ -14,9 +16,17 @@ struct Scene {
     std::string_view title;  // for the page
     std::string_view note;   // what to look at
     Steps steps;
+    Opening opening{};
 };
 
-/// Every scene, in the order of the page.
-std::span<const Scene> scenes();
+/// The scenes of one screen, in the order of the page.
+struct SceneGroup {
+    std::string_view name;   // "dialer"
+    std::string_view title;  // for the page
+    std::vector<Scene> scenes;
+};
+
+SceneGroup dialerScenes();
+SceneGroup inCallScenes();
 
 }  // namespace stage

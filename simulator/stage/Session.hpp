@@ -8,16 +8,14 @@
 #include <string>
 
 #include "objc/owned.hpp"
-#include "platform/Foundation.hpp"
 #include "stage/Model.hpp"
-#include "stage/Step.hpp"
+#include "stage/PhoneWindow.hpp"
+#include "stage/Screen.hpp"
 
 namespace phone {
 class DialerController;
+class InCallController;
 }  // namespace phone
-namespace sim {
-class Finger;
-}  // namespace sim
 
 namespace stage {
 
@@ -28,46 +26,53 @@ struct Settings {
     std::filesystem::path data{};   // empty: demo/data of the build
     bool fixedMeasurer = false;     // text measured by a rule instead of by fonts, for tests
     std::string withoutClass{};     // a class of the Phone application that is to be missing
-    bool verbose = false;           // report skipped hooks on stderr
+    bool verbose = false;           // skipped hooks and the system log go to stderr
     std::string bundleIdentifier = "com.apple.mobilephone";
+    double pace = 1;  // real seconds that a simulated second takes
 };
 
 class Session {
   public:
-    /// Opens the companion and loads the add-on. Throws Failure, or the error of whatever could not
-    /// be opened, each with a message of one line.
+    /// Opens the companion, loads the add-on and shows the keypad. Throws Failure, or the error of
+    /// whatever could not be opened, each with a message of one line.
     explicit Session(const Settings &settings);
     ~Session();
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
+    /// Closes the screen that is shown and opens another.
+    void open(const Opening &opening);
     /// Puts a keypad that nobody has touched yet on the screen.
-    void openDialer();
-    /// The keypad's controller.
+    void openDialer() { open({}); }
+
+    /// The keypad's controller, also while a call covers it.
     phone::DialerController *dialer() const;
+    /// The in-call screen's controller; null while another screen is shown.
+    phone::InCallController *inCall() const;
 
     /// Does one step; trees are printed to `out`. Throws Failure when the step is not possible now.
     void perform(const Step &step, std::ostream &out);
+    /// Lets simulated time pass; it stands still otherwise.
+    void wait(std::chrono::milliseconds time);
+    /// Brings the world back as it was at the start, and opens a keypad. Whatever the companion
+    /// still owes an answer is waited for, for some seconds of the simulation.
+    void startOver();
 
     /// The screen's view tree, laid out.
-    std::string tree() const;
+    std::string tree() const { return window_->tree(); }
     /// Throws sim::PictureError.
-    void savePicture(const std::filesystem::path &file) const;
-    /// What the screen says under the typed number, its visible texts joined by " | ".
+    void savePicture(const std::filesystem::path &file) const { window_->savePicture(file); }
+    /// What the screen says of the number in question, its visible texts joined by " | ": under
+    /// the typed number, or in the display of a call.
     std::string lineText() const;
-    /// The typed number as it is shown.
+    /// The typed number as the keypad shows it.
     std::string numberText() const;
 
   private:
-    void type(const std::string &text) const;
-    void press(const std::string &character) const;
-    void touch(Step::Kind kind);
-    void saveContact(const std::string &name) const;
-
+    Settings settings_;
     objc::AutoreleasePool pool_;
-    objc::Owned<NSObject> window_;
-    objc::Owned<NSObject> root_;
-    std::unique_ptr<sim::Finger> finger_;
+    std::unique_ptr<PhoneWindow> window_;
+    std::unique_ptr<Screen> screen_;
 };
 
 }  // namespace stage

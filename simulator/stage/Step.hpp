@@ -1,6 +1,7 @@
 // What a person does at the simulated telephone, and what is wanted to be seen of it, in order.
 #pragma once
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -8,18 +9,33 @@ namespace stage {
 
 struct Step {
     enum class Kind {
+        // The keypad.
         Type,         // press the keys of `text` (a character without a key is put in as if pasted)
         Delete,       // press the delete key `count` times
         Touch,        // tap the add-to-contacts line
         Hold,         // put a finger on it
         Cancel,       // lift the finger elsewhere, so that the touch is cancelled
         SaveContact,  // save a new person called `text` in the sheet that the tap opened
-        Picture,      // write the screen to the PNG file `text`
-        Tree,         // print the screen's view tree
+
+        // The in-call screen.
+        Outgoing,  // dial the number `text`
+        Incoming,  // the number `text` calls; an empty one is a caller's who hides
+        Answer,    // the ringing call is answered, or else the one being dialled
+        Second,    // the number `text` calls too and is answered
+        Swap,      // hold the call that is talked on, talk on the held one
+        Merge,     // join both
+        End,       // end call number `count`, counted from 1
+        Layout,    // have the display laid out again
+
+        // Any screen.
+        Wait,     // let `time` pass
+        Picture,  // write the screen to the PNG file `text`
+        Tree,     // print the screen's view tree
     };
     Kind kind;
     std::string text{};
     int count = 1;
+    std::chrono::milliseconds time{};  // of the simulation
 
     bool operator==(const Step &) const = default;
 };

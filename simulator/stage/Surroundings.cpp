@@ -12,6 +12,7 @@
 #include "stage/Errors.hpp"
 #include "stage/MainBundle.hpp"
 #include "stage/Session.hpp"
+#include "stage/SystemLog.hpp"
 #include "substrate/HookLog.hpp"
 #include "substrate/Loader.hpp"
 #include "uikit/Device.hpp"
@@ -25,8 +26,7 @@ namespace fs = std::filesystem;
 
 /// Foundation keeps defaults in the user's home as soon as anybody asks for one; the simulator's
 /// belong to its own data.
-fs::path openDataFolder(const fs::path &wanted) {
-    const fs::path folder = wanted.empty() ? defaultDataFolder() : wanted;
+void prepareDataFolder(const fs::path &folder) {
     const fs::path home = folder / "home";
     std::error_code error;
     fs::create_directories(home / "GNUstep" / "Defaults", error);
@@ -36,13 +36,24 @@ fs::path openDataFolder(const fs::path &wanted) {
     }
     setenv("HOME", home.c_str(), 1);
     setenv("GNUSTEP_USER_ROOT", (home / "GNUstep").c_str(), 1);
-    return folder;
+}
+
+fs::path dataFolder(const Settings &settings) {
+    return settings.data.empty() ? defaultDataFolder() : settings.data;
+}
+
+fs::path pictureFile(const std::string &name) {
+    return name.empty() ? fs::path() : companion::resourceDir() / name;
 }
 
 void fillContactBook() {
     phone::ContactBook::shared().clear();
     for (const companion::Contact &known : companion::store().contacts()) {
-        phone::Contact contact{known.name, {}};
+        phone::Contact contact{known.name,
+                               {},
+                               known.recordId,
+                               pictureFile(known.avatar),
+                               pictureFile(known.wallpaper)};
         for (const companion::ContactNumber &entry : known.numbers) {
             contact.numbers.push_back({entry.number, entry.label});
         }
@@ -63,8 +74,16 @@ void loadAddOn() {
 
 fs::path defaultDataFolder() { return phone::installFolder() / "demo" / "data"; }
 
+void openWorld(const Settings &settings) {
+    companion::open({settings.world, dataFolder(settings), {}});
+    fillContactBook();
+}
+
 void prepareProcess(const Settings &settings) {
-    const fs::path data = openDataFolder(settings.data);
+    prepareDataFolder(dataFolder(settings));
+    if (!settings.verbose) {
+        sendLogTo(dataFolder(settings) / "system.log");
+    }
     if (!settings.withoutClass.empty() && !phone::forgetClass(settings.withoutClass.c_str())) {
         throw Failure("--without-class: the Phone application has no class " +
                       settings.withoutClass);
@@ -76,8 +95,10 @@ void prepareProcess(const Settings &settings) {
     SimImage::setNamedFolder(phone::pictureFolder().string());
     substrate::setVerbose(settings.verbose);
     setMainBundleIdentifier(settings.bundleIdentifier);
-    companion::open({settings.world, data, {}});
-    fillContactBook();
+    auto &time = companion::SimulatedTime::shared();
+    time.setPace(settings.pace);
+    time.letPass({});
+    openWorld(settings);
     if (settings.withAddOn) {
         loadAddOn();
     }

@@ -11,6 +11,10 @@ struct Settings;
 /// the companion, the contacts, and last the add-on. Throws as Session does.
 void prepareProcess(const Settings &settings);
 
+/// Opens the companion with the settings' world, as it is before anything has happened in it, and
+/// fills the telephone's own address book. Throws as Session does.
+void openWorld(const Settings &settings);
+
 /// The data folder that is used when none is named.
 std::filesystem::path defaultDataFolder();
 

@@ -1,4 +1,4 @@
-// Collecting labels from a view tree.
+// Collecting texts from a view tree.
 #include "stage/VisibleTexts.hpp"
 
 #include "uikit/Foundation.hpp"
@@ -10,16 +10,16 @@ std::string joinedTexts(UIView view, UIView except) {
     if (view.get() == except.get() || objc::send<bool()>(view, "isHidden"_sel)) {
         return {};
     }
+    constexpr auto kText = "text"_sel;
+    // What answers a text shows all of it, whatever it is made of inside.
+    if (view.respondsToSelector(kText)) {
+        return sim::utf8(objc::send<NSString()>(view, kText));
+    }
     std::string joined;
-    const auto add = [&](const std::string &text) {
+    for (const objc::Owned<UIView> &child : objc::Wire<SimView *>::from(view.get())->children()) {
+        const std::string text = joinedTexts(child, except);
         joined += joined.empty() || text.empty() ? "" : " | ";
         joined += text;
-    };
-    if (view.isKindOfClass("UILabel"_cls)) {
-        add(sim::utf8(view.as<UILabel>().text()));
-    }
-    for (const objc::Owned<UIView> &child : objc::Wire<SimView *>::from(view.get())->children()) {
-        add(joinedTexts(child, except));
     }
     return joined;
 }

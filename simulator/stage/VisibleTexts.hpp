@@ -7,8 +7,8 @@
 
 namespace stage {
 
-/// The texts of all visible labels under `view`, back to front, joined by " | "; `except` and what
-/// is hidden are left out.
+/// The texts of all visible views under `view` that answer `text`, back to front, joined by " | ";
+/// `except` and what is hidden are left out.
 std::string joinedTexts(UIView view, UIView except);
 
 }  // namespace stage

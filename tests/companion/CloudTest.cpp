@@ -18,6 +18,7 @@ constexpr std::string_view kWorld = R"({
       "partner": {"brand_type": "self", "b_id": 5015, "rating": 4.5, "ads": "第二杯半价"}}},
     {"number": "13000000108", "error": "no network", "delay": 0},
     {"number": "13000000109", "cancel": true},
+    {"number": "13000000110", "answer": {}, "delay": 3600},
     {"number": "13000000199", "answer": {}, "delay": 0.1}]
 })";
 
@@ -41,7 +42,10 @@ class Listener : public objc::Instance {
         errors.push_back(objc::Owned<NSObject>::share(error));
     }
     void cancelled() { ++cancels; }
-    void heard(NSNotification message) { messages.push_back(utf8(message.name())); }
+    void heard(NSNotification message) {
+        messages.push_back(utf8(message.name()));
+        infos.push_back(objc::Owned<NSDictionary>::share(message.userInfo()));
+    }
     void heardAndLeft(NSNotification message) {
         heard(message);
         for (Listener *const observer : {this, other}) {
@@ -53,6 +57,7 @@ class Listener : public objc::Instance {
     std::vector<objc::Owned<NSDictionary>> answers;
     std::vector<objc::Owned<NSObject>> errors;
     std::vector<std::string> messages;
+    std::vector<objc::Owned<NSDictionary>> infos;
     int cancels = 0;
     Listener *other = nullptr;
 };
@@ -122,6 +127,21 @@ TEST_F(Cloud, FailsOrIsCancelledWithOneMessageEach) {
     EXPECT_EQ(listener_->cancels, 1);
 }
 
+TEST_F(Cloud, AnswersEveryQueryOfANumber) {
+    query("13000000101"_ns);
+    query("13000000101"_ns);
+    query("13000000101"_ns, true);
+    settle();
+    EXPECT_EQ(listener_->answers.size(), 2U);
+}
+
+TEST_F(Cloud, WaitsAtThePaceOfTheRun) {
+    SimulatedTime::shared().setPace(1e-5);
+    query("13000000110"_ns);
+    runUntil([&] { return !listener_->answers.empty(); });
+    SimulatedTime::shared().setPace(1);
+}
+
 TEST_F(Cloud, HasNoHitForNumbersItDoesNotKnow) {
     query("13911112222"_ns);
     settle();
@@ -151,10 +171,22 @@ TEST_F(Cloud, DownloadsALogoThenTellsOfIt) {
                              property(item, "icon"_ns), path);
     EXPECT_FALSE(std::filesystem::exists(text(path)));
     runUntil([] { return journal().downloads.front().finished; });
-    EXPECT_THAT(listener_->messages, testing::ElementsAre("msgPartnerLogoDownloaded"));
+    ASSERT_THAT(listener_->messages, testing::ElementsAre("msgPartnerLogoDownloaded"));
+    EXPECT_EQ(text(listener_->infos[0].get().objectForKey("plogopath"_ns)), text(path));
     EXPECT_EQ(test::readFile(text(path)), "picture");
     EXPECT_EQ(test::readFile(folder_ / "data/logos/partner_5012@2x.png"), "double picture");
     EXPECT_TRUE(journal().downloads.front().finished);
+}
+
+TEST_F(Cloud, ForgetsTheLogosOfAnEarlierRun) {
+    std::filesystem::create_directory(folder_ / "data/logos");
+    for (const char *const name : {"partner_5012.png", "partner_5012@2x.png", "mine.png"}) {
+        test::writeFile(folder_ / "data/logos" / name, "picture");
+    }
+    open({folder_ / "world.json", folder_ / "data", folder_ / "pictures"});
+    EXPECT_FALSE(std::filesystem::exists(logoFile(5012)));
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "data/logos/partner_5012@2x.png"));
+    EXPECT_TRUE(std::filesystem::exists(folder_ / "data/logos/mine.png"));
 }
 
 TEST_F(Cloud, PostsNothingForALogoThatCannotBeHad) {
@@ -192,6 +224,21 @@ TEST_F(Cloud, ObserversMayLeaveWhileAMessageIsPosted) {
     observe(second_, "msg"_ns, "heardAndLeft:"_sel);
     post("msg"_ns);
     EXPECT_EQ(listener_->messages.size() + second_->messages.size(), 1U);
+}
+
+TEST(SimulatedTime, PassesAsFarAsItIsLet) {
+    using namespace std::chrono_literals;
+    SimulatedTime time;
+    time.setPace(1e-6);
+    time.letPass(0s);
+    const auto start = time.now();
+    EXPECT_EQ(time.now(), start);
+    time.letPass(3607s);
+    while (time.now() < start + 3607s) {
+    }
+    EXPECT_EQ(time.now(), start + 3607s);
+    time.setPace(1);
+    EXPECT_EQ(time.now(), start + 3607s);
 }
 
 }  // namespace

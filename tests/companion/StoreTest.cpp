@@ -151,6 +151,7 @@ TEST_F(LoadedStore, FindsContactsByPureNumber) {
     EXPECT_EQ(known(store_.contactWithNumber("075501238800")).name, "周砚");
     EXPECT_EQ(known(store_.contactWithNumber("075501238800")).numbers.size(), 2U);
     EXPECT_EQ(known(store_.contactWithNumber("00442079460018")).avatar, "avatar_cat.png");
+    EXPECT_EQ(known(store_.contactWithNumber("18958100072")).wallpaper, "wallpaper_lake.png");
     EXPECT_FALSE(store_.contactWithNumber("17700000061"));
     EXPECT_EQ(store_.contacts().size(), world().contacts.size());
 }

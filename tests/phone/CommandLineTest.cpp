@@ -13,6 +13,7 @@ using stage::Step;
 using stage::Task;
 using testing::HasSubstr;
 using Kind = Step::Kind;
+using namespace std::chrono_literals;
 
 Request read(const std::vector<std::string> &words) { return stage::readRequest(words); }
 
@@ -31,6 +32,26 @@ TEST(CommandLine, KeepsTheOrderOfSteps) {
                                            {Kind::Hold}}));
 }
 
+TEST(CommandLine, ReadsTheStepsOfCalls) {
+    const Request request =
+        read({"incall",   "--display", "field", "--incoming", "",        "--answer", "--wait",
+              "7.25",     "--second",  "-1",    "--swap",     "--merge", "--end",    "2",
+              "--layout", "--png",     "a.png", "--outgoing", "+44 20",  "--pace",   "0.5"});
+    EXPECT_EQ(request.task, Task::InCall);
+    EXPECT_EQ(request.opening, (stage::Opening{stage::ScreenKind::InCall, phone::Display::Field}));
+    EXPECT_EQ(request.pace, 0.5);
+    EXPECT_EQ(request.steps, (stage::Steps{{Kind::Incoming, ""},
+                                           {Kind::Answer},
+                                           {Kind::Wait, {}, 1, 7250ms},
+                                           {Kind::Second, "-1"},
+                                           {Kind::Swap},
+                                           {Kind::Merge},
+                                           {Kind::End, {}, 2},
+                                           {Kind::Layout},
+                                           {Kind::Picture, "a.png"},
+                                           {Kind::Outgoing, "+44 20"}}));
+}
+
 TEST(CommandLine, TakesTextsAsTheyStand) {
     const Request request = read({"dialer", "--type", "--png", "--type", "", "--type", "a=b 快递"});
     EXPECT_EQ(request.steps,
@@ -45,6 +66,8 @@ TEST(CommandLine, HasDefaults) {
     EXPECT_EQ(request.numbers, (std::vector<std::string>{"10086", "+44"}));
     EXPECT_TRUE(request.withAddOn);
     EXPECT_EQ(read({"dialer"}).model, (stage::Model{"7.0", "4"}));
+    EXPECT_EQ(read({"incall"}).opening, (stage::Opening{stage::ScreenKind::InCall, {}}));
+    EXPECT_EQ(read({"incall"}).pace, 1);
 }
 
 TEST(CommandLine, AnswersHelpAndVersionAnywhere) {
@@ -61,8 +84,8 @@ TEST(CommandLine, NamesTheChoicesInOneLine) {
         std::vector<std::string> words;
         const char *complaint;
     } cases[] = {
-        {{}, "a command is missing; choose dialer, hooks, gallery or describe"},
-        {{"dailer"}, "there is no command 'dailer'; choose dialer, hooks, gallery or describe"},
+        {{}, "a command is missing; choose dialer, incall, hooks, gallery or describe"},
+        {{"dailer"}, "there is no command 'dailer'; choose dialer, incall, hooks, "},
         {{"dialer", "--ios", "9.0"}, "dialer: --ios takes 7.0, 7.1 or 8.0, not '9.0'"},
         {{"dialer", "--screen", "5"}, "dialer: --screen takes 3.5 or 4, not '5'"},
         {{"hooks", "--type", "1"}, "hooks: there is no option '--type'; choose --ios, "},
@@ -73,6 +96,16 @@ TEST(CommandLine, NamesTheChoicesInOneLine) {
         {{"dialer", "--delete", "99999999999"}, "--delete takes a whole number"},
         {{"dialer", "138"}, "dialer: '138' is out of place"},
         {{"dialer", "--type", "1\xff"}, "the argument '1\xEF\xBF\xBD' is no UTF-8 text"},
+        {{"incall", "--type", "1"}, "incall: there is no option '--type'; choose --ios, "},
+        {{"incall", "--outgoing", ""}, "--outgoing takes a number to dial, not ''"},
+        {{"incall", "--end", "0"}, "--end takes a whole number from 1 upwards, not '0'"},
+        {{"incall", "--wait", "7200.5"}, "--wait takes a number from 0 to 7200, not '7200.5'"},
+        {{"incall", "--wait", "-1"}, "--wait takes a number from 0 to 7200, not '-1'"},
+        {{"incall", "--wait", "nan"}, "--wait takes a number from 0 to 7200, not 'nan'"},
+        {{"incall", "--wait", "2s"}, "--wait takes a number from 0 to 7200, not '2s'"},
+        {{"incall", "--pace", "0"}, "--pace takes a number from 0.001 to 10, not '0'"},
+        {{"incall", "--display", "lcd"}, "incall: --display takes view or field, not 'lcd'"},
+        {{"dialer", "--wait", "1"}, "dialer: there is no option '--wait'"},
         {{"gallery"}, "gallery: --out FOLDER is missing"},
         {{"describe"}, "describe: give at least one NUMBER"},
     };
@@ -95,15 +128,18 @@ TEST(TextTable, AlignsChineseText) {
 }
 
 TEST(GalleryPage, ShowsEachDeviceOfAScene) {
-    const std::vector<stage::Scene> scenes = {{"one", "A & B", "<note>", {}}};
+    const std::vector<stage::SceneGroup> groups = {
+        {"first", "Keys & more", {{"one", "A & B", "<note>", {}}}},
+        {"second", "Calls", {{"two", "C", "d", {}}}}};
     const std::vector<stage::Model> models = {{"7.0", "4"}, {"7.1", "3.5"}};
     const std::vector<stage::Exhibit> exhibits = {
         {models[0], "one", "p/1.png", "p/2.png", "", "a \"label\""},
         {models[1], "one", "p/3.png", "p/4.png", "", ""},
         {models[1], "another", "p/5.png", "p/6.png", "", ""}};
-    const std::string page = stage::galleryPage(scenes, models, exhibits);
-    for (const char *part : {"A &amp; B", "&lt;note&gt;", "p/1.png", "p/4.png",
-                             "With it: a &quot;label&quot;", "iOS 7.1, 3.5 inch"}) {
+    const std::string page = stage::galleryPage(groups, models, exhibits);
+    for (const char *part :
+         {"Keys &amp; more", "href=\"#second\"", "id=\"second\"", "A &amp; B", "&lt;note&gt;",
+          "p/1.png", "p/4.png", "With it: a &quot;label&quot;", "iOS 7.1, 3.5 inch"}) {
         EXPECT_THAT(page, HasSubstr(part));
     }
     EXPECT_THAT(page, testing::Not(HasSubstr("p/5.png")));

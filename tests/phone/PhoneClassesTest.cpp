@@ -6,12 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "objc/ivar.hpp"
 #include "phone/Classes.hpp"
 #include "phone/contact/ABContactViewController.hpp"
-#include "phone/incall/InCallController.hpp"
-#include "phone/incall/TPLCDView.hpp"
-#include "phone/incall/TUTelephonyCall.hpp"
 #include "substrate/RuntimeMethods.hpp"
 
 namespace {
@@ -92,53 +88,6 @@ TEST(PhoneClasses, CanBeTakenOutOfSight) {
     EXPECT_FALSE(objc::findClass("TPWallpaperView"));
     EXPECT_FALSE(phone::forgetClass("TPWallpaperView"));
     EXPECT_TRUE(objc::findClass("TPLCDTextView")) << "others stay";
-}
-
-objc::Owned<NSObject> newCall(bool outgoing) {
-    const id memory = objc::send<id()>(objc::classOf<phone::TUTelephonyCall>(), "alloc"_sel);
-    const auto yesOrNo =
-        objc::send<NSObject(bool)>("NSNumber"_cls, "numberWithBool:"_sel, outgoing);
-    const NSDictionary facts = NSDictionary::withObject(yesOrNo, "outgoing"_ns);
-    return objc::Owned<NSObject>::adopt(
-        objc::send<NSObject(NSObject)>(memory, "initWithCall:"_sel, facts));
-}
-
-TEST(InCallController, CountsLiveCalls) {
-    const objc::AutoreleasePool pool;
-    const auto controller =
-        objc::Owned<NSObject>::adopt(NSObject(*objc::make<phone::InCallController>()));
-    const auto count = [&] { return objc::read<int>(controller.get(), "_currentCallCount"_ivar); };
-    const auto first = newCall(true);
-    const auto second = newCall(false);
-    EXPECT_EQ(objc::send<int32_t()>(first.get(), "status"_sel), 3) << "outgoing calls dial";
-    EXPECT_EQ(objc::send<int32_t()>(second.get(), "status"_sel), 4) << "incoming calls ring";
-    EXPECT_EQ(objc::send<int32_t()>(second.get(), "abUID"_sel), -1) << "nobody's unless told";
-    const auto setStatus = [](NSObject call, int32_t status) {
-        objc::send<void(int32_t)>(call, "setStatus:"_sel, status);
-    };
-    setStatus(first, 1);
-    setStatus(first, 2);
-    EXPECT_EQ(count(), 1);
-    setStatus(second, 1);
-    EXPECT_EQ(count(), 2);
-    setStatus(first, 5);
-    setStatus(first, 5);
-    EXPECT_EQ(count(), 1);
-}
-
-TEST(InCallDisplay, GivesThePictureRoom) {
-    const objc::AutoreleasePool pool;
-    const auto display = phone::makeView<phone::InCallLCDView>(rect(0, 0, 320, 96));
-    const auto textWidth = [&] {
-        objc::send<void()>(display.get(), "layoutIfNeeded"_sel);
-        return objc::read<UIView>(display.get(), "_textView"_ivar).frame().size.width;
-    };
-    EXPECT_EQ(textWidth(), 280);
-    const auto picture = objc::create<UIImage>();
-    objc::send<void(UIImage)>(display.get(), "setImage:"_sel, picture);
-    EXPECT_EQ(textWidth(), 190);
-    objc::send<void(UIImage)>(display.get(), "setImage:"_sel, UIImage());
-    EXPECT_EQ(textWidth(), 280);
 }
 
 }  // namespace

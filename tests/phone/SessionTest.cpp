@@ -1,14 +1,11 @@
 // Sessions with the add-on, and the commands as a whole.
-#include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include <gmock/gmock.h>
 
+#include "StageRun.hpp"
 #include "objc/runtime.hpp"
 #include "stage/Errors.hpp"
-#include "stage/Run.hpp"
-#include "stage/Session.hpp"
 #include "substrate/HookLog.hpp"
 
 namespace {
@@ -22,43 +19,11 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-class Stage : public testing::Test {
-  public:
-    Stage() {
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
-    }
-    ~Stage() override { fs::remove_all(folder_); }
-
+class Stage : public test::StageRun {
   protected:
-    Settings settings(std::string_view ios, std::string_view screen) const {
-        Settings settings;
-        settings.model = stage::modelNamed(ios, screen);
-        settings.data = folder_ / "data";
-        settings.fixedMeasurer = true;
-        return settings;
-    }
-
-    struct Outcome {
-        int code;
-        std::string out;
-        std::string err;
-    };
-
-    Outcome run(std::vector<std::string> words) const {
-        words.insert(words.end(), {"--data", (folder_ / "data").string()});
-        std::ostringstream out;
-        std::ostringstream err;
-        const int code = stage::run(words, out, err);
-        return {code, out.str(), err.str()};
-    }
-
     static long count(HookEntry::Outcome outcome) {
         return std::ranges::count(substrate::hookLog(), outcome, &HookEntry::outcome);
     }
-
-    fs::path folder_ = fs::path(testing::TempDir()) /
-                       testing::UnitTest::GetInstance()->current_test_info()->name();
 };
 
 std::string typed(Session &session, const std::string &text) {
@@ -117,6 +82,8 @@ TEST_F(Stage, SavesANewContact) {
     session.perform({Step::Kind::Touch}, out);
     session.perform(save, out);
     EXPECT_EQ(session.lineText(), "新朋友 | 手机");
+    session.startOver();
+    EXPECT_THAT(typed(session, "4002001818"), StartsWith("云雀速递")) << "of the world as it was";
 }
 
 TEST_F(Stage, RunsStepsAndWritesPictures) {

@@ -69,13 +69,15 @@ void ZQNumberIdentityService::startCloudQuery(const std::string &number, NSObjec
     query->_delegate = objc::Owned<NSObject>::share(delegate);
     query->_answer = store().cloudAnswer(number).value_or(
         CloudAnswer{.number = number, .text = R"({"hit": false})"});
+    ++awaited();
     // The run loop keeps the query, and the query its delegate, until the answer is there.
     objc::send<void(SEL, id, double)>(*query, "performSelector:withObject:afterDelay:"_sel,
                                       SEL("deliver"_sel), nullptr,
-                                      query->_answer.delay.value_or(store().cloudDelay()));
+                                      pace() * query->_answer.delay.value_or(store().cloudDelay()));
 }
 
 void ZQNumberIdentityService::deliver() const {
+    --awaited();
     const NSObject delegate = _delegate;
     if (_answer.outcome == CloudAnswer::Outcome::cancel) {
         objc::send<void()>(delegate, "numberIdentityServicedidCancelCloudQuery"_sel);

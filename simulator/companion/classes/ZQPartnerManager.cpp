@@ -78,15 +78,17 @@ void ZQPartnerManager::download(NSString icon, NSString destination) {
     if (icon.length() == 0 || destination.length() == 0) {
         return;
     }
+    ++awaited();
     const id parts[] = {icon, destination};
     const auto request = objc::send<NSArray(const id *, NSUInteger)>(
         "NSArray"_cls, "arrayWithObjects:count:"_sel, parts, NSUInteger{2});
     objc::send<void(SEL, NSArray, double)>(*this, "performSelector:withObject:afterDelay:"_sel,
                                            SEL("finishDownload:"_sel), request,
-                                           store().downloadDelay());
+                                           pace() * store().downloadDelay());
 }
 
 void ZQPartnerManager::finishDownload(NSArray request) {
+    --awaited();
     const std::string icon = utf8(request.objectAtIndex(0).as<NSString>());
     const auto destination = request.objectAtIndex(1).as<NSString>();
     try {

@@ -26,7 +26,8 @@ constexpr const char *kDropTables = R"sql(
 
 constexpr const char *kCreateTables = R"sql(
     CREATE TABLE setting (name TEXT PRIMARY KEY, value) WITHOUT ROWID;
-    CREATE TABLE contact (record_id INTEGER PRIMARY KEY, name TEXT, avatar TEXT);
+    CREATE TABLE contact (record_id INTEGER PRIMARY KEY, name TEXT, avatar TEXT,
+        wallpaper TEXT);
     CREATE TABLE contact_number (record_id INTEGER, position INTEGER, label TEXT, number TEXT,
         pure TEXT, PRIMARY KEY (record_id, position)) WITHOUT ROWID;
     CREATE INDEX contact_number_pure ON contact_number (pure);
@@ -74,8 +75,8 @@ void insertSettings(Database &database, const World &world) {
 }
 
 void insertContact(Database &database, const Contact &contact) {
-    database.run("INSERT INTO contact VALUES (?, ?, ?)", contact.recordId, contact.name,
-                 contact.avatar);
+    database.run("INSERT INTO contact VALUES (?, ?, ?, ?)", contact.recordId, contact.name,
+                 contact.avatar, contact.wallpaper);
     std::int32_t position = 0;
     for (const ContactNumber &number : contact.numbers) {
         database.run("INSERT INTO contact_number VALUES (?, ?, ?, ?, ?)", contact.recordId,

@@ -52,6 +52,7 @@ Contact Store::contact(const Query &row) {
     result.recordId = row.integer(0);
     result.name = row.text(1);
     result.avatar = row.text(2);
+    result.wallpaper = row.text(3);
     Query number = database_.query(
         "SELECT label, number FROM contact_number WHERE record_id = ? ORDER BY position",
         result.recordId);
@@ -63,7 +64,8 @@ Contact Store::contact(const Query &row) {
 
 std::vector<Contact> Store::contacts() {
     std::vector<Contact> result;
-    Query row = database_.query("SELECT record_id, name, avatar FROM contact ORDER BY record_id");
+    Query row = database_.query(
+        "SELECT record_id, name, avatar, wallpaper FROM contact ORDER BY record_id");
     while (row.next()) {
         result.push_back(contact(row));
     }
@@ -72,7 +74,7 @@ std::vector<Contact> Store::contacts() {
 
 std::optional<Contact> Store::contactWithNumber(std::string_view number) {
     Query row = database_.query(
-        "SELECT record_id, name, avatar FROM contact JOIN contact_number "
+        "SELECT record_id, name, avatar, wallpaper FROM contact JOIN contact_number "
         "USING (record_id) WHERE pure = ? ORDER BY record_id LIMIT 1",
         number);
     return row.next() ? std::optional(contact(row)) : std::nullopt;

@@ -18,6 +18,7 @@ struct Contact {
     std::string name{};
     std::vector<ContactNumber> numbers{};  ///< at least one
     std::string avatar{};                  ///< picture file; empty when there is none
+    std::string wallpaper{};  ///< file of a large picture for the whole screen; may be empty
 };
 
 /// A partner business; its id is above the highest mark count, since both travel in one field.

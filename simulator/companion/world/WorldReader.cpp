@@ -79,7 +79,7 @@ World WorldReader::read(const JsonPlace &root) {
 void WorldReader::readContacts(const JsonPlace &list) {
     std::set<std::int32_t> ids;
     for (const JsonPlace &entry : list.items()) {
-        entry.expectObject({"recordId", "name", "numbers", "avatar"});
+        entry.expectObject({"recordId", "name", "numbers", "avatar", "wallpaper"});
         Contact contact;
         contact.recordId = entry["recordId"].integer(0, kMost);
         if (!ids.insert(contact.recordId).second) {
@@ -87,6 +87,7 @@ void WorldReader::readContacts(const JsonPlace &list) {
         }
         contact.name = entry["name"].nonEmptyText();
         contact.avatar = entry["avatar"].pictureOrNone();
+        contact.wallpaper = entry["wallpaper"].pictureOrNone();
         for (const JsonPlace &number : entry["numbers"].items()) {
             number.expectObject({"label", "number"});
             static_cast<void>(number["number"].number());  // checked here, kept as written

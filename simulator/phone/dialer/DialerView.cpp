@@ -4,25 +4,9 @@
 #include "phone/dialer/DialerLook.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
 #include "uikit/Registration.hpp"
-#include "uikit/SimButton.hpp"
+#include "uikit/SimControl.hpp"
 
 namespace phone {
-namespace {
-
-objc::Owned<UIView> makeButton(CGRect frame, const char *icon) {
-    auto button = makeView<SimButton>(frame);
-    objc::send<void(UIImage, NSUInteger)>(button.get(), "setImage:forState:"_sel, picture(icon),
-                                          kStateNormal);
-    return button;
-}
-
-void onTouch(UIView control, NSObject target, SEL action, NSUInteger events) {
-    objc::send<void(NSObject, SEL, NSUInteger)>(control, "addTarget:action:forControlEvents:"_sel,
-                                                target, action, events);
-}
-
-}  // namespace
-
 void DialerView::define() {
     sim::defined("DialerView", objc::ClassBuilder<DialerView>("DialerView", "UIView").finish());
 }

@@ -19,11 +19,19 @@ id PhoneStatusBar::initWithFrame(CGRect frame) {
     time_ = makeLabel(rect(0, 0, width, frame.size.height), 12);
     time_->setFont(objc::send<UIFont(CGFloat)>("UIFont"_cls, "boldSystemFontOfSize:"_sel, 12));
     time_->setText("9:41"_ns);
-    asView(*this).addSubview(makePicture("status_signal", {6, 6}));
+    signal_ = makePicture("status_signal", {6, 6});
+    battery_ = makePicture("status_battery", {width - 31, 5});
+    asView(*this).addSubview(signal_);
     asView(*this).addSubview(time_);
-    asView(*this).addSubview(makePicture("status_battery", {width - 31, 5}));
+    asView(*this).addSubview(battery_);
     setUserInteractionEnabled(false);
     return *this;
+}
+
+void PhoneStatusBar::setLight() const {
+    signal_->setImage(picture("status_signal_light"));
+    time_->setTextColor(color(255, 255, 255));
+    battery_->setImage(picture("status_battery_light"));
 }
 
 }  // namespace phone

@@ -11,9 +11,13 @@ class PhoneStatusBar : public SimView {
     static void define();
 
     id initWithFrame(CGRect frame);
+    /// White, for a dark screen; black unless set.
+    void setLight() const;
 
   private:
+    objc::Owned<UIImageView> signal_;
     objc::Owned<UILabel> time_;
+    objc::Owned<UIImageView> battery_;
 };
 
 }  // namespace phone

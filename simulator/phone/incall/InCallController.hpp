@@ -1,25 +1,82 @@
-// The controller of the in-call screen, as far as it counts the calls.
+// The in-call screen: calls begin, are answered, held, merged and ended here, and it shows how they
+// stand. What became of a call it hears from the telephony layer's notification.
 #pragma once
 
-#include <vector>
+#include <optional>
 
+#include "phone/incall/CallClock.hpp"
+#include "phone/incall/CallList.hpp"
+#include "phone/incall/DisplayContent.hpp"
+#include "phone/incall/InCallView.hpp"
 #include "uikit/SimViewController.hpp"
 
 namespace phone {
 
+/// Calls are counted from 1, in the order in which they began. What is not possible now answers
+/// false and changes nothing. Nobody but the controller retains a call: it is gone as soon as it
+/// has ended.
 class InCallController : public SimViewController {
   public:
     static void define();
 
-    InCallController();
+    /// The screen with one of the two displays (see usualDisplay()). Calls run on the simulated
+    /// time.
+    static objc::Owned<NSObject> create(Display display);
+
+    id init();
     ~InCallController();
 
-    /// The telephony layer says that a call's status changed: status 5 ends it.
+    /// `number` as it was dialled or as the network gives it; a caller who hides has an empty one.
+    /// The call that is talked on is held while another one is dialled.
+    void beginOutgoing(NSString number) { calls_.begin(number, true); }
+    void beginIncoming(NSString number) { calls_.begin(number, false); }
+    /// The ringing call, or else the one being dialled, is talked on from now; the one that was
+    /// until now is held.
+    bool answer() { return calls_.answer(); }
+    /// The call that is talked on and the one held last change places.
+    bool swap() { return calls_.swap(); }
+    /// Joins the held calls with the one that is talked on.
+    bool merge() { return calls_.merge(); }
+    /// Ends one call. When nobody is left to talk to, the call held last is talked on again. After
+    /// the last one the screen says that the call has ended, until the next one begins or the
+    /// screen disappears.
+    bool end(size_t number) { return calls_.end(number); }
+
+    size_t callCount() const { return calls_.count(); }
+    /// Null when there is no such call.
+    TUTelephonyCall *call(size_t number) const { return calls_.object(number); }
+
+    /// Brings the running time up to date, as every second of a call does by itself where the run
+    /// loop runs.
+    void tick();
+
+    InCallView *inCallView();
+    /// The InCallLCDView or InCallLCDField. What it says are the texts of the visible views in it
+    /// that answer `text`, in their order.
+    UIView displayView() { return inCallView()->display(); }
+    /// The TPWallpaperView.
+    UIView wallpaperView() { return inCallView()->wallpaper(); }
+
+    void loadView();
+    void viewDidDisappear(bool animated);
     void callStatusChanged(NSNotification notification);
 
+    // What the buttons do.
+    void endPressed(NSObject sender);
+    void answerPressed(NSObject sender);
+    void swapPressed(NSObject sender);
+    void mergePressed(NSObject sender);
+
   private:
-    std::vector<id> calls_;  // those that live; not retained
+    DisplayContent content() const;
+    InCallKeys keys() const;
+    void showCalls();
+
+    CallList calls_;
     int currentCallCount_ = 0;
+    Display display_ = Display::View;
+    std::optional<DisplayContent> ended_;
+    CallClock clock_;
 };
 
 }  // namespace phone

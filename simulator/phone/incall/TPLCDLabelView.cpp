@@ -23,21 +23,20 @@ void TPLCDLabelView::define() {
                                        .finish());
 }
 
+UIFont TPLCDLabelView::font() const { return UIFont::systemFontOfSize(CGFloat{fontSize_}); }
+
 void TPLCDLabelView::setText(NSString text) { text_ = sim::copied(text); }
 
 CGRect TPLCDLabelView::textRect() const {
     const CGSize room = asView(*this).bounds().size;
-    const CGSize size = objc::send<CGSize(UIFont)>(text_.get(), "sizeWithFont:"_sel,
-                                                   UIFont::systemFontOfSize(CGFloat{fontSize_}));
+    const CGSize size = objc::send<CGSize(UIFont)>(text_.get(), "sizeWithFont:"_sel, font());
     const CGFloat width = std::min(size.width, room.width);
     return rect(centred_ ? (room.width - width) / 2 : 0, (room.height - size.height) / 2, width,
                 size.height);
 }
 
 void TPLCDLabelView::drawRect(CGRect) {
-    objc::send<void()>(color(255, 255, 255), "set"_sel);
-    objc::send<CGSize(CGRect, UIFont)>(text_.get(), "drawInRect:withFont:"_sel, textRect(),
-                                       UIFont::systemFontOfSize(CGFloat{fontSize_}));
+    drawLine(text_, font(), textRect(), sim::TextAlignment::Left);
 }
 
 }  // namespace phone

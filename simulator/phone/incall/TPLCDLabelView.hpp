@@ -20,6 +20,8 @@ class TPLCDLabelView : public SimView {
     void drawRect(CGRect rect);
 
   private:
+    UIFont font() const;
+
     objc::Owned<NSString> text_;
     float fontSize_ = 14;
     bool centred_ = true;

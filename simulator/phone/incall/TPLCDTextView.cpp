@@ -1,6 +1,9 @@
-// The in-call display's text view.
+// The in-call display's text view draws its text itself.
 #include "phone/incall/TPLCDTextView.hpp"
 
+#include <algorithm>
+
+#include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 
 namespace phone {
@@ -9,28 +12,41 @@ void TPLCDTextView::define() {
     using objc::member;
     using Self = TPLCDTextView;
     sim::defined("TPLCDTextView", objc::ClassBuilder<Self>("TPLCDTextView", "UIView")
-                                      .method("initWithFrame:"_sel, member<&Self::initWithFrame>)
+                                      .ivar<&Self::text_>("_text")
+                                      .ivar<&Self::font_>("_font")
                                       .method("text"_sel, member<&Self::text>)
                                       .method("setText:"_sel, member<&Self::setText>)
+                                      .method("isTextCentered"_sel, member<&Self::isTextCentered>)
                                       .method("setCenterText:"_sel, member<&Self::setCenterText>)
+                                      .method("font"_sel, member<&Self::font>)
                                       .method("setLCDTextFont:"_sel, member<&Self::setLCDTextFont>)
-                                      .method("layoutSubviews"_sel, member<&Self::layoutSubviews>)
+                                      .method("drawRect:"_sel, member<&Self::drawRect>)
                                       .finish());
 }
 
-id TPLCDTextView::initWithFrame(CGRect frame) {
-    objc::sendSuper<TPLCDTextView, id(CGRect)>(this, "initWithFrame:"_sel, frame);
-    label_ = makeLabel({}, 30, sim::TextAlignment::Left);
-    label_->setTextColor(color(255, 255, 255));
-    asView(*this).addSubview(label_);
-    return *this;
+void TPLCDTextView::setText(NSString text) { text_ = sim::copied(text); }
+
+void TPLCDTextView::setLCDTextFont(UIFont font) { font_ = objc::Owned<UIFont>::share(font); }
+
+UIFont TPLCDTextView::fontToFit(CGFloat width) const {
+    constexpr CGFloat kSmallest = 0.7;
+    const CGFloat wanted =
+        objc::send<CGSize(UIFont)>(text_.get(), "sizeWithFont:"_sel, font_).width;
+    if (wanted <= width) {
+        return font_;
+    }
+    const auto points = objc::send<CGFloat()>(font_.get(), "pointSize"_sel);
+    return objc::send<UIFont(CGFloat)>(font_.get(), "fontWithSize:"_sel,
+                                       points * std::max(width / wanted, kSmallest));
 }
 
-void TPLCDTextView::setCenterText(bool centred) {
-    simLabel(label_)->setTextAlignment(centred ? sim::TextAlignment::Center
-                                               : sim::TextAlignment::Left);
+void TPLCDTextView::drawRect(CGRect) {
+    const CGFloat width = asView(*this).bounds().size.width;
+    const UIFont font = fontToFit(width);
+    // One line, however high the view is.
+    const CGFloat height = objc::send<CGFloat()>(font, "lineHeight"_sel);
+    drawLine(text_, font, rect(0, 0, width, height),
+             centred_ ? sim::TextAlignment::Center : sim::TextAlignment::Left);
 }
-
-void TPLCDTextView::layoutSubviews() { label_->setFrame(asView(*this).bounds()); }
 
 }  // namespace phone

@@ -1,4 +1,4 @@
-// The large line of the in-call display: a name or a number.
+// The large line of the in-call display: a name or a number, drawn at the top of the view.
 #pragma once
 
 #include "phone/Parts.hpp"
@@ -10,16 +10,22 @@ class TPLCDTextView : public SimView {
   public:
     static void define();
 
-    id initWithFrame(CGRect frame);
-    NSString text() const { return label_->text(); }
-    void setText(NSString text) { label_->setText(text); }
+    NSString text() const { return text_; }
+    void setText(NSString text);
+    bool isTextCentered() const { return centred_; }
     /// Centred, or from the left.
-    void setCenterText(bool centred);
-    void setLCDTextFont(UIFont font) { label_->setFont(font); }
-    void layoutSubviews();
+    void setCenterText(bool centred) { centred_ = centred; }
+    UIFont font() const { return font_; }
+    /// A text that is too wide is drawn in a smaller one, within limits.
+    void setLCDTextFont(UIFont font);
+    void drawRect(CGRect rect);
 
   private:
-    objc::Owned<UILabel> label_;
+    UIFont fontToFit(CGFloat width) const;
+
+    objc::Owned<NSString> text_;
+    objc::Owned<UIFont> font_;
+    bool centred_ = true;
 };
 
 }  // namespace phone

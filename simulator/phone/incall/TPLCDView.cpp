@@ -1,111 +1,146 @@
-// The in-call displays.
+// The in-call displays' parts. Whatever changes, the next layout places all of them anew.
 #include "phone/incall/TPLCDView.hpp"
 
 #include "phone/incall/TPLCDLabelView.hpp"
 #include "phone/incall/TPLCDTextView.hpp"
+#include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 
 namespace phone {
 namespace {
 
-constexpr CGFloat kMargin = 20;
-constexpr CGFloat kPictureSide = 74;
-constexpr CGFloat kPictureX = 226;
-constexpr CGFloat kTextBesidePicture = 190;
-constexpr CGFloat kLabelHeight = 22;
+/// The font that a name is written in where it has `width` points: the smaller one if it has to be.
+UIFont fittingFont(NSString text, CGFloat width, const DisplayFrames &frames) {
+    const UIFont large = lightFont(frames.textPoints);
+    const CGSize size = objc::send<CGSize(UIFont)>(text, "sizeWithFont:"_sel, large);
+    return size.width <= width ? large : lightFont(frames.smallTextPoints);
+}
+
+struct Row {
+    UIView name;
+    UIView label;
+};
+
+/// The label stands as the name does, which may have been told otherwise.
+void place(const Row &row, CGRect nameFrame, CGRect labelFrame, const DisplayFrames &frames,
+           bool centred) {
+    row.name.setFrame(nameFrame);
+    row.label.setFrame(labelFrame);
+    const auto text = objc::send<NSString()>(row.name, "text"_sel);
+    objc::send<void(UIFont)>(row.name, "setLCDTextFont:"_sel,
+                             fittingFont(text, nameFrame.size.width, frames));
+    objc::send<void(float)>(row.label, "setFontSize:"_sel, static_cast<float>(frames.labelPoints));
+    objc::send<void(bool)>(row.name, "setCenterText:"_sel, centred);
+    objc::send<void(bool)>(row.label, "setCenterText:"_sel,
+                           objc::send<bool()>(row.name, "isTextCentered"_sel));
+}
 
 }  // namespace
 
 void TPLCDView::define() {
     using objc::member;
-    sim::defined("TPLCDView", objc::ClassBuilder<TPLCDView>("TPLCDView", "UIView")
-                                  .ivar<&TPLCDView::textView_>("_textView")
-                                  .ivar<&TPLCDView::labelView_>("_labelView")
-                                  .ivar<&TPLCDView::imageView_>("_imageView")
-                                  .ivar<&TPLCDView::contentView_>("_contentView")
-                                  .method("initWithFrame:"_sel, member<&TPLCDView::initWithFrame>)
-                                  .method("setText:"_sel, member<&TPLCDView::setText>)
-                                  .method("setLabel:"_sel, member<&TPLCDView::setLabel>)
-                                  .method("setImage:"_sel, member<&TPLCDView::setImage>)
-                                  .method("setCenterText:"_sel, member<&TPLCDView::setCenterText>)
+    using Self = TPLCDView;
+    sim::defined("TPLCDView", objc::ClassBuilder<Self>("TPLCDView", "UIView")
+                                  .ivar<&Self::textView_>("_textView")
+                                  .ivar<&Self::labelView_>("_labelView")
+                                  .ivar<&Self::secondTextView_>("_secondTextView")
+                                  .ivar<&Self::secondLabelView_>("_secondLabelView")
+                                  .ivar<&Self::imageView_>("_imageView")
+                                  .ivar<&Self::contentView_>("_contentView")
+                                  .method("initWithFrame:"_sel, member<&Self::initWithFrame>)
+                                  .method("setText:"_sel, member<&Self::setText>)
+                                  .method("setLabel:"_sel, member<&Self::setLabel>)
+                                  .method("setSecondText:"_sel, member<&Self::setSecondText>)
+                                  .method("setSecondLabel:"_sel, member<&Self::setSecondLabel>)
+                                  .method("setImage:"_sel, member<&Self::setImage>)
+                                  .method("setCenterText:"_sel, member<&Self::setCenterText>)
                                   .finish());
-    InCallLCDView::define();
-    InCallLCDField::define();
 }
 
 id TPLCDView::initWithFrame(CGRect frame) {
     objc::sendSuper<TPLCDView, id(CGRect)>(this, "initWithFrame:"_sel, frame);
     textView_ = makeView<TPLCDTextView>({});
     labelView_ = makeView<TPLCDLabelView>({});
-    holder().addSubview(textView_);
-    holder().addSubview(labelView_);
+    secondTextView_ = makeView<TPLCDTextView>({});
+    secondLabelView_ = makeView<TPLCDLabelView>({});
+    addLines();
     return *this;
 }
 
 void TPLCDView::useContentView() {
     contentView_ = makeView<SimView>(asView(*this).bounds());
     asView(*this).addSubview(contentView_);
-    contentView_->addSubview(textView_);
-    contentView_->addSubview(labelView_);
+    addLines();
+}
+
+void TPLCDView::addLines() const {
+    for (const UIView line :
+         {textView_.get(), labelView_.get(), secondTextView_.get(), secondLabelView_.get()}) {
+        holder().addSubview(line);
+    }
 }
 
 void TPLCDView::setText(NSString text) {
     objc::send<void(NSString)>(textView_.get(), "setText:"_sel, text);
+    setNeedsLayout();
 }
 
 void TPLCDView::setLabel(NSString label) {
     objc::send<void(NSString)>(labelView_.get(), "setText:"_sel, label);
+    setNeedsLayout();
+}
+
+void TPLCDView::setSecondText(NSString text) {
+    hasTwoRows_ = text != nullptr;
+    objc::send<void(NSString)>(secondTextView_.get(), "setText:"_sel, text);
+    setNeedsLayout();
+}
+
+void TPLCDView::setSecondLabel(NSString label) {
+    objc::send<void(NSString)>(secondLabelView_.get(), "setText:"_sel, label);
+    setNeedsLayout();
 }
 
 void TPLCDView::setImage(UIImage image) {
-    imageView_->removeFromSuperview();
-    imageView_ = {};
-    if (image) {
+    if (!image) {
+        imageView_->removeFromSuperview();
+        imageView_ = {};
+    } else if (!imageView_) {
         auto view = objc::create<UIImageView(CGRect)>("initWithFrame:"_sel, CGRect{});
-        view->setImage(image);
         imageView_ = objc::Owned<UIView>::adopt(view.leak());
         holder().addSubview(imageView_);
     }
+    objc::send<void(UIImage)>(imageView_.get(), "setImage:"_sel, image);
     setNeedsLayout();
 }
 
 void TPLCDView::setCenterText(bool centred) {
-    objc::send<void(bool)>(textView_.get(), "setCenterText:"_sel, centred);
-    objc::send<void(bool)>(labelView_.get(), "setCenterText:"_sel, centred);
+    centred_ = centred;
+    setNeedsLayout();
 }
 
-void TPLCDView::placeLines(CGFloat top, CGFloat textHeight) {
-    const CGFloat width =
-        imageView_ ? kTextBesidePicture : asView(*this).bounds().size.width - 2 * kMargin;
-    textView_->setFrame(rect(kMargin, top, width, textHeight));
-    labelView_->setFrame(rect(kMargin, top + textHeight, width, kLabelHeight));
-    imageView_->setFrame(rect(kPictureX, top, kPictureSide, kPictureSide));
+void TPLCDView::placeImage(CGRect frame) const {
+    imageView_->setFrame(frame);
+    if (auto *const view = sim::instance<SimView>(imageView_)) {
+        view->setContentMode(ContentMode::ScaleAspectFill);
+        view->layer()->setCornerRadius(frame.size.width / 2);
+        view->layer()->setMasksToBounds(true);
+    }
+}
+
+void TPLCDView::layOut(Display display) {
+    const DisplayFrames frames = displayFrames(
+        {display, currentInCallLook().isTall(), static_cast<bool>(imageView_), hasTwoRows_});
+    const bool centred = centred_ && !hasTwoRows_;
     contentView_->setFrame(asView(*this).bounds());
+    place({textView_, labelView_}, frames.text, frames.label, frames, centred);
+    secondTextView_->setHidden(!hasTwoRows_);
+    secondLabelView_->setHidden(!hasTwoRows_);
+    if (hasTwoRows_) {
+        place({secondTextView_, secondLabelView_}, frames.secondText, frames.secondLabel, frames,
+              centred);
+    }
+    placeImage(frames.image);
 }
-
-void InCallLCDView::define() {
-    sim::defined("InCallLCDView",
-                 objc::ClassBuilder<InCallLCDView>("InCallLCDView", "TPLCDView")
-                     .method("layoutSubviews"_sel, objc::member<&InCallLCDView::layoutSubviews>)
-                     .finish());
-}
-
-void InCallLCDView::layoutSubviews() { placeLines(12, 42); }
-
-void InCallLCDField::define() {
-    sim::defined("InCallLCDField",
-                 objc::ClassBuilder<InCallLCDField>("InCallLCDField", "TPLCDView")
-                     .method("initWithFrame:"_sel, objc::member<&InCallLCDField::initWithFrame>)
-                     .method("layoutSubviews"_sel, objc::member<&InCallLCDField::layoutSubviews>)
-                     .finish());
-}
-
-id InCallLCDField::initWithFrame(CGRect frame) {
-    objc::sendSuper<InCallLCDField, id(CGRect)>(this, "initWithFrame:"_sel, frame);
-    useContentView();
-    return *this;
-}
-
-void InCallLCDField::layoutSubviews() { placeLines(16, 38); }
 
 }  // namespace phone

@@ -1,8 +1,9 @@
 // What the in-call screen's two displays have in common: a name, a label below it and, for a
-// contact with a picture, the picture at the right.
+// contact with a picture, the picture at the right; or the names and labels of two calls.
 #pragma once
 
 #include "phone/Parts.hpp"
+#include "phone/incall/InCallGeometry.hpp"
 #include "uikit/SimView.hpp"
 
 namespace phone {
@@ -14,38 +15,35 @@ class TPLCDView : public SimView {
     id initWithFrame(CGRect frame);
     void setText(NSString text);
     void setLabel(NSString label);
+    /// The second row; with a nil text there is none.
+    void setSecondText(NSString text);
+    void setSecondLabel(NSString label);
     /// The contact's picture; nil takes it away.
     void setImage(UIImage image);
+    /// Whether a single call's name and label stand in the middle or at the left. Those of two
+    /// calls always stand at the left.
     void setCenterText(bool centred);
 
   protected:
-    /// Puts the two lines one below the other, the first at `top`, beside the picture if any.
-    void placeLines(CGFloat top, CGFloat textHeight);
-    /// Moves the lines into a view of their own, inside this one.
+    /// Puts every part in its place and says how the texts are to be written.
+    void layOut(Display display);
+    /// Moves the lines into a view of their own, inside this one; to be called before there is
+    /// more.
     void useContentView();
 
   private:
     UIView holder() const { return contentView_ ? contentView_.get() : asView(*this); }
+    void addLines() const;
+    void placeImage(CGRect frame) const;
 
     objc::Owned<UIView> textView_;
     objc::Owned<UIView> labelView_;
+    objc::Owned<UIView> secondTextView_;
+    objc::Owned<UIView> secondLabelView_;
     objc::Owned<UIView> imageView_;
     objc::Owned<UIView> contentView_;
-};
-
-/// The display of the screen that takes its whole width, parts directly inside.
-class InCallLCDView : public TPLCDView {
-  public:
-    static void define();
-    void layoutSubviews();
-};
-
-/// The display with a content view of its own.
-class InCallLCDField : public TPLCDView {
-  public:
-    static void define();
-    id initWithFrame(CGRect frame);
-    void layoutSubviews();
+    bool hasTwoRows_ = false;
+    bool centred_ = true;
 };
 
 }  // namespace phone

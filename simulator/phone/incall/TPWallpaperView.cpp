@@ -1,6 +1,7 @@
 // The in-call screen's background.
 #include "phone/incall/TPWallpaperView.hpp"
 
+#include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 
 namespace phone {
@@ -19,17 +20,26 @@ void TPWallpaperView::define() {
 
 id TPWallpaperView::initWithFrame(CGRect frame) {
     objc::sendSuper<TPWallpaperView, id(CGRect)>(this, "initWithFrame:"_sel, frame);
+    setClipsToBounds(true);
     imageView_ = objc::create<UIImageView(CGRect)>("initWithFrame:"_sel, CGRect{});
-    asView(*this).setBackgroundColor(color(44, 62, 80));
+    sim::instance<SimView>(imageView_)->setContentMode(ContentMode::ScaleAspectFill);
+    shade_ = makeView<SimView>({});
+    shade_->setBackgroundColor(UIColor::withWhite(0, 0.4));
     asView(*this).addSubview(imageView_);
+    asView(*this).addSubview(shade_);
+    setContactImage({}, false);
     return *this;
 }
 
 void TPWallpaperView::setContactImage(UIImage image, bool) {
     image_ = objc::Owned<UIImage>::share(image);
-    imageView_->setImage(image);
+    imageView_->setImage(image ? image : picture("incall_wallpaper"));
+    shade_->setHidden(!image);
 }
 
-void TPWallpaperView::layoutSubviews() { imageView_->setFrame(asView(*this).bounds()); }
+void TPWallpaperView::layoutSubviews() {
+    imageView_->setFrame(asView(*this).bounds());
+    shade_->setFrame(asView(*this).bounds());
+}
 
 }  // namespace phone

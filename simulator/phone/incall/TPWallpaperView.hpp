@@ -19,6 +19,7 @@ class TPWallpaperView : public SimView {
   private:
     objc::Owned<UIImage> image_;
     objc::Owned<UIImageView> imageView_;
+    objc::Owned<UIView> shade_;  // over a contact's picture, so that white text can be read
 };
 
 }  // namespace phone

@@ -46,6 +46,10 @@ id TUTelephonyCall::initWithCall(NSObject call) {
 
 void TUTelephonyCall::setStatus(CallStatus status) {
     status_ = status;
+    // Who hears of a call's end may release it, but not while it still speaks; and nothing of the
+    // announcement is to keep it alive afterwards.
+    const auto self = objc::Owned<NSObject>::share(NSObject(*this));
+    const objc::AutoreleasePool pool;
     const id objects[] = {number(static_cast<int32_t>(status)), static_cast<id>(*this)};
     const id keys[] = {"TUCallCenterCallStatus"_ns, "TUCallCenterCall"_ns};
     const auto userInfo = objc::send<NSDictionary(NSArray, NSArray)>(

@@ -1,6 +1,7 @@
 // Finding and reading PNG files.
 #include "uikit/drawing/Picture.hpp"
 
+#include <map>
 #include <string>
 
 namespace sim {
@@ -18,7 +19,7 @@ std::filesystem::path doubleScaleSibling(const std::filesystem::path &file) {
     return file.parent_path() / name;
 }
 
-std::optional<Picture> read(const std::filesystem::path &file, double scale) {
+std::optional<Picture> decoded(const std::filesystem::path &file, double scale) {
     const std::shared_ptr<cairo_surface_t> surface(
         cairo_image_surface_create_from_png(file.c_str()), cairo_surface_destroy);
     if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) {
@@ -27,6 +28,41 @@ std::optional<Picture> read(const std::filesystem::path &file, double scale) {
     return Picture(surface.get(), scale);
 }
 
+/// Files that were read once, with their time of writing. A screen asks for the same few in every
+/// layout pass; decoding takes longer than all the rest of a pass.
+class Decoded {
+  public:
+    static std::optional<Picture> read(const std::filesystem::path &file, double scale) {
+        std::error_code missing;
+        const auto written = std::filesystem::last_write_time(file, missing);
+        if (missing) {
+            return std::nullopt;
+        }
+        static Decoded g_files;
+        const auto known = g_files.pictures_.find(file);
+        if (known != g_files.pictures_.end() && known->second.written == written) {
+            return known->second.picture;
+        }
+        return g_files.remember(file, {written, decoded(file, scale)});
+    }
+
+  private:
+    struct Entry {
+        std::filesystem::file_time_type written;
+        std::optional<Picture> picture;
+    };
+
+    std::optional<Picture> remember(const std::filesystem::path &file, const Entry &entry) {
+        constexpr size_t kMost = 64;
+        if (pictures_.size() >= kMost) {
+            pictures_.clear();
+        }
+        return pictures_.insert_or_assign(file, entry).first->second.picture;
+    }
+
+    std::map<std::filesystem::path, Entry> pictures_;
+};
+
 }  // namespace
 
 std::optional<Picture> Picture::load(const std::filesystem::path &file) {
@@ -34,10 +70,10 @@ std::optional<Picture> Picture::load(const std::filesystem::path &file) {
         return std::nullopt;
     }
     if (hasDoubleScaleName(file)) {
-        return read(file, 2);
+        return Decoded::read(file, 2);
     }
-    auto picture = read(doubleScaleSibling(file), 2);
-    return picture ? picture : read(file, 1);
+    auto picture = Decoded::read(doubleScaleSibling(file), 2);
+    return picture ? picture : Decoded::read(file, 1);
 }
 
 Picture::Picture(cairo_surface_t *surface, double scale)

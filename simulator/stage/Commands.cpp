@@ -1,0 +1,73 @@
+// What each command takes; the steps of the screens are in files of their own.
+#include "stage/Commands.hpp"
+
+#include "stage/Model.hpp"
+
+namespace stage {
+namespace {
+
+std::vector<std::string_view> listed(const auto &values) { return {values.begin(), values.end()}; }
+
+OptionSpec iosOption() {
+    return {"--ios", "VERSION", "system version of the telephone", listed(kSystemVersions)};
+}
+
+OptionSpec screenOption() { return {"--screen", "INCHES", "size of its screen", listed(kScreens)}; }
+
+std::vector<OptionSpec> withPlaces(std::vector<OptionSpec> options) {
+    options.push_back(
+        {"--world", "FILE", "what the companion knows; without it, the sample world"});
+    options.push_back({"--data", "FOLDER", "where the companion keeps its store"});
+    return options;
+}
+
+/// A command that shows a screen: the telephone, `own` options, and the screen's steps.
+Command screenCommand(Task task, std::string_view name, std::string_view summary,
+                      std::vector<OptionSpec> own, std::vector<StepOption> steps) {
+    std::vector<OptionSpec> options = {iosOption(), screenOption()};
+    options.insert(options.end(), own.begin(), own.end());
+    for (const StepOption &step : showingSteps()) {
+        steps.push_back(step);
+    }
+    for (const StepOption &step : steps) {
+        options.push_back(step.option);
+    }
+    options.push_back({"--without-addon", "", "the Phone application alone"});
+    return {task, {name, summary, "", withPlaces(std::move(options))}, std::move(steps)};
+}
+
+std::vector<Command> makeCommands() {
+    return {
+        screenCommand(Task::Dialer, "dialer", "Type on the keypad and look at the screen.", {},
+                      dialerSteps()),
+        screenCommand(Task::InCall, "incall", "Call, or be called, and look at the screen.",
+                      {{"--display",
+                        "KIND",
+                        "what shows the call; without it, the system's own choice",
+                        {"view", "field"}},
+                       {"--pace", "SECONDS", "real seconds that a second of --wait takes; 1"},
+                       {"--verbose", "", "print the system log on stderr"}},
+                      inCallSteps()),
+        {Task::Hooks,
+         {"hooks", "List the methods that the add-on replaces, in order.", "",
+          withPlaces({iosOption(),
+                      screenOption(),
+                      {"--without-class", "NAME", "a Phone application that lacks the class NAME"},
+                      {"--verbose", "", "report hooks on missing methods on stderr as well"}})}},
+        {Task::Gallery,
+         {"gallery", "Draw every scene on every device, with and without the add-on.", "",
+          withPlaces({{"--out", "FOLDER", "where to put the pictures and index.html"}})}},
+        {Task::Describe,
+         {"describe", "Print what the dialer shows for numbers.", "NUMBER...",
+          withPlaces({iosOption(), screenOption()})}},
+    };
+}
+
+}  // namespace
+
+const std::vector<Command> &commands() {
+    static const std::vector<Command> all = makeCommands();
+    return all;
+}
+
+}  // namespace stage

@@ -1,0 +1,22 @@
+// The commands of phone-simulator with their options.
+#pragma once
+
+#include <vector>
+
+#include "stage/Arguments.hpp"
+#include "stage/StepOptions.hpp"
+
+namespace stage {
+
+enum class Task { Help, Version, Dialer, InCall, Hooks, Gallery, Describe };
+
+struct Command {
+    Task task;
+    CommandSpec spec;
+    std::vector<StepOption> steps{};  // those of its options that are steps
+};
+
+/// All of them, in the order of the help.
+const std::vector<Command> &commands();
+
+}  // namespace stage

@@ -1,0 +1,14 @@
+// Letting the simulation's time pass: cloud answers arrive, logos are there, a call's seconds
+// count.
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+namespace stage {
+
+/// Lets the main run loop work for `time` of the simulation, which takes real time at its pace.
+/// After each of its turns `afterTurn` is called; answers it true, the rest of the wait is dropped.
+void letTimePass(std::chrono::milliseconds time, const std::function<bool()> &afterTurn);
+
+}  // namespace stage
