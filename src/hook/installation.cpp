@@ -6,6 +6,7 @@
 #include "dialer/ZQDialNumberInputUIHook.hpp"
 #include "hook/gates.hpp"
 #include "hook/table.hpp"
+#include "identity/ZQDialCloudQueryService.hpp"
 #include "incall/ZQDialWaitUIHook.hpp"
 #include "recents/ZQSystemCallHistoryViewHook.hpp"
 
@@ -36,6 +37,7 @@ void install(Group group) {
 
 void registerClasses() {
     using objc::function;
+    ZQDialCloudQueryService::define().finish();
     ZQDialNumberInputUIHook::define()
         .classMethod("initializeHook"_sel, function<&initializeDialerHook>)
         .finish();

@@ -1,148 +1,107 @@
-// A companion library whose every answer a test sets.
+// The stub companion as a whole: what its classes have in common, and what a test does to it.
 #include "support/StubCompanion.hpp"
 
 #include <algorithm>
+#include <stdexcept>
+#include <utility>
 
-#include "objc/class_builder.hpp"
-#include "platform/UIKit.hpp"
+#include "support/StubCompanionClasses.hpp"
 
 namespace test {
 namespace {
 
-using objc::function;
-using objc::member;
+CloudQuery takeOldest(std::vector<CloudQuery> &queries) {
+    if (queries.empty()) {
+        throw std::logic_error("no cloud query waits for an answer");
+    }
+    const CloudQuery oldest = queries.front();
+    queries.erase(queries.begin());
+    return oldest;
+}
 
-StubCompanion &stub() { return StubCompanion::current(); }
+std::string shown(const MaybeText &text) { return text ? '"' + *text + '"' : "nil"; }
+
+}  // namespace
 
 std::string utf8(NSString text) {
     const char *const chars = text.UTF8String();
     return chars ? chars : "";
 }
 
-/// Nil for a number that has no entry.
-NSString answerFor(const std::map<std::string, std::string> &answers, const std::string &number) {
-    if (stub().raises) {
-        objc::send<void(NSString, NSString)>("NSException"_cls, "raise:format:"_sel, "Stub"_ns,
-                                             "no answer"_ns);
-    }
-    const auto found = answers.find(number);
-    return found == answers.end() ? nullptr : NSString::withUTF8String(found->second.c_str());
-}
-
-class PhoneNumber : public objc::Instance {
-  public:
-    NSObject initWithOriginNumber(NSString text) {
-        origin_ = utf8(text);
-        return NSObject(*this);
-    }
-    void parse() {
-        ++stub().parsedNumbers;
-        std::ranges::copy_if(origin_, std::back_inserter(pure_),
-                             [](char c) { return c >= '0' && c <= '9'; });
-    }
-    NSString pureNumber() const { return NSString::withUTF8String(pure_.c_str()); }
-    NSString areaName() const { return answerFor(stub().areas, pure_); }
-    static NSString descriptionOfNumber(NSString digits) {
-        return answerFor(stub().descriptions, utf8(digits));
-    }
-
-  private:
-    std::string origin_, pure_;
-};
-
-class CallRecord : public objc::Instance {
-  public:
-    NSString phoneNumber() const { return number_; }
-    void setPhoneNumber(NSString number) { number_ = objc::Owned<NSString>::share(number); }
-
-  private:
-    objc::Owned<NSString> number_;
-};
-
-class NumberIdentity : public objc::Instance {
-  public:
-    NSString identity() const { return label_; }
-    objc::Owned<NSString> label_;
-};
-
-NSObject identityOfRecord(NSObject record, bool ignoreDiagnose, bool onlyLocal, NSObject delegate,
-                          double retryPeriod, int32_t displayType) {
-    const auto number = utf8(objc::send<NSString()>(record, "phoneNumber"_sel));
-    stub().queries.push_back(
-        {number, ignoreDiagnose, onlyLocal, delegate != nullptr, retryPeriod, displayType});
-    const NSString label = answerFor(stub().labels, number);
-    if (!label) {
-        return nullptr;
-    }
-    auto *const identity = objc::make<NumberIdentity>();
-    identity->label_ = objc::Owned<NSString>::share(label);
-    return objc::Owned<NSObject>::adopt(NSObject(*identity)).autorelease();
-}
-
-class Shared : public objc::Instance {
-  public:
-    bool showNumberArea() const { return stub().showNumberArea; }
-    bool isInAddressBook(NSString digits) const {
-        return std::ranges::count(stub().contacts, utf8(digits)) != 0;
-    }
-};
-
-template <class T>
-NSObject onlyOne() {
-    static auto *const instance = objc::make<T>();
-    return NSObject(*instance);
-}
-
-class Preference : public Shared {};
-class ContactService : public Shared {};
-
-void initializePreferences() {
-    if (stub().onInitializePreferences) {
-        stub().onInitializePreferences();
-    }
-}
-bool isEarlier(double version, bool include) {
-    return stub().iosVersion < version || (include && stub().iosVersion == version);
-}
-bool isLater(double version, bool include) {
-    return stub().iosVersion > version || (include && stub().iosVersion == version);
-}
-bool isIPhone5() { return stub().isFourInch; }
-bool isScreen35Inch() { return !stub().isFourInch; }
-NSObject imageWithName(NSString) {
-    ++stub().imagesAskedFor;
-    return nullptr;
-}
-
-NSString digitNumber(NSString text) {
+std::string digitsOf(NSString text) {
     std::string digits;
     std::ranges::copy_if(utf8(text), std::back_inserter(digits),
                          [](char c) { return c >= '0' && c <= '9'; });
-    return NSString::withUTF8String(digits.c_str());
+    return digits;
 }
 
-NSObject color(double red, double green, double blue, double alpha) {
-    return objc::send<NSObject(CGFloat, CGFloat, CGFloat, CGFloat)>(
-        "UIColor"_cls, "colorWithRed:green:blue:alpha:"_sel, red / 255, green / 255, blue / 255,
-        alpha);
+MaybeText maybe(NSString text) { return text ? MaybeText(utf8(text)) : std::nullopt; }
+
+NSString string(const MaybeText &text) {
+    return text ? NSString::withUTF8String(text->c_str()) : nullptr;
 }
 
-NSObject subviewOfClass(UIView view, Class cls) {
-    const auto subviews = objc::send<NSArray()>(view, "subviews"_sel);
-    for (NSUInteger i = 0; i < subviews.count(); ++i) {
-        if (subviews.objectAtIndex(i).isKindOfClass(cls)) {
-            return subviews.objectAtIndex(i);
+bool asked(const char *message) {
+    ++stub().timesAsked[message];
+    if (stub().raises || stub().raisesAt == message) {
+        objc::send<void(NSString, NSString)>("NSException"_cls, "raise:format:"_sel, "Stub"_ns,
+                                             "no answer"_ns);
+    }
+    return !stub().knowsNothing;
+}
+
+NSString answerFor(const char *message, const std::map<std::string, std::string> &answers,
+                   const std::string &number) {
+    const auto found = answers.find(number);
+    return asked(message) && found != answers.end() ? string(found->second) : nullptr;
+}
+
+void PrintTo(const IdentityFacts &facts, std::ostream *out) {
+    *out << "{number " << shown(facts.number) << ", label " << shown(facts.label) << ", source "
+         << shown(facts.source) << ", type " << static_cast<int>(facts.type) << ", numOfMark "
+         << facts.numOfMark << ", rating " << facts.rating << ", cloudDataType "
+         << facts.cloudDataType << ", markText " << shown(facts.markText) << ", brand "
+         << shown(facts.brandName) << ' ' << shown(facts.brandLogoPath) << '}';
+}
+
+void PrintTo(const PartnerFacts &facts, std::ostream *out) {
+    *out << "{id " << facts.id << ", name " << shown(facts.name) << ", icon " << shown(facts.icon)
+         << ", source " << shown(facts.source) << ", path " << shown(facts.iconImagePath)
+         << ", ads";
+    for (const std::string &ad : facts.ads.value_or(std::vector<std::string>{"nil"})) {
+        *out << ' ' << ad;
+    }
+    *out << '}';
+}
+
+void StubCompanion::answerCloudQuery(NSDictionary answer, NSObject error) {
+    const auto service = objc::Owned<NSObject>::adopt(
+        NSObject(objc::send<id()>("ZQNumberIdentityService"_cls, "new"_sel)));
+    objc::send<void(id, NSDictionary, NSObject)>(
+        takeOldest(cloudQueries).delegate,
+        "numberIdentityService:didGetMarkInfoFromCloud:error:"_sel, service, answer, error);
+}
+
+void StubCompanion::cancelCloudQuery() {
+    objc::send<void()>(takeOldest(cloudQueries).delegate,
+                       "numberIdentityServicedidCancelCloudQuery"_sel);
+}
+
+int StubCompanion::deliver(NSString message, NSDictionary userInfo) const {
+    const auto notification = objc::send<NSObject(NSString, id, NSDictionary)>(
+        "NSNotification"_cls, "notificationWithName:object:userInfo:"_sel, message, nullptr,
+        userInfo);
+    int heard = 0;
+    // A copy: whoever hears a message may stop observing.
+    for (const auto &[object, selector, name] : std::vector(observers)) {
+        if (name == utf8(message)) {
+            objc::send<id(SEL, NSObject)>(object, "performSelector:withObject:"_sel, selector,
+                                          notification);
+            ++heard;
         }
     }
-    return nullptr;
+    return heard;
 }
-
-/// A class that has class methods only.
-class Namespace : public objc::Instance {};
-template <int>
-class Numbered : public Namespace {};
-
-}  // namespace
 
 StubCompanion &StubCompanion::current() {
     static StubCompanion stub;
@@ -150,48 +109,10 @@ StubCompanion &StubCompanion::current() {
 }
 
 void StubCompanion::registerClasses() {
-    objc::ClassBuilder<PhoneNumber>("ZQPhoneNumber", "NSObject")
-        .method("initWithOriginNumber:"_sel, member<&PhoneNumber::initWithOriginNumber>)
-        .method("parse"_sel, member<&PhoneNumber::parse>)
-        .method("pureNumber"_sel, member<&PhoneNumber::pureNumber>)
-        .method("areaName"_sel, member<&PhoneNumber::areaName>)
-        .classMethod("descriptionOfNumber:"_sel, function<&PhoneNumber::descriptionOfNumber>)
-        .finish();
-    objc::ClassBuilder<CallRecord>("ZQCallRecord", "NSObject")
-        .method("phoneNumber"_sel, member<&CallRecord::phoneNumber>)
-        .method("setPhoneNumber:"_sel, member<&CallRecord::setPhoneNumber>)
-        .finish();
-    objc::ClassBuilder<NumberIdentity>("ZQNumberIdentity", "NSObject")
-        .method("identity"_sel, member<&NumberIdentity::identity>)
-        .finish();
-    objc::ClassBuilder<Numbered<0>>("ZQNumberIdentityService", "NSObject")
-        .classMethod(
-            "getIdentityOfRecord:ignoreDiagnose:onlyLocal:delegate:retryPeriod:displayType:"_sel,
-            function<&identityOfRecord>)
-        .finish();
-    objc::ClassBuilder<Preference>("ZQPreference", "NSObject")
-        .method("showNumberArea"_sel, member<&Shared::showNumberArea>)
-        .classMethod("currentPreference"_sel, function<&onlyOne<Preference>>)
-        .classMethod("InitializePreferences"_sel, function<&initializePreferences>)
-        .finish();
-    objc::ClassBuilder<ContactService>("ZQContactService", "NSObject")
-        .method("isInAddressBook:"_sel, member<&Shared::isInAddressBook>)
-        .classMethod("currentService"_sel, function<&onlyOne<ContactService>>)
-        .finish();
-    objc::ClassBuilder<Numbered<1>>("ZQPhoneNumberHelper", "NSObject")
-        .classMethod("getDigitNumber:"_sel, function<&digitNumber>)
-        .finish();
-    objc::ClassBuilder<Numbered<2>>("ZQPhoneUtil", "NSObject")
-        .classMethod("isEalierThanIOSVersion:include:"_sel, function<&isEarlier>)
-        .classMethod("isLaterThanIOSVersion:include:"_sel, function<&isLater>)
-        .classMethod("isIPhone5"_sel, function<&isIPhone5>)
-        .classMethod("isScreen35Inch"_sel, function<&isScreen35Inch>)
-        .classMethod("getImageWithName:"_sel, function<&imageWithName>)
-        .finish();
-    objc::ClassBuilder<Numbered<3>>("ZQUIUtil", "NSObject")
-        .classMethod("getFormattedColorWithRed:green:blue:alpha:"_sel, function<&color>)
-        .classMethod("getSubView:ofClass:"_sel, function<&subviewOfClass>)
-        .finish();
+    registerNumberClasses();
+    registerPartnerClasses();
+    registerServiceClasses();
+    registerUtilityClasses();
 }
 
 }  // namespace test
