@@ -1,4 +1,4 @@
-// A UIKit of somebody else's: as little as the dialer needs, compiled by the Objective-C front end.
+// A UIKit of somebody else's: as little as the screens need, compiled by the Objective-C front end.
 #import <Foundation/Foundation.h>
 
 #include "Geometry.h"
@@ -11,6 +11,9 @@ NSString *NSForegroundColorAttributeName = @"NSColor";
 
 @implementation UIColor
 + (id)clearColor {
+    return [[[self alloc] init] autorelease];
+}
++ (id)whiteColor {
     return [[[self alloc] init] autorelease];
 }
 + (id)blackColor {
@@ -29,6 +32,21 @@ NSString *NSForegroundColorAttributeName = @"NSColor";
     UIFont *font = [[[self alloc] init] autorelease];
     font->points = size;
     return font;
+}
++ (id)fontWithName:(NSString *)name size:(CGFloat)size {
+    return [name isEqualToString:@"HelveticaNeue"] ? [self systemFontOfSize:size] : nil;
+}
+- (CGFloat)pointSize {
+    return points;
+}
+@end
+
+@interface UIImage : NSObject
+@end
+
+@implementation UIImage
++ (id)imageWithContentsOfFile:(NSString *)path {
+    return [path hasSuffix:@".png"] ? [[[self alloc] init] autorelease] : nil;
 }
 @end
 
@@ -71,6 +89,9 @@ NSString *NSForegroundColorAttributeName = @"NSColor";
 - (void)addSubview:(UIView *)view {
     [_subviews addObject:view];
 }
+- (NSArray *)subviews {
+    return _subviews;
+}
 - (UIView *)viewWithTag:(NSInteger)tag {
     if (_tag == tag) {
         return self;
@@ -87,6 +108,7 @@ NSString *NSForegroundColorAttributeName = @"NSColor";
 
 @interface UILabel : UIView {
     NSString *_text;
+    NSAttributedString *_attributedText;
     UIFont *_font;
 }
 @end
@@ -94,6 +116,7 @@ NSString *NSForegroundColorAttributeName = @"NSColor";
 @implementation UILabel
 - (void)dealloc {
     [_text release];
+    [_attributedText release];
     [_font release];
     [super dealloc];
 }
@@ -103,6 +126,17 @@ NSString *NSForegroundColorAttributeName = @"NSColor";
 - (void)setText:(NSString *)text {
     [_text autorelease];
     _text = [text copy];
+    [_attributedText autorelease];
+    _attributedText = nil;
+}
+- (NSAttributedString *)attributedText {
+    return _attributedText;
+}
+- (void)setAttributedText:(NSAttributedString *)text {
+    [self setText:[text string]];
+    _attributedText = [text copy];
+}
+- (void)setTextAlignment:(NSInteger)alignment {
 }
 - (UIFont *)font {
     return _font;
@@ -124,6 +158,9 @@ NSString *NSForegroundColorAttributeName = @"NSColor";
 @end
 
 @implementation NSString (Drawing)
+- (CGSize)sizeWithFont:(UIFont *)font {
+    return CGSize{[self length] * font->points, font->points};
+}
 // Every unit is as wide as the font is high; lines break at the width that is given.
 - (CGRect)boundingRectWithSize:(CGSize)size
                        options:(NSInteger)options

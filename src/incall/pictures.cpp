@@ -1,0 +1,85 @@
+// Logos and avatars at the right of a display.
+#include "incall/ZQDialWaitUIHook.hpp"
+#include "incall/added_views.hpp"
+
+using namespace incall;
+
+namespace {
+
+UIImage logoImage(NSString path) {
+    const UIImage logo = path ? UIImage::withContentsOfFile(path) : nullptr;
+    return logo ? logo : resourceImage("brand_defualt_logo.png"_ns);
+}
+
+void addAvatarContainer(UIView display, UIImage image) {
+    const AvatarPlaces places = placeAvatar(ZQPhoneUtil::isScreen35Inch());
+    const auto container = withFrame<UIView>(places.container);
+
+    const auto avatar = withFrame<UIImageView>(places.avatar);
+    avatar->setImage(image);
+    constexpr CGFloat kBorderWidth = 2;
+    ZQUIUtil::setRoundRectView(avatar, places.cornerRadius, kBorderWidth, UIColor::whiteColor(),
+                               true);
+    container->addSubview(avatar);
+
+    const auto border = withFrame<UIImageView>(places.border);
+    border->setImage(resourceImage("head_border_Ta.png"_ns));
+    container->addSubview(border);
+
+    addTagged(display, container, kPictureTag);
+}
+
+bool showsBadge(NSString mobile) {
+    id profile = nullptr;
+    id content = nullptr;
+    objc::create<ZQWeiboService>()->getWeiboInfo(mobile, &profile, &content);
+    const ZQWeiboProfile answered(profile);
+    return answered.avatarType() != 1 && answered.boundType() == 1;
+}
+
+}  // namespace
+
+bool ZQDialWaitUIHook::addBrandLogo(UIView view) const {
+    const UIView found = view.viewWithTag(kPictureTag);
+    found.setHidden(moreThanOneCall());
+    if (found) {
+        return false;
+    }
+    const auto container = withFrame<UIView>(kLogoContainer);
+    addTagged(container, withFrame<UIImageView>(kLogo), kLogoTag);
+    addTagged(view, container, kPictureTag);
+    return true;
+}
+
+void ZQDialWaitUIHook::showBrandLogoOnView(UIView container) const {
+    const auto logo = container.viewWithTag(kLogoTag).as<UIImageView>();
+    const UIImage image = logoImage(_brandLogoName);
+    logo.setFrame(shownLogo(logo.frame()));
+    logo.setImage(image);
+}
+
+bool ZQDialWaitUIHook::addAvatarView(InCallDisplay display) const {
+    if (_hasSystemBigAvatar) {
+        return false;
+    }
+    const NSString mobile = ZQPhoneNumber::getMobileNumberFromNumber(getNumber());
+    if (mobile.length() == 0) {
+        return false;
+    }
+    if (const UIView systemPicture = display.imageView()) {
+        systemPicture.setHidden(false);
+        return true;
+    }
+    const UIImage image = ZQWeiboService::getLocalAvatarForNumber(mobile);
+    if (!image) {
+        return false;
+    }
+    const UIView found = display.viewWithTag(kPictureTag);
+    if (!found) {
+        addAvatarContainer(display, image);
+    }
+    // One made just now stays as it is: shown.
+    found.setHidden(moreThanOneCall());
+    display.viewWithTag(kBadgeTag).setHidden(!showsBadge(mobile));
+    return true;
+}

@@ -1,0 +1,151 @@
+// The in-call screen as a person meets it: calls come, are answered and end on the simulated
+// telephone, with the companion's own answers and the add-on as it is built.
+#include <fstream>
+
+#include "phone/StageRun.hpp"
+#include "support/LiveObjects.hpp"
+
+namespace {
+
+using namespace std::chrono_literals;
+using stage::Step;
+using Kind = Step::Kind;
+
+struct Place {
+    stage::Model model;
+    phone::Display display;
+};
+
+void PrintTo(const Place &place, std::ostream *out) {
+    *out << place.model.slug()
+         << (place.display == phone::Display::View ? " LCD view" : " LCD field");
+}
+
+constexpr Place kPlaces[] = {
+    {{"7.0", "4"}, phone::Display::View},
+    {{"7.0", "3.5"}, phone::Display::Field},
+    {{"7.1", "4"}, phone::Display::Field},
+    {{"7.1", "3.5"}, phone::Display::View},
+};
+
+class InCallSession : public test::StageRun, public testing::WithParamInterface<Place> {
+  protected:
+    InCallSession() {
+        const auto &[model, display] = GetParam();
+        session_.emplace(settings(model.ios, model.screen));
+        session_->open({stage::ScreenKind::InCall, display});
+    }
+
+    void perform(Kind kind, const std::string &text = {}, int count = 1) {
+        std::ostringstream ignored;
+        session_->perform({kind, text, count}, ignored);
+    }
+    std::string said() { return session_->lineText(); }
+    bool says(const std::string &text) { return said().find(text) != std::string::npos; }
+
+    std::optional<stage::Session> session_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Displays, InCallSession, testing::ValuesIn(kPlaces),
+                         [](const auto &place) {
+                             std::string name = testing::PrintToString(place.param);
+                             std::erase_if(name, [](char c) {
+                                 return !std::isalnum(static_cast<unsigned char>(c));
+                             });
+                             return name;
+                         });
+
+TEST_P(InCallSession, TheCloudsAnswerArrivesDuringAnOutgoingCall) {
+    perform(Kind::Outgoing, "13000000101");
+    EXPECT_FALSE(says("装修推销"));
+    session_->wait(3s);
+    perform(Kind::Layout);
+    EXPECT_TRUE(says("装修推销 | 46人标记")) << said();
+    perform(Kind::End);
+    perform(Kind::Incoming, "13000000102");
+    session_->wait(3s);
+    perform(Kind::Layout);
+    EXPECT_FALSE(says("装修推销") || says("润禾物业管理处"))
+        << "an incoming call is not asked about: " << said();
+}
+
+TEST_P(InCallSession, APartnersLogoArrivesAndShowsAtTheNextLayoutPass) {
+    perform(Kind::Outgoing, "021-01065012");
+    EXPECT_TRUE(says("一碗山食堂"));
+    session_->savePicture(folder_ / "before.png");
+    session_->wait(2s);
+    perform(Kind::Layout);
+    session_->savePicture(folder_ / "after.png");
+    const auto bytes = [&](const char *name) {
+        std::ifstream file(folder_ / name, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    EXPECT_NE(bytes("before.png"), bytes("after.png"));
+}
+
+TEST_P(InCallSession, TheSecondCallTakesOverWhenTheFirstEnds) {
+    perform(Kind::Incoming, "17700000061");
+    perform(Kind::Answer);
+    EXPECT_TRUE(says("诈骗电话 | 37人标记"));
+    perform(Kind::Second, "18900000062");
+    EXPECT_FALSE(says("诈骗电话") || says("骚扰电话")) << said();
+    perform(Kind::End);
+    EXPECT_TRUE(says("骚扰电话")) << said();
+    EXPECT_FALSE(says("诈骗电话"));
+}
+
+TEST_P(InCallSession, AContactsRegionFollowsTheRunningTime) {
+    perform(Kind::Incoming, "13800130011");
+    EXPECT_TRUE(says("北京")) << said();
+    perform(Kind::Answer);
+    session_->wait(2s);
+    perform(Kind::Layout);
+    EXPECT_TRUE(says("北京") && says("00:02")) << said();
+    perform(Kind::Second, "18900000062");
+    EXPECT_FALSE(says("北京")) << said();
+}
+
+TEST_P(InCallSession, AThousandCallsLeaveNoObjectBehind) {
+    const auto call = [&](int number) {
+        static constexpr std::array kCallers = {"17700000061",  "021-01065012", "15000000031",
+                                                "400-200-1818", "13800130011",  "+1 415 555 0132"};
+        const objc::AutoreleasePool pool;
+        const std::string caller = kCallers[static_cast<size_t>(number) % kCallers.size()];
+        perform(number % 2 == 0 ? Kind::Incoming : Kind::Outgoing, caller);
+        perform(Kind::Answer);
+        session_->wait(100ms);
+        if (number % 4 == 0) {
+            perform(Kind::Second, "18900000062");
+            perform(Kind::End);
+        }
+        perform(Kind::End);
+    };
+    const auto countSettled = [&] {
+        const objc::AutoreleasePool pool;
+        session_->wait(5s);
+        // One number is remembered as the last that the cloud was asked about: always the same
+        // here.
+        perform(Kind::Outgoing, "13000000101");
+        session_->wait(5s);
+        perform(Kind::End);
+        // A timer that is over goes when the run loop next looks at it.
+        int fewest = test::liveObjects();
+        for (int i = 0; i < 5; ++i) {
+            session_->wait(1s);
+            fewest = std::min(fewest, test::liveObjects());
+        }
+        return fewest;
+    };
+    test::liveObjects();
+    for (int i = 0; i < 60; ++i) {
+        call(i);
+    }
+    countSettled();  // the cloud's answer is stored, and from now on the number is known
+    const int before = countSettled();
+    for (int i = 0; i < 1000; ++i) {
+        call(i);
+    }
+    EXPECT_EQ(countSettled(), before);
+}
+
+}  // namespace
