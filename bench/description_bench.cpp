@@ -18,7 +18,7 @@ constexpr auto kNumber = "17700000061";
 struct Kind {
     IdentityFacts facts;
     // Sends the companion the questions that the kind asks, and makes the texts of the answer.
-    void (*required)(ZQNumberIdentity identity);
+    void (*required)(ZQNumberIdentity identity) = nullptr;
 };
 
 void needsRegion(ZQNumberIdentity identity) {

@@ -7,7 +7,7 @@
 #include "stage/Errors.hpp"
 #include "uikit/Foundation.hpp"
 
-extern "C" void (*_NSLog_printf_handler)(id message);  // NOLINT: Foundation's name
+extern "C" void (*_NSLog_printf_handler)(id message);
 
 namespace stage {
 namespace {

@@ -4,10 +4,6 @@
 #include "platform/UIKit.hpp"
 #include "uikit/drawing/StyledText.hpp"
 
-extern "C" {
-extern const id NSForegroundColorAttributeName;
-}
-
 namespace sim {
 
 /// Fonts and colours of the attributes; `missing` where a stretch names none. Empty for nil.

@@ -10,7 +10,6 @@ namespace {
 
 using objc::Owned;
 using objc::send;
-using test::Caller;
 
 constexpr int32_t kEnded = 5;
 
@@ -98,20 +97,19 @@ TEST_F(CallTracking, ADyingCallLeavesItsPlaceToTheSecond) {
 
 TEST_F(CallTracking, AnEndIsHeardOnlyWhileThereAreTwoCalls) {
     struct Case {
-        const char *what;
-        bool hasSecond, namesFirst;
+        const char *what = nullptr;
         NSObject status;
-        bool dropped;
+        bool hasSecond = false, namesFirst = false, dropped = false;
     };
     const Case cases[] = {
-        {"the first of two ends", true, true, number(kEnded), true},
-        {"the second of two ends", true, false, number(kEnded), true},
-        {"its status as a text", true, false, "5"_ns, true},
-        {"the only call ends", false, true, number(kEnded), false},
-        {"another status", true, true, number(4), false},
-        {"no status", true, true, nullptr, false},
+        {"the first of two ends", number(kEnded), true, true, true},
+        {"the second of two ends", number(kEnded), true, false, true},
+        {"its status as a text", "5"_ns, true, false, true},
+        {"the only call ends", number(kEnded), false, true, false},
+        {"another status", number(4), true, true, false},
+        {"no status", nullptr, true, true, false},
     };
-    for (const auto &[what, hasSecond, namesFirst, status, dropped] : cases) {
+    for (const auto &[what, status, hasSecond, namesFirst, dropped] : cases) {
         const objc::AutoreleasePool pool;  // notifications keep their call
         const auto first = begin({"10001"});
         const auto second = hasSecond ? begin({"10002"}) : Owned<NSObject>();

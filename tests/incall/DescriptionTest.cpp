@@ -1,4 +1,6 @@
 // What the in-call screen says of a caller, and the two tones it says it in.
+#include <bit>
+
 #include <gtest/gtest.h>
 
 #include "identity/ZQDialCloudQueryService.hpp"
@@ -33,9 +35,9 @@ TEST_F(InCallDescription, GoesByTheKindOfTheIdentity) {
     constexpr int kLargest = std::numeric_limits<int>::max();
     constexpr int kSmallest = std::numeric_limits<int>::min();
     struct Case {
-        const char *what;
+        const char *what = nullptr;
         IdentityFacts facts;
-        const char *expected;
+        const char *expected = nullptr;
     };
     const Case cases[] = {
         {"region", {.label = "送水", .type = Region}, "四川成都"},
@@ -43,7 +45,7 @@ TEST_F(InCallDescription, GoesByTheKindOfTheIdentity) {
         {"own mark", {.label = "邻居", .type = OwnMark}, "邻居"},
         {"own mark without a label", {.label = "", .type = OwnMark}, "四川成都"},
         {"uncounted", {.label = "送水", .type = Uncounted, .numOfMark = 8}, "送水"},
-        {"unknown kind, no label", {.type = IdentityKind{99}}, "四川成都"},
+        {"unknown kind, no label", {.type = std::bit_cast<IdentityKind>(99)}, "四川成都"},
         {"foreign", {.type = Foreign}, "四川成都 | 若非国外亲友，请警惕诈骗"},
         {"no count", {.label = "诈骗", .type = UserMark}, "诈骗"},
         {"one", {.label = "诈骗", .type = UserMark, .numOfMark = 1}, "诈骗"},
@@ -141,7 +143,7 @@ TEST_F(InCallDescription, ALogoNoticeWithoutAPathOrOfAnotherNameIsHarmless) {
 TEST_F(InCallDescription, ABrandIsKnownByItsKindOrItsSource) {
     struct Case {
         IdentityFacts facts;
-        bool expected;
+        bool expected = false;
     };
     const Case cases[] = {
         {{.type = Brand}, true},
@@ -183,7 +185,7 @@ std::string toned(NSString text) {
 TEST_F(InCallDescription, HasTwoTonesAndIsShortenedInFront) {
     struct Case {
         NSString text;
-        const char *expected;
+        const char *expected = nullptr;
     };
     const Case cases[] = {
         {nullptr, "(nil)"},

@@ -250,8 +250,8 @@ TEST_F(InCallScreen, OddTextsOfTheLabelKeepTheirRules) {
     const auto call = begin({"10001", false, 4});
     struct Case {
         NSString before;
-        const char *after;
-        bool hasIcon;
+        const char *after = nullptr;
+        bool hasIcon = false;
     };
     const Case cases[] = {
         {nullptr, "四川 | (null)", true}, {"|"_ns, "|", false},

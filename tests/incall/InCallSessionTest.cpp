@@ -30,20 +30,16 @@ constexpr Place kPlaces[] = {
 
 class InCallSession : public test::StageRun, public testing::WithParamInterface<Place> {
   protected:
-    InCallSession() {
-        const auto &[model, display] = GetParam();
-        session_.emplace(settings(model.ios, model.screen));
-        session_->open({stage::ScreenKind::InCall, display});
-    }
+    InCallSession() { session_.open({stage::ScreenKind::InCall, GetParam().display}); }
 
     void perform(Kind kind, const std::string &text = {}, int count = 1) {
         std::ostringstream ignored;
-        session_->perform({kind, text, count}, ignored);
+        session_.perform({kind, text, count}, ignored);
     }
-    std::string said() { return session_->lineText(); }
+    std::string said() { return session_.lineText(); }
     bool says(const std::string &text) { return said().find(text) != std::string::npos; }
 
-    std::optional<stage::Session> session_;
+    stage::Session session_{settings(GetParam().model.ios, GetParam().model.screen)};
 };
 
 INSTANTIATE_TEST_SUITE_P(Displays, InCallSession, testing::ValuesIn(kPlaces),
@@ -58,12 +54,12 @@ INSTANTIATE_TEST_SUITE_P(Displays, InCallSession, testing::ValuesIn(kPlaces),
 TEST_P(InCallSession, TheCloudsAnswerArrivesDuringAnOutgoingCall) {
     perform(Kind::Outgoing, "13000000101");
     EXPECT_FALSE(says("装修推销"));
-    session_->wait(3s);
+    session_.wait(3s);
     perform(Kind::Layout);
     EXPECT_TRUE(says("装修推销 | 46人标记")) << said();
     perform(Kind::End);
     perform(Kind::Incoming, "13000000102");
-    session_->wait(3s);
+    session_.wait(3s);
     perform(Kind::Layout);
     EXPECT_FALSE(says("装修推销") || says("润禾物业管理处"))
         << "an incoming call is not asked about: " << said();
@@ -72,10 +68,10 @@ TEST_P(InCallSession, TheCloudsAnswerArrivesDuringAnOutgoingCall) {
 TEST_P(InCallSession, APartnersLogoArrivesAndShowsAtTheNextLayoutPass) {
     perform(Kind::Outgoing, "021-01065012");
     EXPECT_TRUE(says("一碗山食堂"));
-    session_->savePicture(folder_ / "before.png");
-    session_->wait(2s);
+    session_.savePicture(folder_ / "before.png");
+    session_.wait(2s);
     perform(Kind::Layout);
-    session_->savePicture(folder_ / "after.png");
+    session_.savePicture(folder_ / "after.png");
     const auto bytes = [&](const char *name) {
         std::ifstream file(folder_ / name, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(file), {});
@@ -98,7 +94,7 @@ TEST_P(InCallSession, AContactsRegionFollowsTheRunningTime) {
     perform(Kind::Incoming, "13800130011");
     EXPECT_TRUE(says("北京")) << said();
     perform(Kind::Answer);
-    session_->wait(2s);
+    session_.wait(2s);
     perform(Kind::Layout);
     EXPECT_TRUE(says("北京") && says("00:02")) << said();
     perform(Kind::Second, "18900000062");
@@ -113,7 +109,7 @@ TEST_P(InCallSession, AThousandCallsLeaveNoObjectBehind) {
         const std::string caller = kCallers[static_cast<size_t>(number) % kCallers.size()];
         perform(number % 2 == 0 ? Kind::Incoming : Kind::Outgoing, caller);
         perform(Kind::Answer);
-        session_->wait(100ms);
+        session_.wait(100ms);
         if (number % 4 == 0) {
             perform(Kind::Second, "18900000062");
             perform(Kind::End);
@@ -122,16 +118,16 @@ TEST_P(InCallSession, AThousandCallsLeaveNoObjectBehind) {
     };
     const auto countSettled = [&] {
         const objc::AutoreleasePool pool;
-        session_->wait(5s);
+        session_.wait(5s);
         // One number is remembered as the last that the cloud was asked about: always the same
         // here.
         perform(Kind::Outgoing, "13000000101");
-        session_->wait(5s);
+        session_.wait(5s);
         perform(Kind::End);
         // A timer that is over goes when the run loop next looks at it.
         int fewest = test::liveObjects();
         for (int i = 0; i < 5; ++i) {
-            session_->wait(1s);
+            session_.wait(1s);
             fewest = std::min(fewest, test::liveObjects());
         }
         return fewest;

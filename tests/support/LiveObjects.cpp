@@ -2,6 +2,7 @@
 #include "support/LiveObjects.hpp"
 
 #include <cstdlib>
+#include <memory>
 
 #include "objc/runtime.hpp"
 
@@ -17,12 +18,12 @@ int liveObjects() {
     if (!GSDebugAllocationActive(1)) {
         return 0;
     }
-    Class *const classes = GSDebugAllocationClassList();
+    const std::unique_ptr<Class, decltype(&std::free)> classes(GSDebugAllocationClassList(),
+                                                               &std::free);
     int count = 0;
-    for (const Class *cls = classes; cls && *cls; ++cls) {
+    for (const Class *cls = classes.get(); cls && *cls; ++cls) {
         count += GSDebugAllocationCount(*cls);
     }
-    std::free(classes);
     return count;
 }
 

@@ -7,8 +7,6 @@
 #include "objc/class_builder.hpp"
 #include "platform/UIKit.hpp"
 
-extern "C" const id NSForegroundColorAttributeName;
-
 namespace companion {
 
 namespace {
