@@ -12,7 +12,7 @@ enum class Task { Help, Version, Dialer, InCall, Hooks, Gallery, Describe };
 
 struct Command {
     Task task;
-    CommandSpec spec;
+    CommandSpec usage;
     std::vector<StepOption> steps{};  // those of its options that are steps
 };
 

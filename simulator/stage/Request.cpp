@@ -11,9 +11,9 @@ namespace {
 constexpr double kFastestPace = 0.001;
 constexpr double kSlowestPace = 10;
 
-const Command &commandOf(const CommandSpec &spec) {
-    return *std::ranges::find(commands(), spec.name,
-                              [](const Command &command) { return command.spec.name; });
+const Command &commandOf(const CommandSpec &usage) {
+    return *std::ranges::find(commands(), usage.name,
+                              [](const Command &command) { return command.usage.name; });
 }
 
 Opening openingOf(Task task, const Arguments &arguments) {
@@ -44,7 +44,7 @@ void check(const Request &request) {
 
 Request readRequest(std::span<const std::string> words) {
     std::vector<CommandSpec> specs;
-    std::ranges::transform(commands(), std::back_inserter(specs), &Command::spec);
+    std::ranges::transform(commands(), std::back_inserter(specs), &Command::usage);
     Arguments arguments = readArguments(specs, words);
     Request request;
     if (arguments.version) {

@@ -5,26 +5,15 @@
 namespace {
 
 using phone::Display;
-using std::chrono::hours;
-using std::chrono::minutes;
-using std::chrono::seconds;
-using testing::ElementsAre;
 
 std::vector<bool> g_centred;
-std::vector<CGFloat> g_points;
 int g_layouts = 0;
 objc::WireType<void> (*g_center)(id, SEL, BOOL) = nullptr;
-objc::WireType<void> (*g_font)(id, SEL, id) = nullptr;
 objc::WireType<void> (*g_layOut)(id, SEL) = nullptr;
 
 void center(id self, SEL selector, BOOL centred) {
     g_centred.push_back(centred != 0);
     g_center(self, selector, centred);
-}
-
-void setFont(id self, SEL selector, id font) {
-    g_points.push_back(objc::send<CGFloat()>(font, "pointSize"_sel));
-    g_font(self, selector, font);
 }
 
 void layOutDisplay(id self, SEL selector) {
@@ -62,14 +51,6 @@ void hookTextView(auto selector, auto replacement, auto **previous) {
                     reinterpret_cast<IMP *>(previous));
 }
 
-TEST_F(InCallDisplay, WritesTheRunningTime) {
-    EXPECT_EQ(phone::runningTime(seconds(0)), "00:00");
-    EXPECT_EQ(phone::runningTime(std::chrono::milliseconds(7999)), "00:07");
-    EXPECT_EQ(phone::runningTime(minutes(60) - seconds(1)), "59:59");
-    EXPECT_EQ(phone::runningTime(hours(1) + seconds(7)), "01:00:07");
-    EXPECT_EQ(phone::runningTime(hours(30)), "30:00:00");
-}
-
 TEST_F(InCallDisplay, FollowsTheCalls) {
     start();
     talkTo("13800130011"_ns);
@@ -92,19 +73,6 @@ TEST_F(InCallDisplay, FollowsTheCalls) {
     screen_->end(1);
     objc::send<void(bool)>(owner_.get(), "viewDidDisappear:"_sel, false);
     EXPECT_EQ(says(), "");
-}
-
-TEST_F(InCallDisplay, TicksByItself) {
-    start();
-    talkTo("13800130011"_ns);
-    time_.letPass(seconds(3));
-    const auto loop = objc::send<NSObject()>("NSRunLoop"_cls, "currentRunLoop"_sel);
-    for (int turns = 0; turns < 1000 && says() != "林小满 | 00:03"; ++turns) {
-        objc::send<void(NSObject)>(
-            loop, "runUntilDate:"_sel,
-            objc::send<NSObject(double)>("NSDate"_cls, "dateWithTimeIntervalSinceNow:"_sel, 0.01));
-    }
-    EXPECT_EQ(says(), "林小满 | 00:03");
 }
 
 TEST_F(InCallDisplay, LaysOutAnewWhenTheTimeMovesOn) {
@@ -160,29 +128,6 @@ TEST_F(InCallDisplay, CentresWhatStandsAlone) {
         talkTo("087101655432"_ns);
         EXPECT_FALSE(isNameCentred()) << "beside a picture";
         EXPECT_EQ(labelX(), 0);
-    }
-}
-
-TEST_F(InCallDisplay, WritesWhatDoesNotFitInASmallerFont) {
-    hookTextView("setLCDTextFont:"_sel, &setFont, &g_font);
-    const struct {
-        Display display;
-        CGFloat screenHeight;
-        CGFloat points, smallPoints, labelPoints;
-    } cases[] = {{Display::View, 568, 32, 20, 16},
-                 {Display::View, 480, 28, 18, 14},
-                 {Display::Field, 568, 24, 18, 14},
-                 {Display::Field, 480, 18, 18, 12}};
-    for (const auto &expected : cases) {
-        start(expected.display, "7.1", expected.screenHeight);
-        g_points.clear();
-        screen_->beginOutgoing("10086"_ns);
-        layOut();
-        screen_->end(1);
-        screen_->beginOutgoing("123456789012345678901234567890"_ns);
-        layOut();
-        EXPECT_THAT(g_points, ElementsAre(expected.points, expected.smallPoints));
-        EXPECT_EQ(objc::read<float>(label(), "_fontSize"_ivar), expected.labelPoints);
     }
 }
 

@@ -109,17 +109,6 @@ TEST_F(Calls, SecondOneHoldsTheFirst) {
     EXPECT_THAT(statuses(), ElementsAre(Held, Dialing));
 }
 
-TEST_F(Calls, OfThreeTheOneHeldLastComesBack) {
-    talkTo("100"_ns);
-    talkTo("200"_ns);
-    talkTo("300"_ns);
-    EXPECT_EQ(countedCalls(), 3);
-    EXPECT_TRUE(screen_->swap());
-    EXPECT_THAT(statuses(), ElementsAre(Held, Active, Held));
-    EXPECT_TRUE(screen_->end(2));
-    EXPECT_THAT(statuses(), ElementsAre(Held, Active));
-}
-
 TEST_F(Calls, MergedOnesAreHeldAndEndedTogether) {
     talkTo("100"_ns);
     talkTo("200"_ns);
@@ -132,21 +121,6 @@ TEST_F(Calls, MergedOnesAreHeldAndEndedTogether) {
     tap(screen_->inCallView()->endKey());
     EXPECT_THAT(statuses(), ElementsAre(Active));
     EXPECT_EQ(says(), "300 | 00:00");
-}
-
-TEST_F(Calls, RefuseWhatIsNotPossible) {
-    EXPECT_FALSE(screen_->answer());
-    EXPECT_FALSE(screen_->end(1));
-    EXPECT_FALSE(screen_->swap());
-    talkTo("100"_ns);
-    g_events.clear();
-    EXPECT_FALSE(screen_->answer());
-    EXPECT_FALSE(screen_->end(0));
-    EXPECT_FALSE(screen_->end(2));
-    EXPECT_FALSE(screen_->swap());
-    EXPECT_FALSE(screen_->merge());
-    EXPECT_THAT(g_events, IsEmpty());
-    EXPECT_EQ(screen_->call(2), nullptr);
 }
 
 TEST_F(Calls, ButtonsDoWhatTheyAreCalled) {

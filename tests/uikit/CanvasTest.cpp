@@ -40,21 +40,6 @@ TEST(Canvas, RoundsCornersOfFillClipAndBorder) {
     EXPECT_EQ(canvas.colorAt({15.2, 10.2}), kBlue) << "the clip ended with its state";
 }
 
-TEST(Canvas, LaysAGroupOnAsOne) {
-    sim::Canvas canvas({4, 4});
-    canvas.fill({{0, 0}, {4, 4}}, sim::kWhite);
-    {
-        const sim::Canvas::State state(canvas, 0.5);
-        canvas.moveOrigin({1, 1});
-        canvas.fill({{0, 0}, {2, 2}}, kRed);
-        canvas.fill({{0, 0}, {2, 2}}, kBlue);
-    }
-    const sim::Color mixed = canvas.colorAt({2, 2});
-    EXPECT_NEAR(mixed.red, 0.5, 0.01) << "the red beneath the blue must not shine through";
-    EXPECT_NEAR(mixed.blue, 1.0, 0.01);
-    EXPECT_EQ(canvas.colorAt({0.5, 0.5}), sim::kWhite);
-}
-
 sim::Picture stripes() {
     sim::Canvas canvas({3, 1}, 1);
     canvas.fill({{0, 0}, {1, 1}}, kRed);
@@ -70,12 +55,6 @@ TEST(Canvas, KeepsTheCapsOfAStretchedPicture) {
     EXPECT_EQ(canvas.colorAt({1, 2}), sim::kWhite);
     EXPECT_EQ(canvas.colorAt({28.5, 2}), sim::kWhite);
     EXPECT_EQ(canvas.colorAt({29, 2}), kBlue);
-}
-
-TEST(Canvas, DrawsTemplatesInOneColour) {
-    sim::Canvas canvas({3, 1});
-    canvas.drawTemplate(stripes(), {{0, 0}, {3, 1}}, kBlue);
-    EXPECT_EQ(canvas.colorAt({0.5, 0.5}), kBlue);
 }
 
 /// The rectangle of everything drawn on a canvas, to half a point.

@@ -13,27 +13,6 @@ using objc::send;
 using Labels = UIKitTestCase;
 using Strings = UIKitTestCase;
 
-TEST_F(Labels, StartAsThePlatformHasThem) {
-    auto *const label = view<SimLabel>("UILabel"_cls, {});
-    EXPECT_EQ(label->text(), nullptr);
-    EXPECT_EQ(SimFont::of(label->font()).points, 17);
-    EXPECT_EQ(SimColor::of(label->textColor()), sim::kBlack);
-    EXPECT_EQ(label->numberOfLines(), 1);
-    EXPECT_FALSE(label->isUserInteractionEnabled());
-    EXPECT_EQ(label->intrinsicContentSize(), (CGSize{0, 0}));
-}
-
-TEST_F(Labels, FitWholePixels) {
-    auto *const label = view<SimLabel>("UILabel"_cls, {});
-    label->setFont(SimFont::systemFontOfSize(13));
-    label->setText("标记a"_ns);
-    EXPECT_EQ(label->intrinsicContentSize(), (CGSize{32.5, 16})) << "15.6 points, upwards";
-    label->setNumberOfLines(0);
-    EXPECT_EQ(label->sizeThatFits({30, 0}), (CGSize{26, 31.5}));
-    label->setNumberOfLines(1);
-    EXPECT_EQ(label->sizeThatFits({10, 10}), (CGSize{32.5, 16})) << "one line is never wrapped";
-}
-
 TEST_F(Labels, KeepACopyOfTheirText) {
     auto *const label = view<SimLabel>("UILabel"_cls, {});
     const auto text =

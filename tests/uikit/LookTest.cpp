@@ -22,50 +22,6 @@ using Look = UIKitTestCase;
 constexpr sim::Color kRed{1, 0, 0, 1};
 constexpr sim::Color kBlue{0, 0, 1, 1};
 
-TEST_F(Look, ColoursComeFromEveryConstructor) {
-    struct Case {
-        UIColor color;
-        sim::Color expected;
-    };
-    const Class cls = "UIColor"_cls;
-    const Case cases[] = {
-        {UIColor::clearColor(), sim::kClear},
-        {UIColor::withWhite(0.25, 0.5), {0.25, 0.25, 0.25, 0.5}},
-        {SimColor::withRGBA(2, -1, 0.5, 1), {1, 0, 0.5, 1}},
-        {SimColor::withHSBA(2 / 3.0, 1, 1, 1), kBlue},
-        {SimColor::withHSBA(1 / 6.0, 0.5, 1, 1), {1, 1, 0.5, 1}},
-        {send<UIColor()>(cls, "orangeColor"_sel), {1, 0.5, 0, 1}},
-        {send<UIColor(CGFloat)>(UIColor::blackColor(), "colorWithAlphaComponent:"_sel, 0.3),
-         {0, 0, 0, 0.3}},
-        {nullptr, sim::kClear},
-    };
-    for (const Case &test : cases) {
-        const sim::Color color = SimColor::of(test.color);
-        EXPECT_NEAR(color.red, test.expected.red, 1e-9);
-        EXPECT_NEAR(color.green, test.expected.green, 1e-9);
-        EXPECT_NEAR(color.blue, test.expected.blue, 1e-9);
-        EXPECT_NEAR(color.alpha, test.expected.alpha, 1e-9);
-    }
-    CGFloat red = 0;
-    CGFloat alpha = 0;
-    EXPECT_TRUE((send<bool(CGFloat *, CGFloat *, CGFloat *, CGFloat *)>(
-        SimColor::make(kRed), "getRed:green:blue:alpha:"_sel, &red, nullptr, nullptr, &alpha)));
-    EXPECT_EQ(red, 1);
-    EXPECT_TRUE(send<bool(NSObject)>(SimColor::make(kRed), "isEqual:"_sel, SimColor::make(kRed)));
-    EXPECT_FALSE(send<bool(NSObject)>(SimColor::make(kRed), "isEqual:"_sel, "red"_ns));
-}
-
-TEST_F(Look, FontsAreKnownByName) {
-    const UIFont font = SimFont::withName("HelveticaNeue-Light"_ns, 36);
-    EXPECT_EQ(SimFont::of(font), (sim::Font{36, sim::FontWeight::Light}));
-    EXPECT_EQ(sim::utf8(send<NSString()>(font, "familyName"_sel)), "HelveticaNeue");
-    EXPECT_EQ(SimFont::withName("Comic Relief"_ns, 12), nullptr);
-    EXPECT_EQ(SimFont::withName(nullptr, 12), nullptr);
-    const auto smaller = send<UIFont(CGFloat)>(font, "fontWithSize:"_sel, 18);
-    EXPECT_EQ(SimFont::of(smaller), (sim::Font{18, sim::FontWeight::Light}));
-    EXPECT_FALSE(send<bool(NSObject)>(font, "isEqual:"_sel, smaller));
-}
-
 struct PlacedCase {
     ContentMode mode;
     CGRect expected;
