@@ -70,6 +70,7 @@ void Session::perform(const Step &step, std::ostream &out) {
 }
 
 void Session::wait(std::chrono::milliseconds time) {
+    window_->layout();  // as it would have been when the last step was over
     letTimePass(time, [this] {
         window_->layout();
         return false;
