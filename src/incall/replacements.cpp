@@ -94,7 +94,7 @@ void replace_InCallController__callStatusChangedNotification_(InCallController s
         [[maybe_unused]] const auto count = objc::read<int32_t>(self, "_currentCallCount"_ivar);
         const NSDictionary info = notification.userInfo();
         if (hook.moreThanOneCall() && info &&
-            asInteger(info.objectForKey("TUCallCenterCallStatus"_ns)) == kCallEnded) {
+            integerOf(info.objectForKey("TUCallCenterCallStatus"_ns)) == kCallEnded) {
             const NSObject ended = info.objectForKey("TUCallCenterCall"_ns);
             hook.clearCurrentCall(TUTelephonyCall(ended));
         }

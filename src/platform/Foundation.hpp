@@ -95,28 +95,21 @@ inline NSString asText(NSObject object) {
     return object.isKindOfClass(NSString::classObject()) ? object.as<NSString>() : nullptr;
 }
 
-/// What a container holds, as a whole number; 0 when it is nothing of the kind.
-inline NSInteger asInteger(NSObject object) {
-    const auto selector = "integerValue"_sel;
-    return object.respondsToSelector(selector) ? objc::send<NSInteger()>(object, selector) : 0;
-}
-
 inline NSString NSObject::description() const { return send<NSString()>("description"_sel); }
 
-/// What a container holds, as a number; 0 or NO when it is neither a number nor a text of one.
-inline int32_t intOf(NSObject object) {
-    return object.respondsToSelector("intValue"_sel) ? objc::send<int32_t()>(object, "intValue"_sel)
-                                                     : 0;
+/// What `object` answers to a message that it may not know; zero when it does not, or is nil.
+template <class T, objc::Text name>
+T ifAnswered(NSObject object, objc::Selector<name> selector) {
+    return object.respondsToSelector(selector) ? objc::send<T()>(object, selector) : T();
 }
-inline float floatOf(NSObject object) {
-    return object.respondsToSelector("floatValue"_sel)
-               ? objc::send<float()>(object, "floatValue"_sel)
-               : 0;
+
+// What a container holds, as a number; 0 or NO when it is neither a number nor a text of one.
+inline NSInteger integerOf(NSObject object) {
+    return ifAnswered<NSInteger>(object, "integerValue"_sel);
 }
-inline bool boolOf(NSObject object) {
-    return object.respondsToSelector("boolValue"_sel) &&
-           objc::send<bool()>(object, "boolValue"_sel);
-}
+inline int32_t intOf(NSObject object) { return ifAnswered<int32_t>(object, "intValue"_sel); }
+inline float floatOf(NSObject object) { return ifAnswered<float>(object, "floatValue"_sel); }
+inline bool boolOf(NSObject object) { return ifAnswered<bool>(object, "boolValue"_sel); }
 
 class NSNumber : public NSObject {
   public:
