@@ -41,6 +41,7 @@ struct Journal {
     std::deque<Question> questions{};
     std::deque<Download> downloads{};
     std::deque<std::string> messages{};  ///< names of the messages posted
+    std::deque<std::string> openedUrls{};
     int preferenceInitializations = 0;
 };
 

@@ -50,8 +50,8 @@ class SimulatedTime {
     Clock::time_point since_ = Clock::now();
 };
 
-/// Real seconds that a simulated second takes. Whatever takes its time is scaled by it: answers of
-/// the cloud, downloads, the ticks of a running call.
+/// Real seconds that a simulated second takes, for whoever counts with a timer of Foundation's: the
+/// ticks of a running call.
 inline double pace() { return SimulatedTime::shared().pace(); }
 
 }  // namespace companion

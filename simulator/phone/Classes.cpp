@@ -1,6 +1,7 @@
 // Makes all classes known when the library is mapped, superclasses first.
 #include "phone/Classes.hpp"
 
+#include "phone/contact/ABContact.hpp"
 #include "phone/contact/ABContactViewController.hpp"
 #include "phone/contact/ABNewPersonViewController.hpp"
 #include "phone/dialer/DialerController.hpp"
@@ -16,6 +17,7 @@
 #include "phone/incall/TPLCDLabelView.hpp"
 #include "phone/incall/TPLCDTextView.hpp"
 #include "phone/incall/TPWallpaperView.hpp"
+#include "phone/recents/PHCallInfoView.hpp"
 #include "phone/recents/PHRecentsCell.hpp"
 #include "phone/recents/PHRecentsViewController.hpp"
 #include "phone/recents/UIDateLabel.hpp"
@@ -27,6 +29,7 @@ __attribute__((constructor)) void defineClasses() {
     const objc::AutoreleasePool pool;
     PhoneStatusBar::define();
     PhoneTabBar::define();
+    PhoneNavigationBar::define();
     PhoneTabBarController::define();
     PhoneViewController::define();
 
@@ -49,11 +52,16 @@ __attribute__((constructor)) void defineClasses() {
     InCallController::define();
 
     UIDateLabel::define();
+    PHRecentCall::define();
+    PHCallInfoView::define();
     PHRecentsCell::define();
     PHRecentsViewController::define();
 
-    ABContactHeaderDisplayView::define();
+    ABContactNumber::define();
+    ABContact::define();
+    ABContactView::define();
     ABContactHeaderView::define();
+    ABContactHeaderDisplayView::define();
     ABContactViewController::define();
     ABNewPersonViewController::define();
 }

@@ -46,13 +46,18 @@ void onTouch(UIView control, NSObject target, SEL action, NSUInteger events) {
                                                 target, action, events);
 }
 
+UIFont boldFont(CGFloat points) {
+    return objc::send<UIFont(CGFloat)>("UIFont"_cls, "boldSystemFontOfSize:"_sel, points);
+}
+
 UIFont lightFont(CGFloat points) {
     return objc::send<UIFont(NSString, CGFloat)>("UIFont"_cls, "fontWithName:size:"_sel,
                                                  "HelveticaNeue-Light"_ns, points);
 }
 
-void drawLine(NSString text, UIFont font, CGRect within, sim::TextAlignment alignment) {
-    objc::send<void()>(color(255, 255, 255), "set"_sel);
+void drawLine(NSString text, UIFont font, CGRect within, sim::TextAlignment alignment,
+              UIColor textColor) {
+    objc::send<void()>(textColor, "set"_sel);
     objc::send<CGSize(CGRect, UIFont, sim::LineBreak, sim::TextAlignment)>(
         text, "drawInRect:withFont:lineBreakMode:alignment:"_sel, within, font,
         sim::LineBreak::TruncateTail, alignment);

@@ -20,6 +20,14 @@ objc::Owned<UIView> makeView(CGRect frame) {
         objc::send<UIView(CGRect)>(memory, "initWithFrame:"_sel, frame));
 }
 
+/// [[Name alloc] initWith...: first ...: second]; an address book's record, which another library
+/// makes. Empty when that library is not loaded.
+objc::Owned<NSObject> makeRecord(const char *className, auto initialiser, auto first, auto second) {
+    const id memory = objc::send<id()>(objc::findClass(className), "alloc"_sel);
+    return objc::Owned<NSObject>::adopt(objc::send<NSObject(decltype(first), decltype(second))>(
+        memory, initialiser, first, second));
+}
+
 /// A label of one line with the system font in `points`.
 objc::Owned<UILabel> makeLabel(CGRect frame, CGFloat points,
                                sim::TextAlignment alignment = sim::TextAlignment::Center);
@@ -42,11 +50,15 @@ objc::Owned<UIView> makeButton(CGRect frame, const char *icon);
 /// Sends `action` to `target`, which is not retained, when one of the control events occurs.
 void onTouch(UIView control, NSObject target, SEL action, NSUInteger events);
 
+/// The system font's bold face.
+UIFont boldFont(CGFloat points);
+
 /// The light face that numbers are written in.
 UIFont lightFont(CGFloat points);
 
-/// Inside drawRect: one line of white text, cut off at its end where it is too long.
-void drawLine(NSString text, UIFont font, CGRect within, sim::TextAlignment alignment);
+/// Inside drawRect: one line of text, cut off at its end where it is too long.
+void drawLine(NSString text, UIFont font, CGRect within, sim::TextAlignment alignment,
+              UIColor textColor);
 
 /// Components from 0 to 255.
 UIColor color(int red, int green, int blue);

@@ -12,6 +12,12 @@ OptionSpec iosOption() {
     return {"--ios", "VERSION", "system version of the telephone", listed(kSystemVersions)};
 }
 
+OptionSpec paceOption() {
+    return {"--pace", "SECONDS", "real seconds that a second of --wait takes; 1"};
+}
+
+OptionSpec verboseOption() { return {"--verbose", "", "print the system log on stderr"}; }
+
 OptionSpec screenOption() { return {"--screen", "INCHES", "size of its screen", listed(kScreens)}; }
 
 std::vector<OptionSpec> withPlaces(std::vector<OptionSpec> options) {
@@ -45,9 +51,15 @@ std::vector<Command> makeCommands() {
                         "KIND",
                         "what shows the call; without it, the system's own choice",
                         {"view", "field"}},
-                       {"--pace", "SECONDS", "real seconds that a second of --wait takes; 1"},
-                       {"--verbose", "", "print the system log on stderr"}},
+                       paceOption(),
+                       verboseOption()},
                       inCallSteps()),
+        screenCommand(
+            Task::Recents, "recents", "Look at the recent calls and at one's detail.",
+            {{"--calls", "FILE", "a call history of your own; without it, the world's recents"},
+             paceOption(),
+             verboseOption()},
+            recentsSteps()),
         {Task::Hooks,
          {"hooks", "List the methods that the add-on replaces, in order.", "",
           withPlaces({iosOption(),

@@ -8,7 +8,7 @@
 
 namespace stage {
 
-enum class Task { Help, Version, Dialer, InCall, Hooks, Gallery, Describe };
+enum class Task { Help, Version, Dialer, InCall, Recents, Hooks, Gallery, Describe };
 
 struct Command {
     Task task;

@@ -38,17 +38,27 @@ std::string pictureName(const Scene &scene, const Settings &settings) {
            (settings.withAddOn ? "-with.png" : "-without.png");
 }
 
+bool isShown(const Scene &scene, const Model &model) {
+    return !scene.onlyBefore8 || model.ios < "8";
+}
+
 /// Draws all scenes on one device; answers what the screen said, one line a scene.
 std::string drawScenes(const fs::path &folder, const std::vector<SceneGroup> &groups,
                        const Settings &settings) {
     Session session(settings);
     std::ostringstream captions;
+    std::ostringstream printed;  // by steps; nobody reads it
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
+            if (!isShown(scene, settings.model)) {
+                continue;
+            }
             session.startOver();
             session.open(scene.opening);
             for (const Step &step : scene.steps) {
-                session.perform(step, captions);
+                if (settings.withAddOn || step.kind != Step::Kind::HoldButton) {
+                    session.perform(step, printed);  // the buttons are the add-on's
+                }
             }
             session.savePicture(folder / pictureName(scene, settings));
             std::string said = session.lineText();
@@ -79,6 +89,9 @@ std::vector<Exhibit> exhibitsOf(const std::vector<SceneGroup> &groups, const Set
     std::istringstream captionsWith(saidWith);
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
+            if (!isShown(scene, with.model)) {
+                continue;
+            }
             Exhibit exhibit{with.model,
                             std::string(scene.name),
                             pictureName(scene, without),
@@ -155,7 +168,7 @@ int makeGallery(const fs::path &folder, const Settings &settings) {
         throw Failure(folder.string() + ": is no folder; choose another with --out");
     }
     const StagingFolder staging(folder);
-    const std::vector<SceneGroup> groups = {dialerScenes(), inCallScenes()};
+    const std::vector<SceneGroup> groups = {dialerScenes(), inCallScenes(), recentsScenes()};
     const std::vector<Model> models = allModels();
     std::vector<Exhibit> exhibits;
     for (const Model &model : models) {

@@ -5,8 +5,6 @@
 namespace stage {
 namespace {
 
-constexpr double kLongestWait = 7200;  // seconds
-
 Step outgoing(const GivenOption &given) {
     if (given.value.empty()) {
         throw UsageError("phone-simulator: --outgoing takes a number to dial, not ''");
@@ -19,11 +17,6 @@ Step incoming(const GivenOption &given) { return {Step::Kind::Incoming, given.va
 Step second(const GivenOption &given) { return {Step::Kind::Second, given.value}; }
 
 Step end(const GivenOption &given) { return {Step::Kind::End, {}, readNumber(given, 1)}; }
-
-Step wait(const GivenOption &given) {
-    const std::chrono::duration<double> seconds(readReal(given, 0, kLongestWait));
-    return {Step::Kind::Wait, {}, 1, std::chrono::round<std::chrono::milliseconds>(seconds)};
-}
 
 template <Step::Kind kind>
 Step plain(const GivenOption &) {
@@ -46,7 +39,7 @@ std::vector<StepOption> inCallSteps() {
         {{"--swap", "", "hold the one call and talk on the other"}, &plain<Kind::Swap>},
         {{"--merge", "", "join both calls"}, &plain<Kind::Merge>},
         {{"--end", "N", "end call N, counted from 1 in the order in which calls began"}, &end},
-        {{"--wait", "SECONDS", "let time pass, up to two hours"}, &wait},
+        waitStep(),
         {{"--layout", "", "have the display laid out once more"}, &plain<Kind::Layout>},
     };
 }

@@ -18,7 +18,9 @@ const Command &commandOf(const CommandSpec &usage) {
 
 Opening openingOf(Task task, const Arguments &arguments) {
     Opening opening;
-    opening.screen = task == Task::InCall ? ScreenKind::InCall : ScreenKind::Dialer;
+    opening.screen = task == Task::InCall    ? ScreenKind::InCall
+                     : task == Task::Recents ? ScreenKind::Recents
+                                             : ScreenKind::Dialer;
     if (const auto display = arguments.last("--display")) {
         opening.display = *display == "view" ? phone::Display::View : phone::Display::Field;
     }
@@ -72,6 +74,7 @@ Request readRequest(std::span<const std::string> words) {
     request.data = arguments.last("--data").value_or("");
     request.withoutClass = arguments.last("--without-class").value_or("");
     request.out = arguments.last("--out").value_or("");
+    request.calls = arguments.last("--calls").value_or("");
     request.pace = paceOf(arguments);
     request.opening = openingOf(request.task, arguments);
     request.steps = readSteps(command.steps, arguments);

@@ -23,9 +23,10 @@ struct Request {
     std::filesystem::path data;   // empty: the build's folder
     std::filesystem::path out;    // of the gallery
     bool verbose = false;
-    std::string withoutClass;  // a class of the Phone application to leave out
-    double pace = 1;           // real seconds that a simulated second takes
-    Opening opening;           // of the screen that the steps are for
+    std::string withoutClass;     // a class of the Phone application to leave out
+    std::filesystem::path calls;  // of the recents list; empty: the world's
+    double pace = 1;              // real seconds that a simulated second takes
+    Opening opening;              // of the screen that the steps are for
     Steps steps;
     std::vector<std::string> numbers;
 };

@@ -23,6 +23,7 @@ Settings settingsOf(const Request &request) {
     settings.data = request.data;
     settings.verbose = request.verbose;
     settings.withoutClass = request.withoutClass;
+    settings.calls = request.calls;
     settings.pace = request.pace;
     return settings;
 }
@@ -98,6 +99,7 @@ void runRequest(const Request &request, std::ostream &out) {
         break;
     case Task::Dialer:
     case Task::InCall:
+    case Task::Recents:
         runScreen(request, out);
         break;
     case Task::Hooks:

@@ -17,6 +17,7 @@ struct Scene {
     std::string_view note;   // what to look at
     Steps steps;
     Opening opening{};
+    bool onlyBefore8 = false;  // what is to be seen does not exist from iOS 8 on
 };
 
 /// The scenes of one screen, in the order of the page.
@@ -28,5 +29,6 @@ struct SceneGroup {
 
 SceneGroup dialerScenes();
 SceneGroup inCallScenes();
+SceneGroup recentsScenes();
 
 }  // namespace stage

@@ -9,7 +9,7 @@
 
 namespace stage {
 
-enum class ScreenKind { Dialer, InCall };
+enum class ScreenKind { Dialer, InCall, Recents };
 
 /// Which screen to open, and how.
 struct Opening {

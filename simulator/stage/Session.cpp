@@ -5,8 +5,11 @@
 #include "phone/dialer/DialerController.hpp"
 #include "phone/dialer/DialerView.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
+#include "stage/CallsFile.hpp"
+#include "stage/DelayedMessages.hpp"
 #include "stage/DialerScreen.hpp"
 #include "stage/InCallScreen.hpp"
+#include "stage/RecentsScreen.hpp"
 #include "stage/Surroundings.hpp"
 #include "stage/Waiting.hpp"
 #include "uikit/Foundation.hpp"
@@ -16,20 +19,20 @@ namespace {
 
 using namespace std::chrono_literals;
 
-std::unique_ptr<Screen> makeScreen(const Opening &opening, PhoneWindow &window) {
-    switch (opening.screen) {
-    case ScreenKind::Dialer:
-        break;
-    case ScreenKind::InCall:
-        return std::make_unique<InCallScreen>(window,
-                                              opening.display.value_or(phone::usualDisplay()));
+/// Prints the addresses that were opened after the first `known`.
+void printOpened(std::ostream &out, size_t known) {
+    const auto &opened = companion::journal().openedUrls;
+    for (size_t i = known; i < opened.size(); ++i) {
+        out << "opens " << opened[i] << '\n';
     }
-    return std::make_unique<DialerScreen>(window);
 }
 
 }  // namespace
 
 Session::Session(const Settings &settings) : settings_(settings) {
+    if (!settings.calls.empty()) {
+        calls_ = readCallsFile(settings.calls);
+    }
     prepareProcess(settings);
     window_ = std::make_unique<PhoneWindow>(settings.model.screenSize());
     openDialer();
@@ -37,14 +40,31 @@ Session::Session(const Settings &settings) : settings_(settings) {
 
 Session::~Session() = default;
 
+std::unique_ptr<Screen> Session::makeScreen(const Opening &opening) {
+    switch (opening.screen) {
+    case ScreenKind::Dialer:
+        break;
+    case ScreenKind::InCall:
+        return std::make_unique<InCallScreen>(*window_,
+                                              opening.display.value_or(phone::usualDisplay()));
+    case ScreenKind::Recents:
+        return std::make_unique<RecentsScreen>(
+            *window_, settings_.calls.empty() ? companion::store().recents() : calls_);
+    }
+    return std::make_unique<DialerScreen>(*window_);
+}
+
 void Session::open(const Opening &opening) {
     const objc::AutoreleasePool pool;
     screen_.reset();
-    screen_ = makeScreen(opening, *window_);
+    screen_ = makeScreen(opening);
 }
 
 phone::DialerController *Session::dialer() const {
-    return static_cast<phone::DialerController *>(window_->tabController());
+    SimViewController *const tab = window_->tabController();
+    return NSObject(*tab).isKindOfClass("DialerController"_cls)
+               ? static_cast<phone::DialerController *>(tab)
+               : nullptr;
 }
 
 phone::InCallController *Session::inCall() const {
@@ -52,8 +72,14 @@ phone::InCallController *Session::inCall() const {
     return screen != nullptr ? screen->controller() : nullptr;
 }
 
+phone::PHRecentsViewController *Session::recents() const {
+    const auto *const screen = dynamic_cast<RecentsScreen *>(screen_.get());
+    return screen != nullptr ? screen->controller() : nullptr;
+}
+
 void Session::perform(const Step &step, std::ostream &out) {
     const objc::AutoreleasePool pool;
+    const size_t opened = companion::journal().openedUrls.size();
     switch (step.kind) {
     case Step::Kind::Wait:
         wait(step.time);
@@ -67,6 +93,7 @@ void Session::perform(const Step &step, std::ostream &out) {
     default:
         screen_->perform(step);
     }
+    printOpened(out, opened);
 }
 
 void Session::wait(std::chrono::milliseconds time) {
@@ -80,10 +107,12 @@ void Session::wait(std::chrono::milliseconds time) {
 
 void Session::startOver() {
     openDialer();
-    if (companion::awaited() > 0) {
-        letTimePass(10s, [] { return companion::awaited() == 0; });
+    const auto &delayed = DelayedMessages::shared();
+    if (companion::awaited() > 0 || delayed.next()) {
+        letTimePass(10s, [&] { return companion::awaited() == 0 && !delayed.next(); });
     }
     openWorld(settings_);
+    announceNewData();
     openDialer();
 }
 

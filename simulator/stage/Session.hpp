@@ -6,7 +6,9 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <vector>
 
+#include "companion/world/Records.hpp"
 #include "objc/owned.hpp"
 #include "stage/Model.hpp"
 #include "stage/PhoneWindow.hpp"
@@ -15,6 +17,7 @@
 namespace phone {
 class DialerController;
 class InCallController;
+class PHRecentsViewController;
 }  // namespace phone
 
 namespace stage {
@@ -27,6 +30,7 @@ struct Settings {
     bool fixedMeasurer = false;     // text measured by a rule instead of by fonts, for tests
     std::string withoutClass{};     // a class of the Phone application that is to be missing
     bool verbose = false;           // skipped hooks and the system log go to stderr
+    std::filesystem::path calls{};  // of the recents list; empty: the world's
     std::string bundleIdentifier = "com.apple.mobilephone";
     double pace = 1;  // real seconds that a simulated second takes
 };
@@ -45,12 +49,16 @@ class Session {
     /// Puts a keypad that nobody has touched yet on the screen.
     void openDialer() { open({}); }
 
-    /// The keypad's controller, also while a call covers it.
+    /// The keypad's controller, also while a call covers it; null while another tab is shown.
     phone::DialerController *dialer() const;
     /// The in-call screen's controller; null while another screen is shown.
     phone::InCallController *inCall() const;
 
-    /// Does one step; trees are printed to `out`. Throws Failure when the step is not possible now.
+    /// The recents' controller; null while another screen is shown.
+    phone::PHRecentsViewController *recents() const;
+
+    /// Does one step; trees are printed to `out`, and the addresses that it opened. Throws Failure
+    /// when the step is not possible now.
     void perform(const Step &step, std::ostream &out);
     /// Lets simulated time pass; it stands still otherwise.
     void wait(std::chrono::milliseconds time);
@@ -63,13 +71,16 @@ class Session {
     /// Throws sim::PictureError.
     void savePicture(const std::filesystem::path &file) const { window_->savePicture(file); }
     /// What the screen says of the number in question, its visible texts joined by " | ": under
-    /// the typed number, or in the display of a call.
+    /// the typed number, in the display of a call, or in the call's row or detail.
     std::string lineText() const;
     /// The typed number as the keypad shows it.
     std::string numberText() const;
 
   private:
+    std::unique_ptr<Screen> makeScreen(const Opening &opening);
+
     Settings settings_;
+    std::vector<companion::RecentCall> calls_;  // of the user's own file
     objc::AutoreleasePool pool_;
     std::unique_ptr<PhoneWindow> window_;
     std::unique_ptr<Screen> screen_;

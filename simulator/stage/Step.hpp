@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,19 @@ struct Step {
         End,       // end call number `count`, counted from 1
         Layout,    // have the display laid out again
 
+        // The recents list and a call's detail.
+        Scroll,       // until the list begins `points` below its top
+        ScrollToRow,  // until row number `count`, counted from 1, is seen
+        Swipe,        // drag row `count` to the left by `points`; without them, wholly open
+        Release,      // lift the finger
+        Edit,         // edit mode `text`: "on" or "off"
+        Open,         // show the detail of row `count`
+        Back,         // from the detail to the list
+        Press,        // press the button `text`: "correct", "mark" or "search"
+        HoldButton,   // put a finger on it
+        Tab,          // leave the tab or return to it, `text`: "away" or "back"
+        Reload,       // the companion tells that its data has changed
+
         // Any screen.
         Wait,     // let `time` pass
         Picture,  // write the screen to the PNG file `text`
@@ -36,6 +50,7 @@ struct Step {
     std::string text{};
     int count = 1;
     std::chrono::milliseconds time{};  // of the simulation
+    std::optional<double> points{};
 
     bool operator==(const Step &) const = default;
 };

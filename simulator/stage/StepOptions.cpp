@@ -10,11 +10,20 @@ Step picture(const GivenOption &given) { return {Step::Kind::Picture, given.valu
 
 Step tree(const GivenOption &) { return {Step::Kind::Tree}; }
 
+constexpr double kLongestWait = 7200;  // seconds
+
+Step wait(const GivenOption &given) {
+    const std::chrono::duration<double> seconds(readReal(given, 0, kLongestWait));
+    return {Step::Kind::Wait, {}, 1, std::chrono::round<std::chrono::milliseconds>(seconds)};
+}
+
 bool shows(const Step &step) {
     return step.kind == Step::Kind::Picture || step.kind == Step::Kind::Tree;
 }
 
 }  // namespace
+
+StepOption waitStep() { return {{"--wait", "SECONDS", "let time pass, up to two hours"}, &wait}; }
 
 std::vector<StepOption> showingSteps() {
     return {
@@ -28,7 +37,9 @@ Steps readSteps(const std::vector<StepOption> &known, const Arguments &arguments
     for (const GivenOption &given : arguments.options) {
         const auto found = std::ranges::find_if(
             known, [&](const StepOption &step) { return step.option.name == given.name; });
-        if (found != known.end()) {
+        if (found != known.end() && found->amend) {
+            found->amend(given, steps);
+        } else if (found != known.end()) {
             steps.push_back(found->read(given));
         }
     }

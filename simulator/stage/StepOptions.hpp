@@ -12,10 +12,16 @@ struct StepOption {
     OptionSpec option;
     /// The step that the option stands for. Throws UsageError when its value is no good.
     Step (*read)(const GivenOption &given) = nullptr;
+    /// Of an option that is no step itself but says more about the one before it. Throws
+    /// UsageError when it is out of place as well.
+    void (*amend)(const GivenOption &given, Steps &before) = nullptr;
 };
 
 std::vector<StepOption> dialerSteps();
 std::vector<StepOption> inCallSteps();
+std::vector<StepOption> recentsSteps();
+/// Lets time pass, on screens where that changes anything.
+StepOption waitStep();
 /// What every screen can be asked to show: pictures and trees.
 std::vector<StepOption> showingSteps();
 

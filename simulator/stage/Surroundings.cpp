@@ -9,6 +9,7 @@
 #include "phone/Classes.hpp"
 #include "phone/Resources.hpp"
 #include "phone/dialer/ContactBook.hpp"
+#include "stage/DelayedMessages.hpp"
 #include "stage/Errors.hpp"
 #include "stage/MainBundle.hpp"
 #include "stage/Session.hpp"
@@ -79,6 +80,11 @@ void openWorld(const Settings &settings) {
     fillContactBook();
 }
 
+void announceNewData() {
+    objc::send<void(NSString, NSDictionary)>("ZQIPCService"_cls, "postMsg:withInfo:"_sel,
+                                             "msgSystemProcessReloadAllNum"_ns, NSDictionary());
+}
+
 void prepareProcess(const Settings &settings) {
     prepareDataFolder(dataFolder(settings));
     if (!settings.verbose) {
@@ -98,6 +104,7 @@ void prepareProcess(const Settings &settings) {
     auto &time = companion::SimulatedTime::shared();
     time.setPace(settings.pace);
     time.letPass({});
+    DelayedMessages::shared().forgetAll();
     openWorld(settings);
     if (settings.withAddOn) {
         loadAddOn();

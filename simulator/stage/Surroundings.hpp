@@ -15,6 +15,9 @@ void prepareProcess(const Settings &settings);
 /// fills the telephone's own address book. Throws as Session does.
 void openWorld(const Settings &settings);
 
+/// The companion tells whoever listens that what it knows of numbers has changed.
+void announceNewData();
+
 /// The data folder that is used when none is named.
 std::filesystem::path defaultDataFolder();
 

@@ -1,9 +1,12 @@
 // The run loop is Foundation's own, so what waits in it needs not know that it is watched.
 #include "stage/Waiting.hpp"
 
+#include <algorithm>
+
 #include "companion/SimulatedTime.hpp"
 #include "objc/owned.hpp"
 #include "platform/Foundation.hpp"
+#include "stage/DelayedMessages.hpp"
 
 extern "C" const id NSDefaultRunLoopMode;
 
@@ -28,20 +31,24 @@ void turn(NSObject deadline) {
 
 void letTimePass(std::chrono::milliseconds time, const std::function<bool()> &afterTurn) {
     auto &clock = companion::SimulatedTime::shared();
+    auto &delayed = DelayedMessages::shared();
     const auto end = clock.now() + time;
     clock.letPass(time);
-    const objc::AutoreleasePool pool;
-    const NSObject deadline = dateIn(std::chrono::duration<double>(time).count() * clock.pace());
     while (clock.now() < end) {
-        const objc::AutoreleasePool turnPool;
-        turn(deadline);
+        const objc::AutoreleasePool pool;
+        const auto stop = std::min(end, delayed.next().value_or(end));
+        const std::chrono::duration<double> left = stop - clock.now();
+        turn(dateIn(left.count() * clock.pace()));
+        delayed.sendDue(clock.now());
         if (afterTurn()) {
             clock.letPass({});
             return;
         }
     }
     // Whatever fell due while the machine was busy.
+    const objc::AutoreleasePool pool;
     turn(dateIn(0));
+    delayed.sendDue(end);
     afterTurn();
 }
 

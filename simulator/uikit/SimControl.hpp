@@ -5,9 +5,8 @@
 
 class SimTouch;
 
-/// UIControlEvents and UIControlState, as far as they occur.
+/// UIControlEvents and UIControlState, as far as they occur and the add-on does not know them too.
 inline constexpr NSUInteger kTouchDown = 1U << 0U;
-inline constexpr NSUInteger kTouchUpInside = 1U << 6U;
 inline constexpr NSUInteger kTouchUpOutside = 1U << 7U;
 inline constexpr NSUInteger kTouchCancel = 1U << 8U;
 inline constexpr NSUInteger kValueChanged = 1U << 12U;

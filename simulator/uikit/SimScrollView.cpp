@@ -43,7 +43,10 @@ CGPoint SimScrollView::nearestRest(CGPoint offset) const {
 void SimScrollView::dragTo(CGPoint offset, CGPoint velocity) {
     tell("scrollViewWillBeginDragging:"_sel);
     objc::send<void(CGPoint)>(id(*this), "setContentOffset:"_sel, offset);
-    CGPoint target = nearestRest(offset);
+    endDragging(velocity, nearestRest(offset));
+}
+
+void SimScrollView::endDragging(CGPoint velocity, CGPoint target) {
     constexpr auto kWillEnd = "scrollViewWillEndDragging:withVelocity:targetContentOffset:"_sel;
     const NSObject delegate(delegate_);
     if (delegate != nullptr && delegate.respondsToSelector(kWillEnd)) {

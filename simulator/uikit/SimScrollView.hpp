@@ -22,14 +22,17 @@ class SimScrollView : public SimView {
     /// Not retained; it hears scrollViewDidScroll:.
     void setDelegate(NSObject delegate) { delegate_ = delegate; }
 
-    /// A finger's drag from here to there, ending as UIKit ends it: the delegate is asked through
-    /// scrollViewWillEndDragging:withVelocity:targetContentOffset: where to come to rest.
+    /// A finger's drag from here to there, and its end.
     void dragTo(CGPoint offset, CGPoint velocity);
+    /// The finger is lifted. The delegate is asked through
+    /// scrollViewWillEndDragging:withVelocity:targetContentOffset: where to come to rest; it finds
+    /// `target` and may change it.
+    void endDragging(CGPoint velocity, CGPoint target);
+    /// The offset nearest to this one at which content and insets fill the view.
+    CGPoint nearestRest(CGPoint offset) const;
 
   private:
     void tell(SEL message);
-    /// The offset nearest to this one at which content and insets fill the view.
-    CGPoint nearestRest(CGPoint offset) const;
 
     id delegate_ = nullptr;
     CGSize contentSize_{};

@@ -56,12 +56,29 @@ void SimTableView::setSeparatorColor(UIColor color) {
     separatorColor_ = Owned<UIColor>::share(color);
 }
 
-void SimTableView::reloadData() {
-    for (auto &[place, cell] : cells_) {
-        cell->removeFromSuperview();
-        reusable_.push_back(std::move(cell));
+void SimTableView::setTableHeaderView(UIView view) {
+    tableHeaderView_->removeFromSuperview();
+    tableHeaderView_ = Owned<UIView>::share(view);
+    if (view != nullptr) {
+        view.setFrame(rect(0, 0, bounds().size.width, view.frame().size.height));
+        addSubview(instance<SimView>(view));
     }
-    cells_.clear();
+    reloadData();
+}
+
+/// What is out of sight is neither swiped open nor looked at.
+void SimTableView::recycle(Owned<UIView> cell) {
+    instance<SimTableViewCell>(cell.get())->closeSwipe();
+    cell->removeFromSuperview();
+    reusable_.push_back(std::move(cell));
+}
+
+void SimTableView::reloadData() {
+    // Taken out first: a cell that closes tells others of it, who may look at the table.
+    auto cells = std::exchange(cells_, {});
+    for (auto &[place, cell] : cells) {
+        recycle(std::move(cell));
+    }
     for (const Section &section : sections_) {
         section.headerView->removeFromSuperview();
     }
@@ -77,7 +94,7 @@ void SimTableView::loadIfNeeded() {
     loaded_ = true;
     const auto count = ask<NSInteger(SimTableView *)>(
         dataSource(), "numberOfSectionsInTableView:"_sel, dataSource_ != nullptr ? 1 : 0, this);
-    CGFloat y = 0;
+    CGFloat y = tableHeaderView_->frame().size.height;
     for (NSInteger section = 0; section < count; ++section) {
         y = measureSection(section, y);
     }
@@ -93,10 +110,14 @@ CGFloat SimTableView::measureSection(NSInteger section, CGFloat y) {
         dataSource(), "tableView:numberOfRowsInSection:"_sel, 0, this, section);
     Section measured{{y, header}, {}, {}};
     y += header;
+    constexpr auto kRowHeight = "tableView:heightForRowAtIndexPath:"_sel;
+    const bool differ = delegate() != nullptr && delegate().respondsToSelector(kRowHeight);
+    measured.rows.reserve(static_cast<std::size_t>(std::max<NSInteger>(rows, 0)));
     for (NSInteger row = 0; row < rows; ++row) {
-        const auto height = ask<CGFloat(SimTableView *, NSObject)>(
-            delegate(), "tableView:heightForRowAtIndexPath:"_sel, rowHeight_, this,
-            sim::indexPath(section, row));
+        const CGFloat height = differ
+                                   ? objc::send<CGFloat(SimTableView *, NSObject)>(
+                                         delegate(), kRowHeight, this, sim::indexPath(section, row))
+                                   : rowHeight_;
         measured.rows.push_back({y, height});
         y += height;
     }
@@ -167,6 +188,19 @@ SimTableViewCell *SimTableView::dequeueReusableCellWithIdentifier(NSString ident
     return instance<SimTableViewCell>(cell);
 }
 
+void SimTableView::scrollToRow(NSObject indexPath, NSInteger position, bool animated) {
+    constexpr NSInteger kTop = 1;
+    const CGRect row = rectForRowAtIndexPath(indexPath);
+    const CGRect seen = bounds();
+    CGFloat y = std::min(seen.origin.y, row.origin.y);
+    if (position == kTop) {
+        y = row.origin.y;
+    } else if (row.origin.y + row.size.height > seen.origin.y + seen.size.height) {
+        y = row.origin.y + row.size.height - seen.size.height;
+    }
+    setContentOffsetAnimated(nearestRest({seen.origin.x, y}), animated);
+}
+
 void SimTableView::setEditing(bool editing) {
     objc::send<void(bool, bool)>(id(*this), "setEditing:animated:"_sel, editing, false);
 }
@@ -194,9 +228,9 @@ void SimTableView::dropInvisible(CGRect visible) {
             ++entry;
             continue;
         }
-        cell->removeFromSuperview();
-        reusable_.push_back(std::move(cell));
+        Owned<UIView> gone = std::move(cell);
         entry = cells_.erase(entry);
+        recycle(std::move(gone));
     }
 }
 
@@ -204,9 +238,16 @@ void SimTableView::addVisible(CGRect visible) {
     for (std::size_t s = 0; s < sections_.size(); ++s) {
         const auto section = static_cast<NSInteger>(s);
         addHeader(section, visible);
-        for (std::size_t r = 0; r < sections_[s].rows.size(); ++r) {
-            const CGRect frame = rectAt(sections_[s].rows[r]);
-            const Place place{section, static_cast<NSInteger>(r)};
+        const auto &rows = sections_[s].rows;
+        const auto first = std::ranges::partition_point(rows, [visible](const RowFrame &row) {
+            return row.y + row.height <= visible.origin.y;
+        });
+        for (auto row = static_cast<std::size_t>(first - rows.begin()); row < rows.size(); ++row) {
+            const CGRect frame = rectAt(rows[row]);
+            if (frame.origin.y >= visible.origin.y + visible.size.height) {
+                break;
+            }
+            const Place place{section, static_cast<NSInteger>(row)};
             if (sim::intersects(frame, visible) && !cells_.contains(place)) {
                 addCell(place, frame);
             }
@@ -223,6 +264,9 @@ void SimTableView::addCell(Place place, CGRect frame) {
                    "the data source gave no cell for a row"_ns);
     }
     cell.setFrame(frame);
+    if (objc::send<bool()>(cell, "isEditing"_sel) != editing_) {
+        objc::send<void(bool, bool)>(cell, "setEditing:animated:"_sel, editing_, false);
+    }
     cells_[place] = Owned<UIView>::share(cell);
     insertSubviewAtIndex(instance<SimView>(cell), 0);
 }
@@ -257,6 +301,10 @@ void SimTableView::define() {
                      .method("setRowHeight:"_sel, member<&T::setRowHeight>)
                      .method("separatorColor"_sel, member<&T::separatorColor>)
                      .method("setSeparatorColor:"_sel, member<&T::setSeparatorColor>)
+                     .method("separatorInset"_sel, member<&T::separatorInset>)
+                     .method("setSeparatorInset:"_sel, member<&T::setSeparatorInset>)
+                     .method("tableHeaderView"_sel, member<&T::tableHeaderView>)
+                     .method("setTableHeaderView:"_sel, member<&T::setTableHeaderView>)
                      .method("reloadData"_sel, member<&T::reloadData>)
                      .method("numberOfSections"_sel, member<&T::numberOfSections>)
                      .method("numberOfRowsInSection:"_sel, member<&T::numberOfRowsInSection>)
@@ -266,6 +314,8 @@ void SimTableView::define() {
                      .method("visibleCells"_sel, member<&T::visibleCells>)
                      .method("dequeueReusableCellWithIdentifier:"_sel,
                              member<&T::dequeueReusableCellWithIdentifier>)
+                     .method("scrollToRowAtIndexPath:atScrollPosition:animated:"_sel,
+                             member<&T::scrollToRow>)
                      .method("isEditing"_sel, member<&T::isEditing>)
                      .method("setEditing:"_sel, member<&T::setEditing>)
                      .method("setEditing:animated:"_sel, member<&T::setEditingAnimated>)

@@ -22,8 +22,15 @@ class SimTableView : public SimScrollView {
     void setDelegate(NSObject delegate);
     CGFloat rowHeight() const { return rowHeight_; }
     void setRowHeight(CGFloat height) { rowHeight_ = height; }
+    /// The line between rows; nil for the system's own grey.
     UIColor separatorColor() const { return separatorColor_; }
     void setSeparatorColor(UIColor color);
+    /// How far the lines keep away from the cells' edges.
+    UIEdgeInsets separatorInset() const { return separatorInset_; }
+    void setSeparatorInset(UIEdgeInsets inset) { separatorInset_ = inset; }
+    UIView tableHeaderView() const { return tableHeaderView_; }
+    /// Stands above the first section, as high as it is when it is set and as wide as the table.
+    void setTableHeaderView(UIView view);
 
     /// Asks the data source anew and lays the visible rows out at the next layout.
     void reloadData();
@@ -36,9 +43,11 @@ class SimTableView : public SimScrollView {
     NSObject indexPathForCell(SimTableViewCell *cell) const;
     NSArray visibleCells() const;
     SimTableViewCell *dequeueReusableCellWithIdentifier(NSString identifier);
+    /// Position 0: as little as is needed to show the whole row; 1: the row comes to the top.
+    void scrollToRow(NSObject indexPath, NSInteger position, bool animated);
     bool isEditing() const { return editing_; }
     void setEditing(bool editing);
-    /// Passed on to every visible cell.
+    /// Passed on to every visible cell, and later to those that come into sight.
     void setEditingAnimated(bool editing, bool animated);
     void layoutSubviews();
 
@@ -60,6 +69,7 @@ class SimTableView : public SimScrollView {
 
     CGFloat measureSection(NSInteger section, CGFloat y);
     void loadIfNeeded();
+    void recycle(objc::Owned<UIView> cell);
     void dropInvisible(CGRect visible);
     void addVisible(CGRect visible);
     void addCell(Place place, CGRect frame);
@@ -70,7 +80,9 @@ class SimTableView : public SimScrollView {
     std::vector<Section> sections_;
     std::map<Place, objc::Owned<UIView>> cells_;
     std::vector<objc::Owned<UIView>> reusable_;
+    objc::Owned<UIView> tableHeaderView_;
     objc::Owned<UIColor> separatorColor_;
+    UIEdgeInsets separatorInset_{0, 15, 0, 0};
     NSInteger style_ = 0;
     CGFloat rowHeight_ = 44;
     bool editing_ = false;

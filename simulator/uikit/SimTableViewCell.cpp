@@ -1,14 +1,17 @@
-// UITableViewCell and the private scroll view that swipes it open before iOS 8.
+// UITableViewCell's parts and look; what a swipe does to it is in SimTableViewCellSwipe.cpp.
 #include "uikit/SimTableViewCell.hpp"
 
 #include "uikit/Device.hpp"
 #include "uikit/Foundation.hpp"
+#include "uikit/GraphicsContext.hpp"
 #include "uikit/Registration.hpp"
+#include "uikit/SimColor.hpp"
+#include "uikit/SimEditControl.hpp"
 #include "uikit/SimFont.hpp"
 #include "uikit/SimImage.hpp"
 #include "uikit/SimImageView.hpp"
 #include "uikit/SimLabel.hpp"
-#include "uikit/SimScrollView.hpp"
+#include "uikit/SimTableView.hpp"
 #include "uikit/SimTableViewCellScrollView.hpp"
 
 using objc::Owned;
@@ -22,6 +25,8 @@ constexpr CGFloat kTextPoints = 17;
 constexpr CGFloat kDetailPoints = 12;
 constexpr NSInteger kValueAtTheRight = 1;
 constexpr NSInteger kSubtitle = 3;
+constexpr CGFloat kEditRoom = 38;  // points that the content makes way while its table is edited
+constexpr sim::Color kSeparator{200 / 255.0, 199 / 255.0, 204 / 255.0, 1};
 
 }  // namespace
 
@@ -94,8 +99,44 @@ void SimTableViewCell::layoutSubviews() {
         scrollView_->setFrame(whole);
         scrollView()->setContentSize(whole.size);
     }
-    contentView_->setFrame(whole);
-    placeParts(whole.size);
+    const bool editedWithTable = editing_ && !isSwiped();
+    const CGFloat room = editedWithTable ? kEditRoom : 0;
+    showEditControl(editedWithTable);
+    const CGRect content = rect(room, 0, whole.size.width - room, whole.size.height);
+    contentView_->setFrame(content);
+    placeParts(content.size);
+}
+
+void SimTableViewCell::showEditControl(bool shown) {
+    if (!shown) {
+        editControl_->removeFromSuperview();
+        editControl_ = {};
+        return;
+    }
+    if (!editControl_) {
+        editControl_ = SimEditControl::make();
+        contentView_->superview().addSubview(editControl_);
+    }
+    editControl_->setFrame(rect(0, 0, kEditRoom, bounds().size.height));
+}
+
+SimTableView *SimTableViewCell::table() const {
+    const auto parent = handle<UIView>(superview());
+    return parent.isKindOfClass("UITableView"_cls) ? instance<SimTableView>(parent) : nullptr;
+}
+
+void SimTableViewCell::drawRect(CGRect) {
+    constexpr CGFloat kThickness = 0.5;
+    const SimTableView *const owner = table();
+    auto *const context = sim::GraphicsContext::current();
+    if (owner == nullptr || context == nullptr) {
+        return;
+    }
+    const UIEdgeInsets inset = owner->separatorInset();
+    const CGSize size = bounds().size;
+    context->canvas.fill(rect(inset.left, size.height - kThickness,
+                              size.width - inset.left - inset.right, kThickness),
+                         SimColor::of(owner->separatorColor(), kSeparator));
 }
 
 void SimTableViewCell::placeParts(CGSize room) {
@@ -151,5 +192,7 @@ void SimTableViewCell::define() {
                      .method("setSelectionStyle:"_sel, member<&C::setSelectionStyle>)
                      .method("prepareForReuse"_sel, member<&C::prepareForReuse>)
                      .method("layoutSubviews"_sel, member<&C::layoutSubviews>)
+                     .method("drawRect:"_sel, member<&C::drawRect>)
+                     .method("deletePressed:"_sel, member<&C::deletePressed>)
                      .finish());
 }

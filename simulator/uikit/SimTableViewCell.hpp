@@ -1,4 +1,5 @@
-// UITableViewCell: a content view, which before iOS 8 lies in a scroll view of its own.
+// UITableViewCell: a content view, which before iOS 8 lies in a scroll view of its own and is
+// swiped aside with it.
 #pragma once
 
 #include "uikit/SimView.hpp"
@@ -6,6 +7,7 @@
 class SimImageView;
 class SimLabel;
 class SimScrollView;
+class SimTableView;
 
 class SimTableViewCell : public SimView {
   public:
@@ -37,13 +39,37 @@ class SimTableViewCell : public SimView {
     void setSelectionStyle(NSInteger style) { selectionStyle_ = style; }
     void prepareForReuse() {}
     void layoutSubviews();
+    /// The line below the cell, in the way its table wants it.
+    void drawRect(CGRect rect);
+
+    /// Whether a delete button stands beside the content, under a finger's swipe or left open.
+    bool isSwiped() const { return static_cast<bool>(confirmation_); }
+    /// A finger begins to swipe: the delete button is there and the cell is being edited. False,
+    /// and nothing is changed, from iOS 8 on and in a cell that is edited together with its table.
+    bool beginSwipe();
+    /// The finger moves, a few points at a time, until the content lies that far to the left.
+    void dragSwipeTo(CGFloat points);
+    /// The finger is lifted, at a velocity in points a millisecond, positive to the left. By the
+    /// system's choice a cell stays open that shows half of what it has to reveal; its own
+    /// scrollViewWillEndDragging:withVelocity:targetContentOffset: may choose otherwise.
+    void endSwipe(CGFloat velocity);
+    /// Back to the plain cell, however far it was swiped.
+    void closeSwipe();
+    /// What a swipe reveals, in points; 0 in a cell that is not swiped.
+    CGFloat swipeWidth() const { return confirmation_->frame().size.width; }
+    /// Asks the table's data source to delete the row.
+    void deletePressed(NSObject sender);
 
   private:
     SimLabel *label(objc::Owned<UILabel> &slot, CGFloat points);
     void placeParts(CGSize room);
+    void showEditControl(bool shown);
+    SimTableView *table() const;
 
     objc::Owned<UIView> scrollView_;
     objc::Owned<UIView> contentView_;
+    objc::Owned<UIView> confirmation_;
+    objc::Owned<UIView> editControl_;
     objc::Owned<UILabel> textLabel_;
     objc::Owned<UILabel> detailTextLabel_;
     objc::Owned<UIImageView> imageView_;

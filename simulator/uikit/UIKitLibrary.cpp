@@ -3,7 +3,9 @@
 #include "uikit/SimApplication.hpp"
 #include "uikit/SimButton.hpp"
 #include "uikit/SimColor.hpp"
+#include "uikit/SimDeleteConfirmation.hpp"
 #include "uikit/SimDevice.hpp"
+#include "uikit/SimEditControl.hpp"
 #include "uikit/SimEvent.hpp"
 #include "uikit/SimFont.hpp"
 #include "uikit/SimImage.hpp"
@@ -42,6 +44,9 @@ namespace {
     SimButton::define();
     SimScrollView::define();
     SimTableViewCellScrollView::define();
+    SimDeleteConfirmationButton::define();
+    SimDeleteConfirmationView::define();
+    SimEditControl::define();
     SimTableViewCell::define();
     SimTableView::define();
     sim::addStringDrawing();

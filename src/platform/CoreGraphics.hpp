@@ -25,6 +25,12 @@ struct CGRect {
     bool operator==(const CGRect &) const = default;
 };
 
+/// UIKit's, but a plain struct like the others.
+struct UIEdgeInsets {
+    CGFloat top, left, bottom, right;
+    bool operator==(const UIEdgeInsets &) const = default;
+};
+
 constexpr CGRect rect(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
     return {{x, y}, {width, height}};
 }
@@ -47,6 +53,12 @@ template <>
 struct StructEncoding<CGRect> {
     static constexpr auto text =
         Text("{CGRect=") + StructEncoding<CGPoint>::text + StructEncoding<CGSize>::text + Text("}");
+};
+
+template <>
+struct StructEncoding<UIEdgeInsets> {
+    static constexpr auto text = Text("{UIEdgeInsets=") + kFloatEncoding + kFloatEncoding +
+                                 kFloatEncoding + kFloatEncoding + Text("}");
 };
 
 }  // namespace objc

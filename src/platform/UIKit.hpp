@@ -13,6 +13,10 @@ class UIColor : public NSObject {
     static UIColor whiteColor() { return objc::send<UIColor()>(classObject(), "whiteColor"_sel); }
     static UIColor blackColor() { return objc::send<UIColor()>(classObject(), "blackColor"_sel); }
     /// Components from 0 to 1.
+    static UIColor withRGB(CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha) {
+        return objc::send<UIColor(CGFloat, CGFloat, CGFloat, CGFloat)>(
+            classObject(), "colorWithRed:green:blue:alpha:"_sel, red, green, blue, alpha);
+    }
     static UIColor withWhite(CGFloat white, CGFloat alpha) {
         return objc::send<UIColor(CGFloat, CGFloat)>(classObject(), "colorWithWhite:alpha:"_sel,
                                                      white, alpha);
@@ -44,6 +48,10 @@ class UIImage : public NSObject {
     static UIImage withContentsOfFile(NSString path) {
         return objc::send<UIImage(NSString)>(classObject(), "imageWithContentsOfFile:"_sel, path);
     }
+    /// The edges within the insets keep their size when the image is stretched.
+    UIImage resizable(UIEdgeInsets caps) const {
+        return send<UIImage(UIEdgeInsets)>("resizableImageWithCapInsets:"_sel, caps);
+    }
 };
 
 class UIView : public NSObject {
@@ -68,6 +76,9 @@ class UIView : public NSObject {
         return send<UIView(NSInteger)>("viewWithTag:"_sel, tag);
     }
     void addSubview(UIView view) const { send<void(UIView)>("addSubview:"_sel, view); }
+    void bringSubviewToFront(UIView view) const {
+        send<void(UIView)>("bringSubviewToFront:"_sel, view);
+    }
     void removeFromSuperview() const { send<void()>("removeFromSuperview"_sel); }
 };
 
@@ -95,6 +106,7 @@ class UILabel : public UIView {
     }
     UIFont font() const { return send<UIFont()>("font"_sel); }
     void setFont(UIFont font) const { send<void(UIFont)>("setFont:"_sel, font); }
+    UIColor textColor() const { return send<UIColor()>("textColor"_sel); }
     void setTextColor(UIColor color) const { send<void(UIColor)>("setTextColor:"_sel, color); }
     void setTextAlignment(NSInteger alignment) const {
         send<void(NSInteger)>("setTextAlignment:"_sel, alignment);
@@ -110,6 +122,63 @@ class UIImageView : public UIView {
     static Class classObject() { return "UIImageView"_cls; }
 
     void setImage(UIImage image) const { send<void(UIImage)>("setImage:"_sel, image); }
+};
+
+/// UIControlState's bits.
+inline constexpr NSUInteger kNormalState = 0, kHighlightedState = 1;
+/// UIControlEventTouchUpInside
+inline constexpr NSUInteger kTouchUpInside = 1U << 6U;
+
+class UIButton : public UIView {
+  public:
+    using UIView::UIView;
+    static Class classObject() { return "UIButton"_cls; }
+
+    /// Without the looks of the system's own buttons.
+    static UIButton custom() {
+        constexpr NSInteger kCustom = 0;
+        return objc::send<UIButton(NSInteger)>(classObject(), "buttonWithType:"_sel, kCustom);
+    }
+    UILabel titleLabel() const { return send<UILabel()>("titleLabel"_sel); }
+    void setTitle(NSString title, NSUInteger state) const {
+        send<void(NSString, NSUInteger)>("setTitle:forState:"_sel, title, state);
+    }
+    void setTitleColor(UIColor color, NSUInteger state) const {
+        send<void(UIColor, NSUInteger)>("setTitleColor:forState:"_sel, color, state);
+    }
+    void setTitleEdgeInsets(UIEdgeInsets insets) const {
+        send<void(UIEdgeInsets)>("setTitleEdgeInsets:"_sel, insets);
+    }
+    /// The target is not retained.
+    void addTarget(id target, SEL action, NSUInteger events) const {
+        send<void(id, SEL, NSUInteger)>("addTarget:action:forControlEvents:"_sel, target, action,
+                                        events);
+    }
+};
+
+class UIScrollView : public UIView {
+  public:
+    using UIView::UIView;
+    CGPoint contentOffset() const { return send<CGPoint()>("contentOffset"_sel); }
+    UIEdgeInsets contentInset() const { return send<UIEdgeInsets()>("contentInset"_sel); }
+    void setContentInset(UIEdgeInsets insets) const {
+        send<void(UIEdgeInsets)>("setContentInset:"_sel, insets);
+    }
+};
+
+class UITableView : public UIScrollView {
+  public:
+    using UIScrollView::UIScrollView;
+    void reloadData() const { send<void()>("reloadData"_sel); }
+};
+
+class UIScreen : public NSObject {
+  public:
+    using NSObject::NSObject;
+    static UIScreen mainScreen() {
+        return objc::send<UIScreen()>("UIScreen"_cls, "mainScreen"_sel);
+    }
+    CGRect bounds() const { return send<CGRect()>("bounds"_sel); }
 };
 
 extern "C" {

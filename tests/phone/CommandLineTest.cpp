@@ -52,6 +52,21 @@ TEST(CommandLine, ReadsTheStepsOfCalls) {
                                            {Kind::Outgoing, "+44 20"}}));
 }
 
+TEST(CommandLine, ReadsTheStepsOfTheRecents) {
+    const Request request =
+        read({"recents", "--calls", "my.csv", "--scroll", "row:30", "--scroll", "12.5", "--swipe",
+              "30", "--to", "71", "--swipe", "1", "--edit", "on", "--press", "mark"});
+    EXPECT_EQ(request.opening, (stage::Opening{stage::ScreenKind::Recents, {}}));
+    EXPECT_EQ(request.calls, "my.csv");
+    EXPECT_EQ(request.steps, (stage::Steps{{Kind::ScrollToRow, {}, 30},
+                                           {Kind::Scroll, {}, 1, {}, 12.5},
+                                           {Kind::Swipe, {}, 30, {}, 71},
+                                           {Kind::Swipe, {}, 1},
+                                           {Kind::Edit, "on"},
+                                           {Kind::Press, "mark"},
+                                           {Kind::Tree}}));
+}
+
 TEST(CommandLine, TakesTextsAsTheyStand) {
     const Request request = read({"dialer", "--type", "--png", "--type", "", "--type", "a=b 快递"});
     EXPECT_EQ(request.steps,
@@ -84,8 +99,8 @@ TEST(CommandLine, NamesTheChoicesInOneLine) {
         std::vector<std::string> words;
         const char *complaint;
     } cases[] = {
-        {{}, "a command is missing; choose dialer, incall, hooks, gallery or describe"},
-        {{"dailer"}, "there is no command 'dailer'; choose dialer, incall, hooks, "},
+        {{}, "a command is missing; choose dialer, incall, recents, hooks, gallery or describe"},
+        {{"dailer"}, "there is no command 'dailer'; choose dialer, incall, recents, "},
         {{"dialer", "--ios", "9.0"}, "dialer: --ios takes 7.0, 7.1 or 8.0, not '9.0'"},
         {{"dialer", "--screen", "5"}, "dialer: --screen takes 3.5 or 4, not '5'"},
         {{"hooks", "--type", "1"}, "hooks: there is no option '--type'; choose --ios, "},
@@ -106,6 +121,9 @@ TEST(CommandLine, NamesTheChoicesInOneLine) {
         {{"incall", "--pace", "0"}, "--pace takes a number from 0.001 to 10, not '0'"},
         {{"incall", "--display", "lcd"}, "incall: --display takes view or field, not 'lcd'"},
         {{"dialer", "--wait", "1"}, "dialer: there is no option '--wait'"},
+        {{"recents", "--to", "71"}, "recents: --to has its place right behind --swipe ROW"},
+        {{"recents", "--scroll", "row:0"}, "--scroll row:N takes a whole number from 1 upwards"},
+        {{"recents", "--press", "delete"}, "--press takes correct, mark or search, not 'delete'"},
         {{"gallery"}, "gallery: --out FOLDER is missing"},
         {{"describe"}, "describe: give at least one NUMBER"},
     };

@@ -70,10 +70,11 @@ void ZQNumberIdentityService::startCloudQuery(const std::string &number, NSObjec
     query->_answer = store().cloudAnswer(number).value_or(
         CloudAnswer{.number = number, .text = R"({"hit": false})"});
     ++awaited();
-    // The run loop keeps the query, and the query its delegate, until the answer is there.
+    // Whoever counts the delay keeps the query, and the query its delegate, until the answer is
+    // there.
     objc::send<void(SEL, id, double)>(*query, "performSelector:withObject:afterDelay:"_sel,
                                       SEL("deliver"_sel), nullptr,
-                                      pace() * query->_answer.delay.value_or(store().cloudDelay()));
+                                      query->_answer.delay.value_or(store().cloudDelay()));
 }
 
 void ZQNumberIdentityService::deliver() const {

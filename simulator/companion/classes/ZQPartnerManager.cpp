@@ -84,7 +84,7 @@ void ZQPartnerManager::download(NSString icon, NSString destination) {
         "NSArray"_cls, "arrayWithObjects:count:"_sel, parts, NSUInteger{2});
     objc::send<void(SEL, NSArray, double)>(*this, "performSelector:withObject:afterDelay:"_sel,
                                            SEL("finishDownload:"_sel), request,
-                                           pace() * store().downloadDelay());
+                                           store().downloadDelay());
 }
 
 void ZQPartnerManager::finishDownload(NSArray request) {

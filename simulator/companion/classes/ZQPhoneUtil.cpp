@@ -51,11 +51,13 @@ NSObject imageWithName(NSString name) {
     return name.length() == 0 ? NSObject() : picture(utf8(name));
 }
 
-/// A text that is no URL opens nothing.
+/// Every address goes into the journal. The application hears only of those that this host's
+/// Foundation takes for one, which wants a path between the host and a question mark.
 void openUrl(NSString text) {
     if (text.length() == 0) {
         return;
     }
+    note(journal().openedUrls, utf8(text));
     const id url = objc::send<id(NSString)>("NSURL"_cls, "URLWithString:"_sel, text);
     if (url != nullptr) {
         const id application = objc::send<id()>("UIApplication"_cls, "sharedApplication"_sel);

@@ -54,7 +54,7 @@ class Store {
     std::vector<HistoryEntry> history(std::string_view number, std::int32_t most);
     /// The stored call of this number in this second (dates are seconds since 1970).
     std::optional<StoredCall> storedCall(std::string_view number, double date);
-    std::vector<RecentCall> recents();  ///< latest first
+    std::vector<RecentCall> recents();  ///< latest first, at the end those without a date
     std::optional<CloudAnswer> cloudAnswer(std::string_view number);
 
     /// Adds one to a usage statistic.

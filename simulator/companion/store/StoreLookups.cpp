@@ -147,7 +147,7 @@ std::vector<RecentCall> Store::recents() {
                           .label = row.text(2),
                           .incoming = row.integer(3) != 0,
                           .answered = row.integer(4) != 0,
-                          .date = row.real(5)});
+                          .date = row.optionalReal(5)});
     }
     return result;
 }

@@ -62,12 +62,14 @@ struct StoredCall {
 
 /// A row of the Phone application's recents list.
 struct RecentCall {
-    std::string number{};  ///< as the network gave it; empty for a caller who hid it
+    std::string number{};  ///< or an e-mail address; empty for a caller who hid it
     std::string name{};    ///< of the contact; empty for anybody else
     std::string label{};   ///< of the contact's number
     bool incoming = false;
     bool answered = false;
-    double date = 0;  ///< seconds since 1970
+    std::optional<double> date{};  ///< seconds since 1970; may be missing
+
+    bool operator==(const RecentCall &) const = default;
 };
 
 /// What the cloud says when it is asked about a number.

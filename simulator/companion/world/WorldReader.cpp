@@ -180,7 +180,9 @@ void WorldReader::readCalls(const JsonPlace &root) {
         }
         call.incoming = direction == "incoming";
         call.answered = entry["answered"].boolean();
-        call.date = entry["date"].date();
+        if (!entry["date"].isNull()) {
+            call.date = entry["date"].date();
+        }
         world_.recents.push_back(std::move(call));
     }
 }

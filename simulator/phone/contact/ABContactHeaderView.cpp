@@ -7,23 +7,13 @@ namespace phone {
 namespace {
 
 constexpr CGFloat kLeft = 35;
+constexpr CGFloat kRight = 13;
+constexpr CGFloat kNameRoom = 96;
+constexpr CGFloat kNameTop = 36;
+constexpr CGFloat kNameHeight = 24;
+constexpr CGFloat kTaglineRoom = 20;
 
 }  // namespace
-
-void ABContactHeaderDisplayView::define() {
-    using Self = ABContactHeaderDisplayView;
-    sim::defined(
-        "ABContactHeaderDisplayView",
-        objc::ClassBuilder<Self>("ABContactHeaderDisplayView", "UIView")
-            .method("_taglineStringForContact:"_sel, objc::member<&Self::taglineStringForContact>)
-            .finish());
-}
-
-NSString ABContactHeaderDisplayView::taglineStringForContact(NSObject contact) const {
-    constexpr auto kCompany = "organization"_sel;
-    return contact.respondsToSelector(kCompany) ? objc::send<NSString()>(contact, kCompany)
-                                                : NSString();
-}
 
 void ABContactHeaderView::define() {
     using objc::member;
@@ -46,32 +36,60 @@ void ABContactHeaderView::define() {
 
 id ABContactHeaderView::initWithFrame(CGRect frame) {
     objc::sendSuper<ABContactHeaderView, id(CGRect)>(this, "initWithFrame:"_sel, frame);
-    nameLabel_ = makeLabel({}, 17, sim::TextAlignment::Left);
+    nameLabel_ = makeLabel({}, 20, sim::TextAlignment::Left);
     taglineLabel_ = makeLabel({}, 13, sim::TextAlignment::Left);
-    personHeaderView_ = makeView<ABContactHeaderDisplayView>({});
-    for (const UIView part :
-         {UIView(personHeaderView_.get()), UIView(nameLabel_.get()), UIView(taglineLabel_.get())}) {
-        asView(*this).addSubview(part);
-    }
+    taglineLabel_->setTextColor(color(142, 142, 147));
+    asView(*this).addSubview(nameLabel_);
+    asView(*this).addSubview(taglineLabel_);
     return *this;
 }
 
 void ABContactHeaderView::setContact(NSObject contact) {
+    constexpr auto kTagline = "_taglineStringForContact:"_sel;
     contact_ = objc::Owned<NSObject>::share(contact);
+    const NSObject self(*this);
     nameLabel_->setText(objc::send<NSString()>(contact, "name"_sel));
-    taglineLabel_->setText(objc::send<NSString(NSObject)>(
-        personHeaderView_.get(), "_taglineStringForContact:"_sel, contact));
+    taglineLabel_->setText(self.respondsToSelector(kTagline)
+                               ? objc::send<NSString(NSObject)>(self, kTagline, contact)
+                               : NSString());
     setNeedsLayout();
 }
 
-void ABContactHeaderView::layoutSubviews() {
-    const CGSize room = asView(*this).bounds().size;
-    const CGFloat width = room.width - kLeft - 13;
-    nameLabel_->setFrame(rect(kLeft, 18, width, 21));
-    taglineLabel_->setFrame(rect(kLeft, 40, width, 16));
-    personHeaderView_->setFrame(rect(0, 0, room.width, room.height));
+void ABContactHeaderView::setPersonHeaderView(UIView view) {
+    personHeaderView_->removeFromSuperview();
+    personHeaderView_ = objc::Owned<UIView>::share(view);
+    asView(*this).addSubview(view);
 }
 
-void ABContactHeaderView::layoutSublayersOfLayer(NSObject) {}
+CGFloat ABContactHeaderView::nameRoom() const {
+    return kNameRoom + (hasText(taglineLabel_->text()) ? kTaglineRoom : 0);
+}
+
+CGFloat ABContactHeaderView::height() const {
+    return nameRoom() + personHeaderView_->frame().size.height;
+}
+
+void ABContactHeaderView::layoutSubviews() {
+    const CGFloat width = asView(*this).bounds().size.width;
+    const CGFloat textWidth = width - kLeft - kRight;
+    nameLabel_->setFrame(rect(kLeft, kNameTop, textWidth, kNameHeight));
+    taglineLabel_->setFrame(rect(kLeft, kNameTop + kNameHeight + 4, textWidth, 16));
+    personHeaderView_->setFrame(rect(0, nameRoom(), width, personHeaderView_->frame().size.height));
+}
+
+void ABContactHeaderDisplayView::define() {
+    using Self = ABContactHeaderDisplayView;
+    sim::defined(
+        "ABContactHeaderDisplayView",
+        objc::ClassBuilder<Self>("ABContactHeaderDisplayView", "ABContactHeaderView")
+            .method("_taglineStringForContact:"_sel, objc::member<&Self::taglineStringForContact>)
+            .finish());
+}
+
+NSString ABContactHeaderDisplayView::taglineStringForContact(NSObject contact) const {
+    constexpr auto kTagline = "tagline"_sel;
+    return contact.respondsToSelector(kTagline) ? objc::send<NSString()>(contact, kTagline)
+                                                : NSString();
+}
 
 }  // namespace phone

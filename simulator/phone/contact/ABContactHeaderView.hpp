@@ -1,4 +1,5 @@
-// The head of a contact's detail view: picture, name and a tag line.
+// The head of a contact's detail view: the name with a tag line below it, and at the bottom what
+// the detail was opened for.
 #pragma once
 
 #include "phone/Parts.hpp"
@@ -6,35 +7,45 @@
 
 namespace phone {
 
-/// What the header shows of a contact while it is not edited: where its tag line comes from.
-class ABContactHeaderDisplayView : public SimView {
-  public:
-    static void define();
-
-    /// The company of a contact, or nil.
-    NSString taglineStringForContact(NSObject contact) const;
-};
-
 class ABContactHeaderView : public SimView {
   public:
     static void define();
 
     id initWithFrame(CGRect frame);
-    /// `contact` answers name, recordID and phoneNumbers.
+    /// `contact` is an ABContact.
     void setContact(NSObject contact);
     NSObject contact() const { return contact_; }
+    /// As high as it is now; nil for none.
+    void setPersonHeaderView(UIView view);
+    /// Points: the name's room and the person header below it.
+    CGFloat height() const;
     bool isEditing() const { return editing_; }
     void setEditing(bool editing) { editing_ = editing; }
     void layoutSubviews();
     /// Layers lay themselves out with their views here.
-    void layoutSublayersOfLayer(NSObject layer);
+    void layoutSublayersOfLayer(NSObject) {}
+
+    UILabel nameLabel() const { return nameLabel_; }
+    UILabel taglineLabel() const { return taglineLabel_; }
+    UIView personHeaderView() const { return personHeaderView_; }
 
   private:
+    CGFloat nameRoom() const;
+
     objc::Owned<UILabel> nameLabel_;
     objc::Owned<UILabel> taglineLabel_;
     objc::Owned<UIView> personHeaderView_;
     objc::Owned<NSObject> contact_;
     bool editing_ = false;
+};
+
+/// The head as it is while the contact is not edited: it knows where its tag line comes from.
+class ABContactHeaderDisplayView : public ABContactHeaderView {
+  public:
+    static void define();
+
+    /// What the contact itself says, or nil.
+    NSString taglineStringForContact(NSObject contact) const;
 };
 
 }  // namespace phone

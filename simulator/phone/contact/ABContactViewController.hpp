@@ -1,10 +1,13 @@
-// A contact's detail view: a table whose first section is headed by the contact.
+// A contact's detail view: a table with the contact's head on top, the numbers below, and what may
+// be done with them.
 #pragma once
 
 #include "phone/contact/ABContactHeaderView.hpp"
+#include "phone/contact/ABContactView.hpp"
+#include "phone/frame/PhoneNavigationBar.hpp"
 #include "uikit/SimViewController.hpp"
 
-class SimTableView;
+class SimTableViewCell;
 
 namespace phone {
 
@@ -12,19 +15,39 @@ class ABContactViewController : public SimViewController {
   public:
     static void define();
 
-    /// See ABContactHeaderView.
-    void setContact(NSObject contact);
-    NSObject contact() const { return contact_; }
-    /// The header view; it answers `contact`.
-    UIView contactView();
+    ~ABContactViewController();
 
-    /// In points. Sections after the first have no header.
+    /// `contact` is an ABContact; `personHeader`, which may be nil, lies at the bottom of its head:
+    /// what the detail was opened for.
+    void show(NSObject contact, UIView personHeader);
+    NSObject contact() const { return contact_; }
+    /// The way back in the bar on top.
+    void setBackButton(const BarButton &face);
+    UIView backButton();
+
+    /// The ABContactView: the table; it answers `contact`.
+    UIView contactView();
+    SimTableView *table();
+    /// The ABContactHeaderView, the table's header.
+    ABContactHeaderView *headerView();
+
+    // Sent by the system and by the table. Heights are in points.
+    void loadView();
+    NSInteger numberOfSections(SimTableView *table) const;
+    NSInteger numberOfRows(SimTableView *table, NSInteger section) const;
+    SimTableViewCell *cellForRow(SimTableView *table, NSObject indexPath) const;
+    /// The first section stands right under the head, the others at a distance.
     CGFloat heightForHeader(SimTableView *table, NSInteger section) const;
-    UIView viewForHeader(SimTableView *table, NSInteger section);
+    /// The headers are empty: none has a view.
+    UIView viewForHeader(SimTableView *, NSInteger) { return {}; }
 
   private:
+    PhoneNavigationBar *bar();
+
     objc::Owned<NSObject> contact_;
     objc::Owned<UIView> contactView_;
+    objc::Owned<UIView> headerView_;
+    objc::Owned<UIView> bar_;
 };
 
 }  // namespace phone

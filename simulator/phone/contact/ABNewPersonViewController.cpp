@@ -16,12 +16,6 @@ NSArray one(NSString text) {
     return sim::array({&object, 1});
 }
 
-objc::Owned<NSObject> makeRecord(const char *className, auto initialiser, auto first, auto second) {
-    const id memory = objc::send<id()>(objc::findClass(className), "alloc"_sel);
-    return objc::Owned<NSObject>::adopt(objc::send<NSObject(decltype(first), decltype(second))>(
-        memory, initialiser, first, second));
-}
-
 }  // namespace
 
 void ABNewPersonViewController::define() {

@@ -6,6 +6,14 @@
 #include "phone/dialer/TypedNumber.hpp"
 
 namespace phone {
+namespace {
+
+/// What a contact's entry is found by: the digits of a number, the text of anything else.
+std::string keyOf(const std::string &entry) {
+    return entry.find_first_of("@*#") == std::string::npos ? comparableDigits(entry) : entry;
+}
+
+}  // namespace
 
 ContactBook &ContactBook::shared() {
     static ContactBook book;
@@ -14,28 +22,31 @@ ContactBook &ContactBook::shared() {
 
 void ContactBook::add(Contact contact) {
     if (contact.recordId < 0) {
-        for (const Contact &known : contacts_) {
-            contact.recordId = std::max(contact.recordId, known.recordId);
-        }
-        ++contact.recordId;
+        contact.recordId = highestRecordId_ + 1;
+    }
+    highestRecordId_ = std::max(highestRecordId_, contact.recordId);
+    for (size_t i = 0; i < contact.numbers.size(); ++i) {
+        byKey_.emplace(keyOf(contact.numbers[i].number), Place{contacts_.size(), i});
     }
     contacts_.push_back(std::move(contact));
 }
 
+void ContactBook::clear() {
+    contacts_.clear();
+    byKey_.clear();
+    highestRecordId_ = 0;
+}
+
 ContactBook::Entry ContactBook::find(std::string_view number) const {
     // A service code such as *100# is not the number 100.
-    const std::string digits = comparableDigits(number);
-    if (digits.empty() || number.find_first_not_of("+0123456789 -()") != std::string_view::npos) {
+    const bool isNumber = number.find_first_not_of("+0123456789 -()") == std::string_view::npos;
+    const std::string key = isNumber ? comparableDigits(number) : std::string(number);
+    const auto found = key.empty() ? byKey_.end() : byKey_.find(key);
+    if (found == byKey_.end()) {
         return {};
     }
-    for (const Contact &contact : contacts_) {
-        for (const ContactNumber &entry : contact.numbers) {
-            if (comparableDigits(entry.number) == digits) {
-                return {&contact, &entry};
-            }
-        }
-    }
-    return {};
+    const Contact &contact = contacts_[found->second.contact];
+    return {&contact, &contact.numbers[found->second.number]};
 }
 
 std::optional<ContactMatch> ContactBook::match(std::string_view typed) const {

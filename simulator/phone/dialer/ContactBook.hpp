@@ -1,5 +1,4 @@
-// The people that the telephone's own address book holds, as far as dialer and in-call screen ask
-// about them.
+// The people that the telephone's own address book holds, as far as its screens ask about them.
 #pragma once
 
 #include <cstdint>
@@ -7,19 +6,20 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace phone {
 
 struct ContactNumber {
-    std::string number;
-    std::string label;  // "手机", "住宅"; may be empty
+    std::string number;  // or an e-mail address
+    std::string label;   // "手机", "住宅"; may be empty
 };
 
 struct Contact {
     std::string name;
     std::vector<ContactNumber> numbers;
-    int32_t recordId = -1;              // a negative one: the book gives the next free number
+    int32_t recordId = -1;              // below 0: the book gives the next free one, from 1 on
     std::filesystem::path picture{};    // shown beside the name in a call; empty for none
     std::filesystem::path wallpaper{};  // shown behind the whole in-call screen; empty for none
 };
@@ -37,10 +37,11 @@ class ContactBook {
     static ContactBook &shared();
 
     void add(Contact contact);
-    void clear() { contacts_.clear(); }
+    void clear();
 
     /// Whose number was typed: the first contact with the same digits, whatever the grouping and
-    /// with or without mainland China's country code. Nothing for a text that is no number.
+    /// with or without mainland China's country code. A text that is no number has to be an entry
+    /// as it is.
     std::optional<ContactMatch> match(std::string_view typed) const;
     /// The person whose number it is by the same rules, null for nobody's; good until the book
     /// changes.
@@ -53,7 +54,14 @@ class ContactBook {
     };
     Entry find(std::string_view number) const;
 
+    struct Place {
+        size_t contact;
+        size_t number;
+    };
+
     std::vector<Contact> contacts_;
+    std::unordered_map<std::string, Place> byKey_;
+    int32_t highestRecordId_ = 0;
 };
 
 }  // namespace phone

@@ -45,6 +45,12 @@ std::string TypedNumber::formatted() const {
     return shown;
 }
 
+std::string formattedNumber(std::string_view number) {
+    TypedNumber typed;
+    typed.append(number);
+    return typed.formatted();
+}
+
 std::string comparableDigits(std::string_view number) {
     constexpr std::string_view kInternational[] = {"+86", "0086"};
     std::string digits;

@@ -26,6 +26,9 @@ class TypedNumber {
     std::string typed_;
 };
 
+/// A whole number as it would be shown if it had been typed.
+std::string formattedNumber(std::string_view number);
+
 /// Only the digits of a text, without a country code of mainland China in front ("+86", "0086").
 /// Two numbers with the same digits here are the same number to the address book.
 std::string comparableDigits(std::string_view number);

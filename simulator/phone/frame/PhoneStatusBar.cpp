@@ -17,7 +17,7 @@ id PhoneStatusBar::initWithFrame(CGRect frame) {
     objc::sendSuper<PhoneStatusBar, id(CGRect)>(this, "initWithFrame:"_sel, frame);
     const CGFloat width = frame.size.width;
     time_ = makeLabel(rect(0, 0, width, frame.size.height), 12);
-    time_->setFont(objc::send<UIFont(CGFloat)>("UIFont"_cls, "boldSystemFontOfSize:"_sel, 12));
+    time_->setFont(boldFont(12));
     time_->setText("9:41"_ns);
     signal_ = makePicture("status_signal", {6, 6});
     battery_ = makePicture("status_battery", {width - 31, 5});

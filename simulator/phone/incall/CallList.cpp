@@ -45,9 +45,7 @@ Caller callerWith(const std::string &number) {
     if (number.empty()) {
         return {"未知号码"};
     }
-    TypedNumber shown;
-    shown.append(number);
-    return {shown.formatted()};
+    return {formattedNumber(number)};
 }
 
 TUTelephonyCall *CallList::object(size_t number) const {

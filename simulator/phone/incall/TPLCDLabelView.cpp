@@ -36,7 +36,7 @@ CGRect TPLCDLabelView::textRect() const {
 }
 
 void TPLCDLabelView::drawRect(CGRect) {
-    drawLine(text_, font(), textRect(), sim::TextAlignment::Left);
+    drawLine(text_, font(), textRect(), sim::TextAlignment::Left, UIColor::whiteColor());
 }
 
 }  // namespace phone

@@ -46,7 +46,8 @@ void TPLCDTextView::drawRect(CGRect) {
     // One line, however high the view is.
     const CGFloat height = objc::send<CGFloat()>(font, "lineHeight"_sel);
     drawLine(text_, font, rect(0, 0, width, height),
-             centred_ ? sim::TextAlignment::Center : sim::TextAlignment::Left);
+             centred_ ? sim::TextAlignment::Center : sim::TextAlignment::Left,
+             UIColor::whiteColor());
 }
 
 }  // namespace phone

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "phone/Parts.hpp"
+#include "phone/recents/PHRecentCall.hpp"
 #include "uikit/SimTableViewCell.hpp"
 
 class SimScrollView;
@@ -13,22 +14,37 @@ class PHRecentsCell : public SimTableViewCell {
     static void define();
 
     id initWithStyle(NSInteger style, NSString reuseIdentifier);
-    /// The recent call that the row shows.
+    /// The recent call that the row shows, a PHRecentCall or nil.
     NSObject call() const { return call_; }
     void setCall(NSObject call);
-    /// What the row says; nil texts are left out.
-    void show(NSString name, NSString label, NSString date);
+    /// Any second of the day that counts as today, since 1970; none: the date is left out.
+    void setToday(std::optional<double> seconds) { today_ = seconds; }
+    UIView infoButton() const { return infoButton_; }
 
+    /// The line under the name gets its text here, on every layout.
     void layoutSubviews();
     void setEditingAnimated(bool editing, bool animated);
     /// The system's own choice of where a swipe comes to rest stands.
     void scrollViewWillEndDragging(SimScrollView *scrollView, CGPoint velocity, CGPoint *target);
 
   private:
+    void showCall(const PHRecentCall &call);
+    void placeParts();
+
     objc::Owned<UILabel> callerNameLabel_;
     objc::Owned<UILabel> callerLabelLabel_;
     objc::Owned<UILabel> callerDateLabel_;
     objc::Owned<NSObject> call_;
+    objc::Owned<UIView> infoButton_;
+    objc::Owned<UIImageView> outgoingGlyph_;
+    std::optional<double> today_;
 };
+
+/// A caller in words: the contact or the number as the telephone writes it, and what stands below.
+struct CallerTexts {
+    std::string name;
+    std::string label;
+};
+CallerTexts callerTexts(const PHRecentCall &call);
 
 }  // namespace phone

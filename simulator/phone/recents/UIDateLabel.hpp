@@ -10,11 +10,18 @@ class UIDateLabel : public SimLabel {
   public:
     static void define();
 
-    /// "上午" or "下午"; may be nil or empty. It is not part of the text.
+    /// "上午" or "下午"; may be nil or empty. It is shown in front of the text, of which it is no
+    /// part.
     NSString timeDesignator() const { return timeDesignator_; }
     void setTimeDesignator(NSString designator);
 
+    CGSize sizeThatFits(CGSize room) const;
+    CGSize intrinsicContentSize() const { return sizeThatFits({}); }
+    void drawTextInRect(CGRect within);
+
   private:
+    NSString shownText() const;
+
     objc::Owned<NSString> timeDesignator_;
 };
 

@@ -3,18 +3,6 @@
 
 #include "platform/CoreGraphics.hpp"
 
-struct UIEdgeInsets {
-    CGFloat top, left, bottom, right;
-    bool operator==(const UIEdgeInsets &) const = default;
-};
-
-template <>
-struct objc::StructEncoding<UIEdgeInsets> {
-    static constexpr auto text = objc::Text("{UIEdgeInsets=") + objc::kFloatEncoding +
-                                 objc::kFloatEncoding + objc::kFloatEncoding +
-                                 objc::kFloatEncoding + objc::Text("}");
-};
-
 namespace sim {
 
 using Point = CGPoint;

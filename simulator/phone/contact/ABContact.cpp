@@ -1,0 +1,69 @@
+// Persons of the detail view and their numbers.
+#include "phone/contact/ABContact.hpp"
+
+#include "uikit/Foundation.hpp"
+#include "uikit/Registration.hpp"
+
+namespace phone {
+namespace {
+
+/// A telephone number as an object.
+class PhoneNumberValue : public objc::Instance {
+  public:
+    NSString formatted() const { return formatted_; }
+    void setFormatted(NSString text) { formatted_ = sim::copied(text); }
+
+  private:
+    objc::Owned<NSString> formatted_;
+};
+
+template <class T>
+objc::Owned<NSObject> owned(T *made) {
+    return objc::Owned<NSObject>::adopt(NSObject(*made));
+}
+
+}  // namespace
+
+void ABContactNumber::define() {
+    using objc::member;
+    sim::defined("ABPhoneNumberValue",
+                 objc::ClassBuilder<PhoneNumberValue>("ABPhoneNumberValue", "NSObject")
+                     .method("formattedStringValue"_sel, member<&PhoneNumberValue::formatted>)
+                     .finish());
+    sim::defined("ABContactNumber",
+                 objc::ClassBuilder<ABContactNumber>("ABContactNumber", "NSObject")
+                     .method("label"_sel, member<&ABContactNumber::label>)
+                     .method("value"_sel, member<&ABContactNumber::value>)
+                     .finish());
+}
+
+objc::Owned<NSObject> ABContactNumber::make(NSString label, NSString formatted) {
+    auto *const value = objc::make<PhoneNumberValue>();
+    value->setFormatted(formatted);
+    auto *const number = objc::make<ABContactNumber>();
+    number->label_ = sim::copied(label);
+    number->value_ = owned(value);
+    return owned(number);
+}
+
+void ABContact::define() {
+    using objc::member;
+    using Self = ABContact;
+    sim::defined("ABContact", objc::ClassBuilder<Self>("ABContact", "NSObject")
+                                  .method("recordID"_sel, member<&Self::recordID>)
+                                  .method("name"_sel, member<&Self::name>)
+                                  .method("tagline"_sel, member<&Self::tagline>)
+                                  .method("phoneNumbers"_sel, member<&Self::phoneNumbers>)
+                                  .finish());
+}
+
+objc::Owned<NSObject> ABContact::make(const Facts &facts) {
+    auto *const contact = objc::make<ABContact>();
+    contact->recordId_ = facts.recordId;
+    contact->name_ = sim::copied(facts.name);
+    contact->tagline_ = sim::copied(facts.tagline);
+    contact->phoneNumbers_ = objc::Owned<NSArray>::share(facts.phoneNumbers);
+    return owned(contact);
+}
+
+}  // namespace phone

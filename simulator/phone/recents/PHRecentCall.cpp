@@ -1,0 +1,98 @@
+// Calls of the recents list, one class for each generation of the system.
+#include "phone/recents/PHRecentCall.hpp"
+
+#include "phone/Parts.hpp"
+#include "uikit/Device.hpp"
+#include "uikit/Foundation.hpp"
+#include "uikit/Registration.hpp"
+
+namespace phone {
+namespace {
+
+// The same object under the names that a system knows it by.
+class CallBefore8 : public PHRecentCall {};
+class CallFrom8 : public PHRecentCall {};
+
+enum Status : int32_t { Answered = 1, Dialled = 2, Missed = 8 };
+
+template <class T>
+PHRecentCall *make() {
+    return objc::make<T>();
+}
+
+}  // namespace
+
+void PHRecentCall::define() {
+    using objc::member;
+    using Self = PHRecentCall;
+    sim::defined("PHRecentCall", objc::ClassBuilder<Self>("PHRecentCall", "NSObject")
+                                     .method("date"_sel, member<&Self::date>)
+                                     .finish());
+    sim::defined("PHRecentCallBefore8",
+                 objc::ClassBuilder<CallBefore8>("PHRecentCallBefore8", "PHRecentCall")
+                     .method("type"_sel, member<&Self::status>)
+                     .method("destination"_sel, member<&Self::number>)
+                     .method("addressBookRecord"_sel, member<&Self::addressBookRecord>)
+                     .method("addressBookDestination"_sel, member<&Self::addressBookRecord>)
+                     .finish());
+    sim::defined("PHRecentCallFrom8",
+                 objc::ClassBuilder<CallFrom8>("PHRecentCallFrom8", "PHRecentCall")
+                     .method("callStatus"_sel, member<&Self::status>)
+                     .method("callerId"_sel, member<&Self::number>)
+                     .method("addressBookRecordId"_sel, member<&Self::addressBookRecordId>)
+                     .finish());
+}
+
+objc::Owned<NSObject> PHRecentCall::create(const RecentCallFacts &facts) {
+    ContactBook &book = ContactBook::shared();
+    if (!facts.name.empty() && !facts.number.empty() && book.owner(facts.number) == nullptr) {
+        book.add({facts.name, {{facts.number, facts.label}}});
+    }
+    PHRecentCall *const call =
+        sim::Device::current().isAtLeast(8, 0) ? make<CallFrom8>() : make<CallBefore8>();
+    call->facts_ = facts;
+    return objc::Owned<NSObject>::adopt(NSObject(*call));
+}
+
+NSDate PHRecentCall::date() const {
+    return facts_.date ? objc::send<NSDate(double)>(
+                             "NSDate"_cls, "dateWithTimeIntervalSince1970:"_sel, *facts_.date)
+                       : NSDate();
+}
+
+NSString PHRecentCall::number() const {
+    return facts_.number.empty() ? NSString() : sim::string(facts_.number);
+}
+
+int32_t PHRecentCall::status() const {
+    if (!facts_.incoming) {
+        return Dialled;
+    }
+    return facts_.answered ? Answered : Missed;
+}
+
+int32_t PHRecentCall::addressBookRecordId() const {
+    const Contact *const known = contact();
+    return known != nullptr ? known->recordId : 0;
+}
+
+NSObject PHRecentCall::addressBookRecord() const {
+    const Contact *const known = contact();
+    if (known == nullptr) {
+        return {};
+    }
+    std::vector<id> values;
+    std::vector<id> labels;
+    for (const ContactNumber &entry : known->numbers) {
+        values.push_back(sim::string(entry.number));
+        labels.push_back(sim::string(entry.label));
+    }
+    const auto phones = makeRecord("ABMultiValueRecord", "initWithValues:labels:"_sel,
+                                   sim::array(std::span<const id>(values)),
+                                   sim::array(std::span<const id>(labels)));
+    return makeRecord("ABPersonRecord", "initWithName:phones:"_sel, sim::string(known->name),
+                      phones.get())
+        .autorelease();
+}
+
+}  // namespace phone

@@ -1,0 +1,43 @@
+// Messages that objects ask to be sent later with performSelector:withObject:afterDelay:.
+// Foundation counts such a delay in real seconds; here it counts those of the simulation, so that
+// whatever waits, in the add-on, the companion or the Phone application, waits as long as on the
+// telephone however fast the simulation runs.
+#pragma once
+
+#include <map>
+#include <optional>
+
+#include "companion/SimulatedTime.hpp"
+#include "objc/owned.hpp"
+#include "platform/Foundation.hpp"
+
+namespace stage {
+
+/// For the main thread alone. A request cannot be taken back.
+class DelayedMessages {
+  public:
+    using Moment = companion::SimulatedTime::Duration;
+
+    /// The ones of the process, which is from the first use on where such requests go.
+    static DelayedMessages &shared();
+
+    /// When the next message is to be sent; nothing when none is waiting.
+    std::optional<Moment> next() const;
+    /// Sends what is due, in the order of moments, then of requests.
+    void sendDue(Moment now);
+    void forgetAll() { waiting_.clear(); }
+
+  private:
+    struct Message {
+        objc::Owned<NSObject> target;
+        SEL selector;
+        objc::Owned<NSObject> argument;
+    };
+
+    DelayedMessages();
+    static void take(id target, SEL command, SEL selector, id argument, double seconds);
+
+    std::multimap<Moment, Message> waiting_;
+};
+
+}  // namespace stage

@@ -1,0 +1,81 @@
+// UITableViewCell under a finger that swipes it, as iOS 7 has it: the content and, right of it, the
+// delete confirmation lie in the cell's scroll view and move with its offset.
+#include <algorithm>
+
+#include "uikit/Foundation.hpp"
+#include "uikit/SimDeleteConfirmation.hpp"
+#include "uikit/SimTableView.hpp"
+#include "uikit/SimTableViewCell.hpp"
+
+using sim::handle;
+
+namespace {
+
+constexpr NSInteger kDeleteStyle = 1;
+
+void setRightInset(SimScrollView *view, CGFloat points) {
+    UIEdgeInsets inset = view->contentInset();
+    inset.right = points;
+    view->setContentInset(inset);
+}
+
+}  // namespace
+
+bool SimTableViewCell::beginSwipe() {
+    if (isSwiped()) {
+        return true;
+    }
+    if (!scrollView_ || editing_) {
+        return false;
+    }
+    confirmation_ = SimDeleteConfirmationView::make(bounds().size, handle<NSObject>(this));
+    scrollView_->addSubview(confirmation_);
+    objc::send<void(bool, bool)>(id(*this), "setEditing:animated:"_sel, true, true);
+    return true;
+}
+
+void SimTableViewCell::dragSwipeTo(CGFloat points) {
+    constexpr CGFloat kStep = 8;
+    const CGFloat end = isSwiped() ? std::max<CGFloat>(points, 0) : 0;
+    CGFloat x = isSwiped() ? scrollView()->contentOffset().x : 0;
+    while (x != end) {
+        x = end > x ? std::min(end, x + kStep) : std::max(end, x - kStep);
+        objc::send<void(CGPoint)>(scrollView_, "setContentOffset:"_sel, CGPoint{x, 0});
+        objc::send<void()>(id(*this), "layoutIfNeeded"_sel);
+    }
+}
+
+void SimTableViewCell::endSwipe(CGFloat velocity) {
+    if (!isSwiped()) {
+        return;
+    }
+    const CGFloat width = swipeWidth();
+    const bool halfOpen = scrollView()->contentOffset().x >= width / 2;
+    const bool staysOpen = velocity > 0 || (velocity == 0 && halfOpen);
+    setRightInset(scrollView(), staysOpen ? width : 0);
+    scrollView()->endDragging({velocity, 0}, {staysOpen ? width : 0, 0});
+    if (scrollView()->contentOffset().x <= 0) {
+        closeSwipe();
+    }
+}
+
+void SimTableViewCell::closeSwipe() {
+    if (!isSwiped()) {
+        return;
+    }
+    setRightInset(scrollView(), 0);
+    objc::send<void(CGPoint)>(scrollView_, "setContentOffset:"_sel, CGPoint{});
+    const auto confirmation = std::exchange(confirmation_, {});
+    confirmation->removeFromSuperview();
+    objc::send<void(bool, bool)>(id(*this), "setEditing:animated:"_sel, false, true);
+}
+
+void SimTableViewCell::deletePressed(NSObject) {
+    constexpr auto kCommit = "tableView:commitEditingStyle:forRowAtIndexPath:"_sel;
+    SimTableView *const owner = table();
+    const NSObject source = owner != nullptr ? owner->dataSource() : NSObject();
+    if (source != nullptr && source.respondsToSelector(kCommit)) {
+        objc::send<void(SimTableView *, NSInteger, NSObject)>(source, kCommit, owner, kDeleteStyle,
+                                                              owner->indexPathForCell(this));
+    }
+}
