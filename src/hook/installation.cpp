@@ -8,7 +8,9 @@
 #include "hook/table.hpp"
 #include "identity/ZQDialCloudQueryService.hpp"
 #include "incall/ZQDialWaitUIHook.hpp"
-#include "recents/ZQSystemCallHistoryViewHook.hpp"
+#include "recents/GroupButton.hpp"
+#include "recents/ZQSystemCallHistoryClassHelper.hpp"
+#include "recents/view_methods.hpp"
 
 namespace hook {
 namespace {
@@ -44,7 +46,9 @@ void registerClasses() {
     ZQDialWaitUIHook::define()
         .classMethod("initializeHook"_sel, function<&initializeInCallHook>)
         .finish();
-    ZQSystemCallHistoryViewHook::define()
+    ZQSystemCallHistoryClassHelper::define().finish();
+    GroupButton::define().finish();
+    recents::withViewMethods(ZQSystemCallHistoryViewHook::define())
         .classMethod("InitializeHook"_sel, function<&initializeRecentsHook>)
         .finish();
 }

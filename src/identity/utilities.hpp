@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/UIKit.hpp"
+#include "platform/format.hpp"
 
 class ZQUIUtil : public NSObject {
   public:
@@ -75,3 +76,8 @@ class ZQStringHelper : public NSObject {
                                               text);
     }
 };
+
+/// A picture of the companion application's resources; nil when it is missing.
+inline UIImage resourceImage(NSString fileName) {
+    return UIImage::withContentsOfFile(format<"%@/%@">(ZQPhoneUtil::getAppResourceDir(), fileName));
+}

@@ -1,13 +1,7 @@
 // The views that the add-on adds to the in-call displays.
 #include "incall/added_views.hpp"
 
-#include "platform/format.hpp"
-
 namespace incall {
-
-UIImage resourceImage(NSString fileName) {
-    return UIImage::withContentsOfFile(format<"%@/%@">(ZQPhoneUtil::getAppResourceDir(), fileName));
-}
 
 void addDescriptionLabel(UIView parent, CGRect frame, Tag tag) {
     const auto label = withFrame<UILabel>(frame);

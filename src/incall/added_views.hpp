@@ -26,9 +26,6 @@ enum Tag : NSInteger {
 
 inline constexpr CGFloat kFontSize = 14;
 
-/// A file of the companion application's resources; nil when it is missing.
-UIImage resourceImage(NSString fileName);
-
 /// White, centred and clear behind.
 void addDescriptionLabel(UIView parent, CGRect frame, Tag tag);
 /// The small green icon beside a description. Owned by the pool as well, in case `parent` is nil.

@@ -95,32 +95,73 @@ class TPWallpaperView : public UIView {
     using UIView::UIView;
 };
 
+// Both know the table of recent calls, each on its own systems; nil where there is none.
 class PhoneViewController : public NSObject {
   public:
     using NSObject::NSObject;
+    UITableView table() const { return objc::read<UITableView>(*this, "_table"_ivar); }
 };
 
 class PHRecentsViewController : public NSObject {
   public:
     using NSObject::NSObject;
+    UITableView table() const { return objc::read<UITableView>(*this, "_table"_ivar); }
+};
+
+/// The label with a call's date or time of day.
+class PHRecentsDateLabel : public UILabel {
+  public:
+    using UILabel::UILabel;
+    /// "AM", "下午"; empty or nil on a 24-hour clock.
+    NSString timeDesignator() const { return send<NSString()>("timeDesignator"_sel); }
 };
 
 class PHRecentsCell : public UIView {
   public:
     using UIView::UIView;
+    /// The row's recent call, an object of the Phone application's own.
+    NSObject call() const { return send<NSObject()>("call"_sel); }
+    UIView contentView() const { return send<UIView()>("contentView"_sel); }
+    /// The line under the name.
+    UILabel callerLabel() const { return objc::read<UILabel>(*this, "_callerLabelLabel"_ivar); }
+    PHRecentsDateLabel dateLabel() const {
+        return objc::read<PHRecentsDateLabel>(*this, "_callerDateLabel"_ivar);
+    }
+};
+
+class UITableViewCellScrollView : public UIScrollView {
+  public:
+    using UIScrollView::UIScrollView;
+};
+
+/// The contact whose details are shown; one made up for a stranger's number has no record.
+class ABContact : public NSObject {
+  public:
+    using NSObject::NSObject;
+    bool isStranger() const { return send<int32_t()>("recordID"_sel) < 0; }
+    /// Entries that answer `value`, which answers `formattedStringValue`.
+    NSArray phoneNumbers() const { return send<NSArray()>("phoneNumbers"_sel); }
 };
 
 class ABContactViewController : public NSObject {
   public:
     using NSObject::NSObject;
+    ABContact contact() const { return objc::read<ABContact>(*this, "_contact"_ivar); }
+    /// The contact of the view that is shown.
+    ABContact shownContact() const {
+        return objc::send<ABContact()>(send<NSObject()>("contactView"_sel), "contact"_sel);
+    }
 };
 
 class ABContactHeaderView : public UIView {
   public:
     using UIView::UIView;
-};
-
-class UITableViewCellScrollView : public UIView {
-  public:
-    using UIView::UIView;
+    bool isEditing() const { return send<bool()>("isEditing"_sel); }
+    ABContact contact() const { return objc::read<ABContact>(*this, "_contact"_ivar); }
+    UILabel taglineLabel() const { return objc::read<UILabel>(*this, "_taglineLabel"_ivar); }
+    UIView personHeaderView() const { return objc::read<UIView>(*this, "_personHeaderView"_ivar); }
+    UILabel nameLabel() const { return objc::read<UILabel>(*this, "_nameLabel"_ivar); }
+    void layoutSublayers() const {
+        send<void(NSObject)>("layoutSublayersOfLayer:"_sel, send<NSObject()>("layer"_sel));
+    }
 };

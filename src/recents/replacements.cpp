@@ -1,63 +1,144 @@
-// The recents list, the detail header and the swipe menu are hooked, but left as the Phone
-// application has them: every replacement calls through.
+// The replaced methods of the recents list, the detail header and the swipe menu.
 #include "recents/replacements.hpp"
+
+#include "identity/companion.hpp"
+#include "objc/silently.hpp"
+#include "recents/cell.hpp"
+#include "recents/detail_header.hpp"
+#include "recents/lookup_context.hpp"
+#include "recents/recent_call.hpp"
+#include "recents/swipe_menu.hpp"
+
+namespace {
+
+using objc::silently;
+
+/// Rows that are laid out again show what has become known meanwhile.
+void reload(UITableView table) {
+    silently([&] { table.reloadData(); });
+}
+
+/// Opens or shuts the swiped row.
+void settle(UIScrollView scrollView, CGPoint *target) {
+    if (recents::isListEditing()) {
+        return;
+    }
+    const recents::Settling settling = recents::settleSwipe(scrollView);
+    if (settling.staysOpen) {
+        UIEdgeInsets inset = scrollView.contentInset();
+        inset.right = settling.rightInset;
+        scrollView.setContentInset(inset);
+    }
+    if (target) {
+        *target = settling.target;
+    }
+}
+
+}  // namespace
 
 void replace_PHRecentsViewController_viewWillAppear_(PHRecentsViewController self, SEL selector,
                                                      BOOL animated) {
     saved_PHRecentsViewController_viewWillAppear_(self, selector, animated);
+    reload(self.table());
 }
 
 void replace_PhoneViewController_viewWillAppear_(PhoneViewController self, SEL selector,
                                                  BOOL animated) {
     saved_PhoneViewController_viewWillAppear_(self, selector, animated);
+    reload(self.table());
 }
 
 void replace_PHRecentsCell_layoutSubviews(PHRecentsCell self, SEL selector) {
     saved_PHRecentsCell_layoutSubviews(self, selector);
+    if (!silently([&] { recents::layOutCell(self); })) {
+        silently([&] { recents::hideLine(self); });
+    }
 }
 
 id replace_PHRecentsViewController_showCallDetail_animate_(PHRecentsViewController self,
                                                            SEL selector, NSObject call,
                                                            BOOL animate) {
+    silently([&] { recents::setCurrentRecordDate(recents::RecentCall(call).date()); });
     return saved_PHRecentsViewController_showCallDetail_animate_(self, selector, call, animate);
 }
 
 CGFloat replace_ABContactViewController_tableView_heightForHeaderInSection_(
     ABContactViewController self, SEL selector, UIView tableView, NSInteger section) {
-    return saved_ABContactViewController_tableView_heightForHeaderInSection_(self, selector,
-                                                                             tableView, section);
+    CGFloat height = 0;
+    bool isOurs = false;
+    silently([&] {
+        if (recents::hasHeader(self, section)) {
+            recents::updatePhoneNumber(self);
+            height = recents::headerViewHeight();
+            isOurs = true;
+        }
+    });
+    return isOurs ? height
+                  : saved_ABContactViewController_tableView_heightForHeaderInSection_(
+                        self, selector, tableView, section);
 }
 
 id replace_ABContactViewController_tableView_viewForHeaderInSection_(ABContactViewController self,
                                                                      SEL selector, UIView tableView,
                                                                      NSInteger section) {
-    return saved_ABContactViewController_tableView_viewForHeaderInSection_(self, selector,
-                                                                           tableView, section);
+    UIView spacer;
+    silently([&] {
+        if (recents::hasHeader(self, section)) {
+            spacer = recents::makeHeaderSpacer();
+        }
+    });
+    return spacer ? spacer.get()
+                  : saved_ABContactViewController_tableView_viewForHeaderInSection_(
+                        self, selector, tableView, section);
 }
 
 void replace_ABContactHeaderView_layoutSubviews(ABContactHeaderView self, SEL selector) {
     saved_ABContactHeaderView_layoutSubviews(self, selector);
+    silently([&] { recents::layOutHeader(self); });
 }
 
 void replace_PHRecentsCell_setEditing_animated_(PHRecentsCell self, SEL selector, BOOL editing,
                                                 BOOL animated) {
     saved_PHRecentsCell_setEditing_animated_(self, selector, editing, animated);
+    if (editing && !recents::isListEditing()) {
+        silently([&] { recents::rememberCall(self); });
+    }
 }
 
+// Half a second late on purpose: the rows' own messages, which the list sends while it enters or
+// leaves edit mode, still see the old state.
 void replace_PHRecentsViewController_setEditing_animated_(PHRecentsViewController self,
                                                           SEL selector, BOOL editing,
                                                           BOOL animated) {
+    silently([&] {
+        constexpr double kDelay = 0.5;  // seconds
+        objc::send<void(SEL, NSObject, double)>(
+            "ZQSystemCallHistoryViewHook"_cls, "performSelector:withObject:afterDelay:"_sel,
+            "setTableStatus:"_sel, NSNumber::withBool(editing != 0), kDelay);
+    });
     saved_PHRecentsViewController_setEditing_animated_(self, selector, editing, animated);
 }
 
 void replace_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_(
     PHRecentsCell self, SEL selector, UIView scrollView, CGPoint velocity, CGPoint *target) {
+    silently([&] { settle(scrollView.as<UIScrollView>(), target); });
     saved_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_(
         self, selector, scrollView, velocity, target);
 }
 
 void replace_UITableViewCellScrollView_setContentOffset_(UITableViewCellScrollView self,
                                                          SEL selector, CGPoint offset) {
+    silently([&] {
+        constexpr CGFloat kOpening = 1;
+        if (!ZQPhoneUtil::isLaterThanIOSVersion(7.1, true) || offset.x <= kOpening) {
+            return;
+        }
+        const UIView cell = self.superview();
+        const Class cellClass = "PHRecentsCell"_cls;
+        if (cellClass && cell.isKindOfClass(cellClass)) {
+            recents::addButtonMenu(cell.as<PHRecentsCell>());
+        }
+    });
     saved_UITableViewCellScrollView_setContentOffset_(self, selector, offset);
 }
 

@@ -1,5 +1,6 @@
 // An address book of somebody else's, with nobody in it.
 extern "C" {
+extern const int kABPersonPhoneProperty;  // or it would be this file's alone
 const int kABPersonPhoneProperty = 3;
 const void *ABRecordCopyValue(const void *, int) { return nullptr; }
 long ABMultiValueGetCount(const void *) { return 0; }

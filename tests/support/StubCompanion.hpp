@@ -53,6 +53,20 @@ struct CloudQuery {
     std::string pureNumber;
     id delegate;
 };
+/// A row's text as it was asked for.
+struct RowTextQuery {
+    std::string label;
+    int displayType;
+    NSInteger callDirection;
+    bool hasOriginal;
+    bool operator==(const RowTextQuery &) const = default;
+};
+/// A stored call as it was asked for; without a date it has none.
+struct RecordQuery {
+    std::string number;
+    std::optional<double> seconds;
+    bool operator==(const RecordQuery &) const = default;
+};
 struct WeiboFacts {
     int avatarType = 0, boundType = 0;
 };
@@ -94,6 +108,9 @@ struct StubCompanion {
     // Labels are short for identities that have nothing but a label.
     std::map<std::string, std::string> labels, areas, descriptions, mobiles;
     std::map<std::string, IdentityFacts> identities;
+    std::map<std::string, std::string> rowTexts;     // by label
+    std::map<std::string, std::string> storedCalls;  // the pure number by the number as asked for
+    std::map<std::string, std::vector<int>> histories;  // action types, by number as asked for
     std::map<int, PartnerFacts> partners;
     std::vector<std::string> contacts, blackList;
     std::map<std::string, objc::Owned<UIImage>> avatars;
@@ -111,6 +128,9 @@ struct StubCompanion {
     std::vector<Observer> observers;
     std::vector<PostedMessage> posted;  // observers hear nothing until it is delivered
     std::vector<RoundRect> roundRects;
+    std::vector<RowTextQuery> rowTextQueries;
+    std::vector<RecordQuery> recordQueries;
+    std::vector<std::string> openedLinks;
     int parsedNumbers = 0;
     int imagesAskedFor = 0;
     std::function<void()> onInitializePreferences, onParse;

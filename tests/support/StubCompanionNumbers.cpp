@@ -49,6 +49,13 @@ NSString digitNumber(NSString text) {
     return asked("getDigitNumber:") ? string(digitsOf(text)) : nullptr;
 }
 
+/// Stands for a longer rule: what is left without the first two characters, if they are "86".
+NSString trimLeading86(NSString number) {
+    const std::string text = utf8(number);
+    return asked("trimLeading86:") ? string(text.starts_with("86") ? text.substr(2) : text)
+                                   : nullptr;
+}
+
 class CallRecord : public objc::Instance {
   public:
     objc::Owned<NSString> _phoneNumber;
@@ -113,6 +120,14 @@ NSObject identityOfRecord(NSObject record, bool ignoreDiagnose, bool onlyLocal, 
                                                                     : nullptr;
 }
 
+NSString rowText(ZQNumberIdentity identity, int32_t displayType, NSInteger callDirection,
+                 NSString original) {
+    const std::string label = utf8(identity.identity());
+    stub().rowTextQueries.push_back({label, displayType, callDirection, original != nullptr});
+    return answerFor("getFormattedInfoFromNumIdentity:displayType:callDirection:originalInfo:",
+                     stub().rowTexts, label);
+}
+
 }  // namespace
 
 IdentityFacts factsOf(ZQNumberIdentity identity) {
@@ -143,6 +158,7 @@ void registerNumberClasses() {
         .finish();
     objc::ClassBuilder<Namespace<0>>("ZQPhoneNumberHelper", "NSObject")
         .classMethod("getDigitNumber:"_sel, function<&digitNumber>)
+        .classMethod("trimLeading86:"_sel, function<&trimLeading86>)
         .finish();
     objc::ClassBuilder<CallRecord>("ZQCallRecord", "NSObject")
         .method("phoneNumber"_sel, getter<&CallRecord::_phoneNumber>)
@@ -173,6 +189,8 @@ void registerNumberClasses() {
         .classMethod(
             "getIdentityOfRecord:ignoreDiagnose:onlyLocal:delegate:retryPeriod:displayType:"_sel,
             function<&identityOfRecord>)
+        .classMethod("getFormattedInfoFromNumIdentity:displayType:callDirection:originalInfo:"_sel,
+                     function<&rowText>)
         .finish();
 }
 

@@ -40,6 +40,39 @@ class CallRecordService : public objc::Instance {
         asked("insertOrUpdateNumberIdentityWithNumber:");
         stub().storedIdentities.push_back(factsOf(identity));
     }
+    ZQCallRecord record(NSString number, NSObject date) const {
+        const auto seconds = objc::send<double()>(date, "timeIntervalSince1970"_sel);
+        stub().recordQueries.push_back(
+            {utf8(number), date ? std::optional(seconds) : std::nullopt});
+        const NSString pure =
+            answerFor("getRecordForNumber:atSysDate:", stub().storedCalls, utf8(number));
+        if (!pure) {
+            return nullptr;
+        }
+        const ZQCallRecord record = objc::create<ZQCallRecord>().autorelease();
+        record.setPhoneNumber(pure);
+        return record;
+    }
+};
+
+class HistoryRecord : public objc::Instance {
+  public:
+    int32_t _actionType = 0;
+};
+
+class HistoryService : public objc::Instance {
+  public:
+    NSArray history(NSString number, NSInteger count) const {
+        const auto records = objc::send<NSArray()>("NSMutableArray"_cls, "array"_sel);
+        if (asked("getAllCallHistoryByPhoneNumber:fromRecentCalls:") && count == 100) {
+            for (const int action : stub().histories[utf8(number)]) {
+                auto *const record = objc::make<HistoryRecord>();
+                record->_actionType = action;
+                objc::send<void(NSObject)>(records, "addObject:"_sel, autoreleased(record));
+            }
+        }
+        return records;
+    }
 };
 
 class PingBackService : public objc::Instance {
@@ -110,6 +143,15 @@ void registerServiceClasses() {
     objc::ClassBuilder<CallRecordService>("ZQCallRecordService", "NSObject")
         .method("insertOrUpdateNumberIdentityWithNumber:"_sel,
                 member<&CallRecordService::insertOrUpdate>)
+        .method("getRecordForNumber:atSysDate:"_sel, member<&CallRecordService::record>)
+        .finish();
+    objc::ClassBuilder<HistoryRecord>("ZQSystemHistoryRecord", "NSObject")
+        .method("actionType"_sel, getter<&HistoryRecord::_actionType>)
+        .finish();
+    objc::ClassBuilder<HistoryService>("ZQSystemHistoryService", "NSObject")
+        .method("getAllCallHistoryByPhoneNumber:fromRecentCalls:"_sel,
+                member<&HistoryService::history>)
+        .classMethod("defaultService"_sel, function<&onlyOneIfAny<HistoryService>>)
         .finish();
     objc::ClassBuilder<PingBackService>("ZQPingBackService", "NSObject")
         .method("asyncDoPingBackCount:immediately:"_sel, member<&PingBackService::count>)

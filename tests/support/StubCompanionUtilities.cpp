@@ -20,6 +20,11 @@ NSObject imageWithName(NSString) {
     return nullptr;
 }
 
+void openUrl(NSString url) {
+    asked("systemOpenUrl:");
+    stub().openedLinks.push_back(utf8(url));
+}
+
 NSObject color(double red, double green, double blue, double alpha) {
     if (stub().knowsNothing) {
         return nullptr;
@@ -73,6 +78,7 @@ void registerUtilityClasses() {
         .classMethod("isScreen35Inch"_sel, function<&isScreen35Inch>)
         .classMethod("getAppResourceDir"_sel, function<&resourceDir>)
         .classMethod("getImageWithName:"_sel, function<&imageWithName>)
+        .classMethod("systemOpenUrl:"_sel, function<&openUrl>)
         .finish();
     objc::ClassBuilder<Namespace<5>>("ZQUIUtil", "NSObject")
         .classMethod("getFormattedColorWithRed:green:blue:alpha:"_sel, function<&color>)

@@ -1,0 +1,30 @@
+// ZQGroupButton: one button of a row whose outer corners are rounded as a whole.
+#pragma once
+
+#include "objc/class_builder.hpp"
+#include "platform/UIKit.hpp"
+
+class GroupButton : public objc::Instance {
+  public:
+    static objc::ClassBuilder<GroupButton> define();
+
+    /// To be called once the button has its frame. Each call adds an icon; a nil one is an empty
+    /// view.
+    void setIcon(UIImage icon, NSString title) const;
+    /// Which part of its row the button is: 1 left, 2 middle, 3 right, any other all of it.
+    void setBackgroundImage(NSInteger part) const;
+};
+
+/// The same from outside; nil takes no notice.
+class ZQGroupButton : public UIButton {
+  public:
+    using UIButton::UIButton;
+    static Class classObject() { return "ZQGroupButton"_cls; }
+
+    void setIcon(UIImage icon, NSString title) const {
+        send<void(UIImage, NSString)>("setIcon:title:"_sel, icon, title);
+    }
+    void setBackgroundImage(NSInteger part) const {
+        send<void(NSInteger)>("setBackgroundImageWithButtonIndex:"_sel, part);
+    }
+};

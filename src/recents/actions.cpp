@@ -1,0 +1,93 @@
+// What the user may do with a number.
+#include "recents/actions.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "platform/format.hpp"
+#include "recents/history_description.hpp"
+#include "recents/lookup_context.hpp"
+#include "recents/recent_call.hpp"
+
+// Whoever runs a search service names its host when building.
+#ifndef ZQDIAL_SEARCH_HOST
+#define ZQDIAL_SEARCH_HOST "m.zequor.example"
+#endif
+
+namespace recents {
+namespace {
+
+/// Whether one of the number's calls in the companion's history may be marked.
+bool hasMarkableCall(NSString number) {
+    constexpr NSInteger kMostCalls = 100;
+    constexpr int32_t kUnmarkable = 1;
+    const NSArray calls =
+        ZQSystemHistoryService::defaultService().getAllCallHistoryByPhoneNumber(number, kMostCalls);
+    const NSUInteger count = calls.count();
+    for (NSUInteger i = 0; i < count; ++i) {
+        if (calls.objectAtIndex(i).as<ZQHistoryRecord>().actionType() != kUnmarkable) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Toward zero. What an int32_t cannot hold becomes its nearest end and what is no number 0, as the
+/// device's processors convert.
+int32_t wholeSeconds(double seconds) {
+    constexpr double kLeast = std::numeric_limits<int32_t>::min();
+    constexpr double kMost = std::numeric_limits<int32_t>::max();
+    return std::isnan(seconds) ? 0 : static_cast<int32_t>(std::clamp(seconds, kLeast, kMost));
+}
+
+void open(NSString link) {
+    if (link) {
+        ZQPhoneUtil::systemOpenUrl(link);
+    }
+}
+
+}  // namespace
+
+OfferedActions offeredActions(ZQNumberIdentity identity) {
+    const bool mark = hasMarkableCall(phonePureNumber());
+    if (!identity) {
+        return {.correct = false, .mark = mark};
+    }
+    if (identity.type() == IdentityKind::Region) {
+        return {};
+    }
+    if (isSearchResult(identity)) {
+        return {.correct = true, .mark = false};
+    }
+    return {.correct = isCloudMark(identity) || isBrand(identity), .mark = mark};
+}
+
+NSString correctLink(NSString number) { return format<"zequor://errorCorrect?%@/">(number); }
+
+NSString markLink(NSString number, double seconds) {
+    return format<"zequor://mark?%@/%d">(number, wholeSeconds(seconds));
+}
+
+NSString searchLink(NSString number) {
+    if (number.length() == 0) {
+        return nullptr;
+    }
+    constexpr NSUInteger kAscii = 1;
+    const NSString digits =
+        ZQPhoneNumberHelper::getDigitNumber(ZQPhoneNumberHelper::trimLeading86(number));
+    const auto keyword = objc::send<NSString(NSUInteger)>(
+        digits, "stringByAddingPercentEscapesUsingEncoding:"_sel, kAscii);
+    return keyword ? format<"http://" ZQDIAL_SEARCH_HOST
+                            "/web/searchList.jsp?uID=q-R-MwzzPa7KLcdE&v=5&w=1278&t=1368328313424"
+                            "&keyword=%@&pg=webSearchList&s=">(keyword)
+                   : nullptr;
+}
+
+void openCorrectLink() { open(correctLink(phonePureNumber())); }
+
+void openMarkLink() { open(markLink(phonePureNumber(), secondsSince1970(currentRecordDate()))); }
+
+void openSearchLink() { open(searchLink(phonePureNumber())); }
+
+}  // namespace recents

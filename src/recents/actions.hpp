@@ -1,0 +1,32 @@
+// What the user may do with a number: correct what is said of it, mark it, search the web for it.
+// The swipe menu and the detail header offer the same.
+#pragma once
+
+#include "identity/companion.hpp"
+
+namespace recents {
+
+struct OfferedActions {
+    bool correct = false;
+    bool mark = false;
+    bool operator==(const OfferedActions &) const = default;
+};
+
+/// Of the lookup context's number, whose identity that is, or nil.
+OfferedActions offeredActions(ZQNumberIdentity identity);
+
+// The links that carry an action out: the first two lead into the companion application.
+
+NSString correctLink(NSString number);
+/// `seconds` is when the call was, since 1970.
+NSString markLink(NSString number, double seconds);
+/// Nil for a number that is nil or empty, or has no digits that a link can carry.
+NSString searchLink(NSString number);
+
+// For the lookup context's number and call. A link that there is not is not opened.
+
+void openCorrectLink();
+void openMarkLink();
+void openSearchLink();
+
+}  // namespace recents

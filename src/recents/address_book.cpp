@@ -1,0 +1,80 @@
+// Numbers of the address book's people.
+#include "recents/address_book.hpp"
+
+#include "identity/companion.hpp"
+#include "objc/silently.hpp"
+#include "platform/AddressBook.hpp"
+
+namespace recents {
+namespace {
+
+NSObject valueForKey(NSObject object, NSString key) {
+    return objc::send<NSObject(NSString)>(object, "valueForKey:"_sel, key);
+}
+
+/// Null for nobody.
+AddressBookCopy phoneValues(const void *person) {
+    return AddressBookCopy(person ? ABRecordCopyValue(person, kABPersonPhoneProperty) : nullptr);
+}
+
+bool areDifferent(const AddressBookCopy &texts) {
+    const auto distinct = objc::create<NSMutableSet>();
+    const NSInteger count = texts ? CFArrayGetCount(texts.get()) : 0;
+    for (NSInteger i = 0; i < count; ++i) {
+        if (const NSObject value = objectOf(CFArrayGetValueAtIndex(texts.get(), i))) {
+            distinct->addObject(value);
+        }
+    }
+    return distinct->count() > 1;
+}
+
+NSString firstNumberOf(const void *person) {
+    const AddressBookCopy values = phoneValues(person);
+    const NSInteger count = values ? ABMultiValueGetCount(values.get()) : 0;
+    for (NSInteger i = 0; i < count; ++i) {
+        const AddressBookCopy value(ABMultiValueCopyValueAtIndex(values.get(), i));
+        const NSString number = asText(objectOf(value.get()));
+        if (number.length() != 0) {
+            return number.copy().autorelease();
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+bool contactHasMoreThanOneNumber(RecentCall call) {
+    const NSString number = call.number();
+    if (!number) {
+        return false;
+    }
+    const auto parsed = ZQPhoneNumber::parsed(number);
+    const void *const person =
+        ZQContactService::currentService().getPersonWithRecordID(parsed->pureNumber());
+    const AddressBookCopy values = phoneValues(person);
+    if (!values || ABMultiValueGetCount(values.get()) < 2) {
+        return false;
+    }
+    return areDifferent(AddressBookCopy(ABMultiValueCopyArrayOfAllValues(values.get())));
+}
+
+bool isPersonTableDataSource(NSObject dataSource) {
+    bool isOne = false;
+    objc::silently([&] {
+        isOne = valueForKey(dataSource, "personHeaderView"_ns) &&
+                !boolOf(valueForKey(dataSource, "allowsEditing"_ns));
+    });
+    return isOne;
+}
+
+NSString firstNumberIn(NSObject dataSource) {
+    const auto people = valueForKey(dataSource, "people"_ns).as<NSArray>();
+    for (NSUInteger i = 0, count = people.count(); i < count; ++i) {
+        if (const NSString number = firstNumberOf(people.objectAtIndex(i).get())) {
+            return number;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace recents

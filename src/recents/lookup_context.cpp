@@ -1,0 +1,28 @@
+// The call and the number that the recents screen is about.
+#include "recents/lookup_context.hpp"
+
+#include <utility>
+
+namespace recents {
+namespace {
+
+// Plain handles that hold a reference each: an Owned here would ask for code at load.
+constinit NSDate g_currentRecordDate;
+constinit NSString g_phonePureNumber;
+
+/// The copy comes first: `value` may be what the variable holds.
+template <class T>
+void keepCopy(T &variable, T value) {
+    auto copy = objc::Owned<T>::adopt(objc::send<T()>(value, "copy"_sel));
+    const auto old = objc::Owned<T>::adopt(std::exchange(variable, copy.leak()));
+}
+
+}  // namespace
+
+NSDate currentRecordDate() { return g_currentRecordDate; }
+void setCurrentRecordDate(NSDate date) { keepCopy(g_currentRecordDate, date); }
+
+NSString phonePureNumber() { return g_phonePureNumber; }
+void setPhonePureNumber(NSString number) { keepCopy(g_phonePureNumber, number); }
+
+}  // namespace recents
