@@ -3,6 +3,7 @@
 
 #include "identity/ZQDialCloudQueryService.hpp"
 #include "platform/format.hpp"
+#include "platform/two_tones.hpp"
 
 namespace incall {
 namespace {
@@ -88,12 +89,6 @@ NSString shortened(NSString text, NSUInteger separatorIndex) {
     return format<"%@... %@">(head.substringToIndex(kKept), tail);
 }
 
-void paint(NSMutableAttributedString text, UIColor color, NSRange range) {
-    if (color) {
-        text.addAttribute(NSString(NSForegroundColorAttributeName), color, range);
-    }
-}
-
 }  // namespace
 
 Description describe(NSString number, const CallSlots &calls) {
@@ -138,13 +133,8 @@ objc::Owned<NSMutableAttributedString> twoToned(NSString text) {
     if (firstSeparator == kNotFound) {
         return {};
     }
-    const NSString shown = shortened(text, firstSeparator);
-    const NSUInteger split = shown.indexOf(separator());
-    auto painted = objc::create<NSMutableAttributedString(NSString)>("initWithString:"_sel, shown);
-    paint(painted, UIColor::whiteColor(), {0, split});
-    paint(painted, ZQUIUtil::getFormattedColor(255, 255, 255, 0.5),
-          {split, shown.length() - split});
-    return painted;
+    return inTwoTones(shortened(text, firstSeparator), separator(), UIColor::whiteColor(),
+                      ZQUIUtil::getFormattedColor(255, 255, 255, 0.5));
 }
 
 }  // namespace incall

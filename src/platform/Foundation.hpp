@@ -190,6 +190,8 @@ class NSDate : public NSObject {
   public:
     using NSObject::NSObject;
     static Class classObject() { return "NSDate"_cls; }
+    /// 0 for nil.
+    double secondsSince1970() const { return send<double()>("timeIntervalSince1970"_sel); }
 };
 
 class NSNotification : public NSObject {

@@ -191,9 +191,11 @@ inline constexpr NSInteger kUsesLineFragmentOrigin = 1;
 /// NSStringDrawingTruncatesLastVisibleLine
 inline constexpr NSInteger kTruncatesLastVisibleLine = 32;
 
-/// How wide `text` is within `room`, set in that font; a nil text has no width.
+/// How wide `text` is within `room`, set in that font, or the system's own where there is none; a
+/// nil text has no width.
 inline CGFloat boundingWidth(NSString text, UIFont font, CGSize room, NSInteger options) {
-    const auto attributes = NSDictionary::withObject(font, NSObject(NSFontAttributeName));
+    const auto attributes =
+        font ? NSDictionary::withObject(font, NSObject(NSFontAttributeName)) : NSDictionary();
     return objc::send<CGRect(CGSize, NSInteger, NSDictionary, NSObject)>(
                text, "boundingRectWithSize:options:attributes:context:"_sel, room, options,
                attributes, nullptr)

@@ -85,7 +85,7 @@ void ZQSystemCallHistoryViewHook::onReloadCacheNotification(NSObject /*message*/
 }
 
 NSString ZQSystemCallHistoryViewHook::getInfo(RecentCall call) const {
-    const double seconds = recents::secondsSince1970(call.date());
+    const double seconds = call.date().secondsSince1970();
     const NSString number = call.ownNumber();
     if (!number) {
         return nullptr;

@@ -63,10 +63,12 @@ OfferedActions offeredActions(ZQNumberIdentity identity) {
     return {.correct = isCloudMark(identity) || isBrand(identity), .mark = mark};
 }
 
-NSString correctLink(NSString number) { return format<"zequor://errorCorrect?%@/">(number); }
+NSString correctLink(NSString number) {
+    return number ? format<"zequor://errorCorrect?%@/">(number) : nullptr;
+}
 
 NSString markLink(NSString number, double seconds) {
-    return format<"zequor://mark?%@/%d">(number, wholeSeconds(seconds));
+    return number ? format<"zequor://mark?%@/%d">(number, wholeSeconds(seconds)) : nullptr;
 }
 
 NSString searchLink(NSString number) {
@@ -86,7 +88,7 @@ NSString searchLink(NSString number) {
 
 void openCorrectLink() { open(correctLink(phonePureNumber())); }
 
-void openMarkLink() { open(markLink(phonePureNumber(), secondsSince1970(currentRecordDate()))); }
+void openMarkLink() { open(markLink(phonePureNumber(), currentRecordDate().secondsSince1970())); }
 
 void openSearchLink() { open(searchLink(phonePureNumber())); }
 

@@ -15,12 +15,13 @@ struct OfferedActions {
 /// Of the lookup context's number, whose identity that is, or nil.
 OfferedActions offeredActions(ZQNumberIdentity identity);
 
-// The links that carry an action out: the first two lead into the companion application.
+// The links that carry an action out: the first two lead into the companion application. Nil
+// without a number.
 
 NSString correctLink(NSString number);
 /// `seconds` is when the call was, since 1970.
 NSString markLink(NSString number, double seconds);
-/// Nil for a number that is nil or empty, or has no digits that a link can carry.
+/// Nil for an empty number too, and for digits that a link cannot carry.
 NSString searchLink(NSString number);
 
 // For the lookup context's number and call. A link that there is not is not opened.

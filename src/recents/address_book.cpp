@@ -68,13 +68,15 @@ bool isPersonTableDataSource(NSObject dataSource) {
 }
 
 NSString firstNumberIn(NSObject dataSource) {
-    const auto people = valueForKey(dataSource, "people"_ns).as<NSArray>();
-    for (NSUInteger i = 0, count = people.count(); i < count; ++i) {
-        if (const NSString number = firstNumberOf(people.objectAtIndex(i).get())) {
-            return number;
+    NSString number;
+    objc::silently([&] {
+        const auto people = valueForKey(dataSource, "people"_ns).as<NSArray>();
+        const NSUInteger count = people.count();
+        for (NSUInteger i = 0; i < count && !number; ++i) {
+            number = firstNumberOf(people.objectAtIndex(i).get());
         }
-    }
-    return nullptr;
+    });
+    return number;
 }
 
 }  // namespace recents

@@ -14,7 +14,8 @@ bool contactHasMoreThanOneNumber(RecentCall call);
 /// Whether the table of a person's details shows a header and cannot be edited. What has no such
 /// values, or raises when asked for them, is no such table.
 bool isPersonTableDataSource(NSObject dataSource);
-/// The first number of the people that the table is about; nil when they have none.
+/// The first number of the people that the table is about; nil when they have none, or when asking
+/// raises.
 NSString firstNumberIn(NSObject dataSource);
 
 }  // namespace recents

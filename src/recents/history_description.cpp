@@ -2,6 +2,7 @@
 #include "recents/history_description.hpp"
 
 #include "platform/format.hpp"
+#include "platform/two_tones.hpp"
 
 namespace recents {
 namespace {
@@ -168,17 +169,8 @@ objc::Owned<NSMutableAttributedString> twoToned(NSString text) {
     if (firstSeparator == kNotFound) {
         return {};
     }
-    const NSString shown = shortened(text, firstSeparator);
-    const NSUInteger split = shown.indexOf(separator);
-    auto painted = objc::create<NSMutableAttributedString(NSString)>("initWithString:"_sel, shown);
-    const auto paint = [&](UIColor color, NSRange range) {
-        if (color) {
-            painted->addAttribute(NSString(NSForegroundColorAttributeName), color, range);
-        }
-    };
-    paint(UIColor::blackColor(), {0, split});
-    paint(ZQUIUtil::getFormattedColor(145, 145, 145, 1), {split, shown.length() - split});
-    return painted;
+    return inTwoTones(shortened(text, firstSeparator), separator, UIColor::blackColor(),
+                      ZQUIUtil::getFormattedColor(145, 145, 145, 1));
 }
 
 }  // namespace recents

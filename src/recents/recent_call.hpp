@@ -21,9 +21,4 @@ class RecentCall : public NSObject {
     NSString number() const;
 };
 
-/// 0 for nil.
-inline double secondsSince1970(NSDate date) {
-    return objc::send<double()>(date, "timeIntervalSince1970"_sel);
-}
-
 }  // namespace recents

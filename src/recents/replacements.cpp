@@ -18,6 +18,19 @@ void reload(UITableView table) {
     silently([&] { table.reloadData(); });
 }
 
+/// A row whose content has left its place shows what lies behind.
+void addMenuWhileOpening(UITableViewCellScrollView scrollView, CGPoint offset) {
+    constexpr CGFloat kAtRest = 1;
+    if (!(offset.x > kAtRest)) {
+        return;
+    }
+    const Class cellClass = "PHRecentsCell"_cls;
+    const UIView cell = scrollView.superview();
+    if (cellClass && cell.isKindOfClass(cellClass)) {
+        recents::addButtonMenu(cell.as<PHRecentsCell>());
+    }
+}
+
 /// Opens or shuts the swiped row.
 void settle(UIScrollView scrollView, CGPoint *target) {
     if (recents::isListEditing()) {
@@ -129,14 +142,8 @@ void replace_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentO
 void replace_UITableViewCellScrollView_setContentOffset_(UITableViewCellScrollView self,
                                                          SEL selector, CGPoint offset) {
     silently([&] {
-        constexpr CGFloat kOpening = 1;
-        if (!ZQPhoneUtil::isLaterThanIOSVersion(7.1, true) || offset.x <= kOpening) {
-            return;
-        }
-        const UIView cell = self.superview();
-        const Class cellClass = "PHRecentsCell"_cls;
-        if (cellClass && cell.isKindOfClass(cellClass)) {
-            recents::addButtonMenu(cell.as<PHRecentsCell>());
+        if (ZQPhoneUtil::isLaterThanIOSVersion(7.1, true)) {
+            addMenuWhileOpening(self, offset);
         }
     });
     saved_UITableViewCellScrollView_setContentOffset_(self, selector, offset);

@@ -14,21 +14,23 @@ enum Tag : NSInteger { kCorrectTag = 1012, kMarkTag = 1013 };
 constinit bool g_isListEditing = false;
 constinit int32_t g_menuButtonCount = 0;
 
+/// Goes through the subviews as long as `visit` answers true.
 template <class Visit>
-void forEachSubview(UIView view, Visit visit) {
+void whileVisiting(UIView view, Visit visit) {
     const NSArray subviews = view.subviews();
-    for (NSUInteger i = 0, count = subviews.count(); i < count; ++i) {
-        visit(subviews.objectAtIndex(i).as<UIView>());
+    const NSUInteger count = subviews.count();
+    for (NSUInteger i = 0; i < count && visit(subviews.objectAtIndex(i).as<UIView>()); ++i) {
     }
 }
 
 /// A class that the running system lacks has no views.
 UIView firstSubview(UIView view, Class cls) {
     UIView found;
-    forEachSubview(view, [&](UIView subview) {
-        if (!found && cls && subview.isKindOfClass(cls)) {
+    whileVisiting(view, [&](UIView subview) {
+        if (cls && subview.isKindOfClass(cls)) {
             found = subview;
         }
+        return !found;
     });
     return found;
 }
@@ -69,10 +71,11 @@ void placeDeleteButton(UIView button, int32_t slots) {
     frame.origin.x = menuWidth(slots - 1);
     frame.size.width = kSlotWidth;
     button.setFrame(frame);
-    forEachSubview(button, [](UIView subview) {
+    whileVisiting(button, [](UIView subview) {
         if (subview.isKindOfClass(UILabel::classObject())) {
             subview.as<UILabel>().setFont(UIFont::systemFontOfSize(14));
         }
+        return true;
     });
 }
 

@@ -179,7 +179,7 @@ TEST_F(HistoryDescription, ActionsOpenLinks) {
         send<void()>(cls, "searchNumBtnPressed"_sel);
         return std::exchange(stub.openedLinks, {});
     };
-    EXPECT_EQ(press().size(), 2U) << "no number, no search";
+    EXPECT_TRUE(press().empty()) << "without a number there is nothing to do";
     recents::setPhonePureNumber("8610086"_ns);
     const std::vector<std::string> links = press();
     ASSERT_EQ(links.size(), 3U);

@@ -82,7 +82,7 @@ TEST_F(RecentsLookup, AMissAsksTheCompanionAndAHitNobody) {
     EXPECT_EQ(stub.recordQueries, (std::vector<test::RecordQuery>{{"100-01", 1400000000.6}}));
     EXPECT_EQ(stub.rowTextQueries, (std::vector<test::RowTextQuery>{{"推销", 2, 1, false}}));
     EXPECT_EQ(maybeText(recents::phonePureNumber()), "10001");
-    EXPECT_EQ(recents::secondsSince1970(recents::currentRecordDate()), 1400000000.6);
+    EXPECT_EQ(recents::currentRecordDate().secondsSince1970(), 1400000000.6);
     EXPECT_EQ(maybeText(hook()
                             .numberInfoAndCallCacheDict()
                             .objectForKey("100-01_1400000001"_ns)
