@@ -1,7 +1,14 @@
-// CoreGraphics' plain structs, in points, with the encodings they travel under.
+// The platform's plain numbers and CoreGraphics' structs, in points, with the encodings they travel
+// under.
 #pragma once
 
+#include <type_traits>
+
 #include "objc/encoding.hpp"
+
+// Pointer-wide on every architecture, spelt as the encodings of both platforms have it.
+using NSInteger = std::conditional_t<sizeof(void *) == 8, long, int>;
+using NSUInteger = std::make_unsigned_t<NSInteger>;
 
 #if defined(__LP64__)
 using CGFloat = double;

@@ -4,16 +4,11 @@
 
 #include <atomic>
 #include <cstdint>
-#include <type_traits>
 
 #include "objc/encoding.hpp"
 #include "objc/handle.hpp"
 #include "objc/owned.hpp"
 #include "platform/CoreGraphics.hpp"
-
-// Pointer-wide on every architecture, spelt as the encodings of both platforms have it.
-using NSInteger = std::conditional_t<sizeof(void *) == 8, long, int>;
-using NSUInteger = std::make_unsigned_t<NSInteger>;
 
 struct NSRange {
     NSUInteger location, length;

@@ -3,7 +3,8 @@
 
 #include "identity/utilities.hpp"
 #include "platform/format.hpp"
-#include "recents/geometry.hpp"
+
+using recents::RowPart;
 
 namespace {
 
@@ -12,13 +13,13 @@ struct Background {
     UIEdgeInsets caps;
 };
 
-Background backgroundOf(NSInteger part) {
+Background backgroundOf(RowPart part) {
     switch (part) {
-    case 1:
+    case RowPart::Left:
         return {"left_"_ns, {4, 5, 4, 0}};
-    case 2:
+    case RowPart::Middle:
         return {"middle_"_ns, {0, 0, 0, 0}};
-    case 3:
+    case RowPart::Right:
         return {"right_"_ns, {4, 0, 4, 5}};
     default:
         return {""_ns, {4, 4, 4, 4}};
@@ -50,7 +51,7 @@ void GroupButton::setIcon(UIImage icon, NSString title) const {
     button.setTitleEdgeInsets({0, 20, 0, 0});
 }
 
-void GroupButton::setBackgroundImage(NSInteger part) const {
+void GroupButton::setBackgroundImage(RowPart part) const {
     const auto [name, caps] = backgroundOf(part);
     const auto set = [&](NSString fileName, NSUInteger state) {
         objc::sendSuper<GroupButton, void(UIImage, NSUInteger)>(

@@ -3,6 +3,7 @@
 
 #include "objc/class_builder.hpp"
 #include "platform/UIKit.hpp"
+#include "recents/geometry.hpp"
 
 class GroupButton : public objc::Instance {
   public:
@@ -11,8 +12,8 @@ class GroupButton : public objc::Instance {
     /// To be called once the button has its frame. Each call adds an icon; a nil one is an empty
     /// view.
     void setIcon(UIImage icon, NSString title) const;
-    /// Which part of its row the button is: 1 left, 2 middle, 3 right, any other all of it.
-    void setBackgroundImage(NSInteger part) const;
+    /// What is no part of a row is all of it.
+    void setBackgroundImage(recents::RowPart part) const;
 };
 
 /// The same from outside; nil takes no notice.
@@ -24,7 +25,8 @@ class ZQGroupButton : public UIButton {
     void setIcon(UIImage icon, NSString title) const {
         send<void(UIImage, NSString)>("setIcon:title:"_sel, icon, title);
     }
-    void setBackgroundImage(NSInteger part) const {
-        send<void(NSInteger)>("setBackgroundImageWithButtonIndex:"_sel, part);
+    void setBackgroundImage(recents::RowPart part) const {
+        send<void(NSInteger)>("setBackgroundImageWithButtonIndex:"_sel,
+                              static_cast<NSInteger>(part));
     }
 };

@@ -47,7 +47,7 @@ struct Settling {
 /// Where a released swipe comes to rest: shut, or where the finger left it once half of the menu
 /// shows.
 constexpr Settling settle(CGPoint offset, int32_t slots) {
-    const CGFloat half = static_cast<CGFloat>(slots * 24);
+    const auto half = static_cast<CGFloat>(slots * 24);
     if (offset.x < half) {
         return {.staysOpen = false, .target = {0, offset.y}, .rightInset = 0};
     }
@@ -89,11 +89,13 @@ struct Header {
     bool hasCorrect, hasMark;
 };
 
+/// Which part of its row a button is; as wide as the message that tells the button.
+enum class RowPart : NSInteger { All, Left, Middle, Right };
+
 /// One of the buttons that form a row together.
 struct HeaderButton {
     CGRect frame;
-    // Which part of the row its background is: 0 all of it, then left, middle, right.
-    NSInteger part;
+    RowPart part;
     bool operator==(const HeaderButton &) const = default;
 };
 
@@ -110,18 +112,18 @@ constexpr void placeButtons(HeaderPlaces &places, const Header &header, CGFloat 
     const CGFloat third = header.from80 ? 97 : 90;
     const CGFloat half = header.from80 ? 145 : 135;
     const CGFloat whole = header.from80 ? 292 : 272;
-    const auto button = [&](CGFloat width, CGFloat before, NSInteger part) {
+    const auto button = [&](CGFloat width, CGFloat before, RowPart part) {
         return HeaderButton{rect(left + before * (width + 1), y, width, kHeight), part};
     };
     if (header.hasCorrect && header.hasMark) {
-        places.correct = button(third, 0, 1);
-        places.mark = button(third, 1, 2);
-        places.search = button(third, 2, 3);
+        places.correct = button(third, 0, RowPart::Left);
+        places.mark = button(third, 1, RowPart::Middle);
+        places.search = button(third, 2, RowPart::Right);
     } else if (header.hasCorrect || header.hasMark) {
-        places.correct = places.mark = button(half, 0, 1);
-        places.search = button(half, 1, 3);
+        places.correct = places.mark = button(half, 0, RowPart::Left);
+        places.search = button(half, 1, RowPart::Right);
     } else {
-        places.search = button(whole, 0, 0);
+        places.search = button(whole, 0, RowPart::All);
     }
 }
 

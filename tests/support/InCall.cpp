@@ -27,18 +27,6 @@ void InCall::setStatus(NSObject call, int32_t status) {
     send<void(int32_t)>(call, "setStatus:"_sel, status);
 }
 
-void InCall::layOut(UIView display) {
-    send<void()>(display, "setNeedsLayout"_sel);
-    send<void()>(display, "layoutIfNeeded"_sel);
-}
-
-std::string readable(NSString text) {
-    const char *const chars = text.UTF8String();
-    return chars ? chars : "(nil)";
-}
-
-std::string textOf(UIView view) { return readable(send<NSString()>(view, "text"_sel)); }
-
 CGFloat alphaAt(NSAttributedString text, NSUInteger unit) {
     const auto color = send<NSObject(NSString, NSUInteger, NSRange *)>(
         text, "attribute:atIndex:effectiveRange:"_sel, NSString(NSForegroundColorAttributeName),
@@ -48,9 +36,5 @@ CGFloat alphaAt(NSAttributedString text, NSUInteger unit) {
                                                            nullptr, nullptr, nullptr, &alpha);
     return alpha;
 }
-
-bool isHidden(UIView view) { return send<bool()>(view, "isHidden"_sel); }
-
-bool isShown(UIView view) { return view && !isHidden(view); }
 
 }  // namespace test

@@ -9,6 +9,7 @@
 #include "incall/ZQDialWaitUIHook.hpp"
 #include "support/Calls.hpp"
 #include "support/StubCompanion.hpp"
+#include "support/Views.hpp"
 
 namespace test {
 
@@ -21,8 +22,7 @@ class InCall : public testing::Test {
 
     static objc::Owned<NSObject> begin(const Caller &caller) { return beginCall(caller); }
     static void setStatus(NSObject call, int32_t status);
-    /// A layout pass, wanted or not.
-    static void layOut(UIView display);
+    static void layOut(UIView display) { test::layOut(display); }
 
     static ZQDialWaitUIHook &hook() { return *ZQDialWaitUIHook::shared(); }
     InCallLCDView lcd() const { return lcd_.get().as<InCallLCDView>(); }
@@ -35,13 +35,7 @@ class InCall : public testing::Test {
     objc::Owned<UIView> lcd_, field_;
 };
 
-/// "(nil)" for nil.
-std::string readable(NSString text);
-std::string textOf(UIView view);
 /// How opaque one unit of the text is painted.
 CGFloat alphaAt(NSAttributedString text, NSUInteger unit);
-bool isHidden(UIView view);
-/// There, and not hidden itself.
-bool isShown(UIView view);
 
 }  // namespace test

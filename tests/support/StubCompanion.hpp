@@ -112,7 +112,8 @@ struct StubCompanion {
     std::map<std::string, std::string> storedCalls;  // the pure number by the number as asked for
     std::map<std::string, std::vector<int>> histories;  // action types, by number as asked for
     std::map<int, PartnerFacts> partners;
-    std::vector<std::string> contacts, blackList;
+    std::vector<std::string> contacts, blackList, foreignNumbers;
+    std::map<std::string, std::vector<std::string>> persons;  // all numbers by one of them
     std::map<std::string, objc::Owned<UIImage>> avatars;
     std::map<std::string, WeiboFacts> profiles;
     std::string resourceDir = "/stub";

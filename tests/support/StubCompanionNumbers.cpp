@@ -1,4 +1,6 @@
 // The stub companion's knowledge of numbers: parsing, identities and the queries for them.
+#include <algorithm>
+
 #include "companion/classes/Property.hpp"
 #include "support/StubCompanionClasses.hpp"
 
@@ -30,6 +32,7 @@ class PhoneNumber : public objc::Instance {
     }
     NSString pureNumber() const { return asked("pureNumber") ? string(pure_) : nullptr; }
     NSString areaName() const { return answerFor("areaName", stub().areas, pure_); }
+    int32_t type() const { return std::ranges::count(stub().foreignNumbers, pure_) != 0 ? 6 : 0; }
 
     static NSString descriptionOfNumber(NSString digits) {
         return answerFor("descriptionOfNumber:", stub().descriptions, utf8(digits));
@@ -39,6 +42,9 @@ class PhoneNumber : public objc::Instance {
     }
     static NSString mobileNumber(NSString text) {
         return answerFor("getMobileNumberFromNumber:", stub().mobiles, digitsOf(text));
+    }
+    static NSString formattedNumber(NSString text) {
+        return asked("getFormattedNumberWithNumber:") ? string("#" + digitsOf(text)) : nullptr;
     }
 
   private:
@@ -152,9 +158,11 @@ void registerNumberClasses() {
         .method("parse"_sel, member<&PhoneNumber::parse>)
         .method("pureNumber"_sel, member<&PhoneNumber::pureNumber>)
         .method("areaName"_sel, member<&PhoneNumber::areaName>)
+        .method("type"_sel, member<&PhoneNumber::type>)
         .classMethod("descriptionOfNumber:"_sel, function<&PhoneNumber::descriptionOfNumber>)
         .classMethod("areaNameOfNumber:"_sel, function<&PhoneNumber::areaNameOfNumber>)
         .classMethod("getMobileNumberFromNumber:"_sel, function<&PhoneNumber::mobileNumber>)
+        .classMethod("getFormattedNumberWithNumber:"_sel, function<&PhoneNumber::formattedNumber>)
         .finish();
     objc::ClassBuilder<Namespace<0>>("ZQPhoneNumberHelper", "NSObject")
         .classMethod("getDigitNumber:"_sel, function<&digitNumber>)

@@ -1,4 +1,6 @@
 // The stub companion's helpers for views, versions and texts.
+#include <cmath>
+
 #include "support/StubCompanionClasses.hpp"
 
 namespace test {
@@ -59,6 +61,8 @@ NSAttributedString markText(NSString label, int32_t count) {
         .autorelease();
 }
 
+CGFloat ceiling(CGFloat value) { return asked("getCeilCGFloat:") ? std::ceil(value) : 0; }
+
 NSString trimmed(NSString text) {
     if (!asked("trimmingWhiteSpace:")) {
         return nullptr;
@@ -89,6 +93,9 @@ void registerUtilityClasses() {
         .finish();
     objc::ClassBuilder<Namespace<6>>("ZQStringHelper", "NSObject")
         .classMethod("trimmingWhiteSpace:"_sel, function<&trimmed>)
+        .finish();
+    objc::ClassBuilder<Namespace<7>>("ZQMathUtil", "NSObject")
+        .classMethod("getCeilCGFloat:"_sel, function<&ceiling>)
         .finish();
 }
 
