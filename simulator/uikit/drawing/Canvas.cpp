@@ -154,9 +154,15 @@ void Canvas::draw(const TextLayout &text, Rect within, TextAlignment alignment) 
 void Canvas::draw(const TextFragment &fragment, Point baseline) {
     const std::string utf8 = drawableText(fragment.text).utf8;
     const PangoLayoutPtr shaped = FontSet::shared().shape(utf8, fragment.style.font);
+    PangoLayoutLine *const line = pango_layout_get_line(shaped.get(), 0);
+    // Pango shifts runs by the script that the fragment happens to begin with; the fragments of one
+    // line stand on one baseline all the same.
+    for (const GSList *run = line->runs; run != nullptr; run = run->next) {
+        static_cast<PangoGlyphItem *>(run->data)->y_offset = 0;
+    }
     setColor(fragment.style.color);
     cairo_move_to(context_.get(), baseline.x, baseline.y);
-    pango_cairo_show_layout_line(context_.get(), pango_layout_get_line_readonly(shaped.get(), 0));
+    pango_cairo_show_layout_line(context_.get(), line);
     cairo_new_path(context_.get());
 }
 
