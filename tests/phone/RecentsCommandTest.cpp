@@ -98,8 +98,8 @@ TEST_F(RecentsCommand, SaysWhatAStepNeeds) {
         std::ostringstream ignored;
         EXPECT_THAT(refusal([&] { session.perform(step, ignored); }), HasSubstr(complaint));
     };
-    expect({Kind::Open, {}, 39}, "--open 39: there are 38 rows; choose one");
-    expect({Kind::Open, {}, 38}, "--open 38: the row is not on screen; --scroll row:38 first");
+    expect({Kind::Open, {}, 46}, "--open 46: there are 45 rows; choose one");
+    expect({Kind::Open, {}, 45}, "--open 45: the row is not on screen; --scroll row:45 first");
     expect({Kind::Release}, "--release: no finger is on the screen");
     expect({Kind::Press, "search"}, "--press search: no button 搜索 is on the screen");
     expect({Kind::Edit, "off"}, "--edit off: the list is not in edit mode");
