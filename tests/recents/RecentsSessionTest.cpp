@@ -1,0 +1,87 @@
+// The recents screen for a long time: nothing may stay behind of what came and went.
+#include "phone/StageRun.hpp"
+#include "phone/recents/PHRecentCall.hpp"
+#include "phone/recents/PHRecentsViewController.hpp"
+#include "support/LiveObjects.hpp"
+#include "uikit/Foundation.hpp"
+
+namespace {
+
+class RecentsSession : public test::StageRun, public testing::WithParamInterface<const char *> {
+  protected:
+    RecentsSession() { session_.open({stage::ScreenKind::Recents}); }
+
+    /// Callers of every kind by turns. Numbers are grouped, as the list has nothing to format then.
+    void show(int count) {
+        static constexpr std::array kCallers = {
+            "177-0000-0061", "021-0106-5012",    "150-0000-0031",
+            "138-2300-0021", "138-0013-0011",    "+1 415-555-0132",
+            "130-0000-0101", "luna@example.org", "",
+            "400-200-1818"};
+        const objc::AutoreleasePool pool;
+        std::vector<objc::Owned<NSObject>> calls;
+        calls.reserve(static_cast<size_t>(count));
+        for (int i = 0; i < count; ++i) {
+            calls.push_back(phone::PHRecentCall::create(
+                {.number = kCallers[static_cast<size_t>(i) % kCallers.size()],
+                 .incoming = i % 3 != 0,
+                 .date = 1402545600.0 - 60.0 * i}));
+        }
+        list().setCalls(sim::array(calls));
+    }
+    phone::PHRecentsViewController &list() { return *session_.recents(); }
+
+    /// Does it `count` times, and twice: what the first round leaves is the cache.
+    template <class Round>
+    void expectTheSameAgain(int count, Round round) {
+        const auto all = [&] {
+            for (int i = 0; i < count; ++i) {
+                const objc::AutoreleasePool pool;
+                round(i);
+            }
+            return test::liveObjects();
+        };
+        test::liveObjects();
+        const int before = all();
+        EXPECT_EQ(all(), before);
+    }
+
+    stage::Session session_{settings(GetParam(), "4")};
+};
+
+INSTANTIATE_TEST_SUITE_P(Systems, RecentsSession, testing::Values("7.0", "7.1", "8.0"),
+                         [](const auto &system) {
+                             std::string name = std::string("Ios") + system.param;
+                             std::erase(name, '.');
+                             return name;
+                         });
+
+TEST_P(RecentsSession, TenThousandRowsThereAndBackLeaveNoObjectBehind) {
+    constexpr int kRows = 10000;
+    show(kRows);
+    expectTheSameAgain(2 * kRows, [&](int i) {
+        ASSERT_TRUE(list().scrollToRow(i < kRows ? i : 2 * kRows - 1 - i));
+    });
+}
+
+TEST_P(RecentsSession, TwoHundredDetailsLeaveNoObjectBehind) {
+    show(200);
+    expectTheSameAgain(200, [&](int row) {
+        ASSERT_TRUE(list().scrollToRow(row) && list().openDetail(row));
+        session_.tree();
+        ASSERT_TRUE(list().back());
+    });
+}
+
+TEST_P(RecentsSession, TwoHundredSwipesLeaveNoObjectBehind) {
+    show(200);
+    const bool canSwipe = std::string_view(GetParam()) < "8";
+    expectTheSameAgain(200, [&](int row) {
+        ASSERT_TRUE(list().scrollToRow(row));
+        ASSERT_EQ(list().swipeOpen(row), canSwipe);
+        ASSERT_EQ(list().releaseSwipe(), canSwipe);
+        list().closeSwipe();
+    });
+}
+
+}  // namespace
