@@ -83,10 +83,14 @@ void SimView::layoutIfNeeded() {
         needsLayout_ = false;
         objc::send<void()>(id(*this), "layoutSubviews"_sel);
     }
-    // By copies: a layout may add and remove views.
-    const NSArray subviews = this->subviews();
-    for (NSUInteger i = 0; i < subviews.count(); ++i) {
-        objc::send<void()>(subviews.objectAtIndex(i), "layoutIfNeeded"_sel);
+    // By a copy: a layout may add and remove views.
+    std::vector<objc::Owned<UIView>> subviews;
+    subviews.reserve(subviews_.size());
+    for (const objc::Owned<UIView> &subview : subviews_) {
+        subviews.push_back(objc::Owned<UIView>::share(subview));
+    }
+    for (const objc::Owned<UIView> &subview : subviews) {
+        objc::send<void()>(subview, "layoutIfNeeded"_sel);
     }
 }
 

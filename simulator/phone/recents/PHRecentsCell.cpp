@@ -72,6 +72,8 @@ id PHRecentsCell::initWithStyle(NSInteger style, NSString reuseIdentifier) {
 
 void PHRecentsCell::setCall(NSObject call) {
     call_ = objc::Owned<NSObject>::share(call);
+    const auto *const known = sim::instance<PHRecentCall>(call);
+    texts_ = known != nullptr ? callerTexts(*known) : CallerTexts{};
     setNeedsLayout();
 }
 
@@ -84,10 +86,9 @@ void PHRecentsCell::layoutSubviews() {
 }
 
 void PHRecentsCell::showCall(const PHRecentCall &call) {
-    const CallerTexts texts = callerTexts(call);
-    callerNameLabel_->setText(sim::string(texts.name));
+    callerNameLabel_->setText(sim::string(texts_.name));
     callerNameLabel_->setTextColor(call.isMissed() ? color(255, 59, 48) : UIColor::blackColor());
-    callerLabelLabel_->setText(sim::string(texts.label));
+    callerLabelLabel_->setText(sim::string(texts_.label));
     outgoingGlyph_->setHidden(call.facts().incoming);
     const auto &date = call.facts().date;
     const RecentsDate shown = date && today_ ? recentsDate(*date, *today_) : RecentsDate{};

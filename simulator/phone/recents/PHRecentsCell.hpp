@@ -9,6 +9,13 @@ class SimScrollView;
 
 namespace phone {
 
+/// A caller in words: the contact or the number as the telephone writes it, and what stands below.
+struct CallerTexts {
+    std::string name;
+    std::string label;
+};
+CallerTexts callerTexts(const PHRecentCall &call);
+
 class PHRecentsCell : public SimTableViewCell {
   public:
     static void define();
@@ -35,16 +42,10 @@ class PHRecentsCell : public SimTableViewCell {
     objc::Owned<UILabel> callerLabelLabel_;
     objc::Owned<UILabel> callerDateLabel_;
     objc::Owned<NSObject> call_;
+    CallerTexts texts_;  // of the call; finding them costs more than all the rest of a layout
     objc::Owned<UIView> infoButton_;
     objc::Owned<UIImageView> outgoingGlyph_;
     std::optional<double> today_;
 };
-
-/// A caller in words: the contact or the number as the telephone writes it, and what stands below.
-struct CallerTexts {
-    std::string name;
-    std::string label;
-};
-CallerTexts callerTexts(const PHRecentCall &call);
 
 }  // namespace phone
