@@ -21,20 +21,13 @@ NSString numberWithArea(NSString number) {
                             area.length() != 0 ? area : "未知"_ns);
 }
 
-struct RowText {
-    NSString text;
-    bool isOneOfSeveralNumbers = false;
-};
-
-RowText textOf(RecentCall call) {
+NSString textOf(RecentCall call) {
     if (!call.isOfContact()) {
         auto *const hook = ZQSystemCallHistoryViewHook::currentHook();
-        return {.text = hook ? hook->getInfo(call) : NSString()};
+        return hook ? hook->getInfo(call) : NSString();
     }
-    if (contactHasMoreThanOneNumber(call)) {
-        return {.text = numberWithArea(call.number()), .isOneOfSeveralNumbers = true};
-    }
-    return {};
+    // A contact's only number needs no line.
+    return contactHasMoreThanOneNumber(call) ? numberWithArea(call.number()) : nullptr;
 }
 
 CGFloat widthOfDate(PHRecentsDateLabel label) {
@@ -43,6 +36,17 @@ CGFloat widthOfDate(PHRecentsDateLabel label) {
         text = format<"%@ %@">(designator, text);
     }
     return ZQMathUtil::getCeilCGFloat(lineSize(text, label.font()).width);
+}
+
+struct Places {
+    CGRect line, icon;
+};
+
+Places placesOf(NSString text, PHRecentsDateLabel date, UIFont font) {
+    const CGRect line = rowLine(rowLineWidth(widthOfDate(date)));
+    const CGFloat width =
+        boundingWidth(text, font, line.size, kUsesLineFragmentOrigin | kTruncatesLastVisibleLine);
+    return {.line = line, .icon = rowIcon(ZQMathUtil::getCeilCGFloat(width))};
 }
 
 UILabel addLine(UIView content, UILabel model) {
@@ -77,40 +81,29 @@ void layOutCell(PHRecentsCell cell) {
     }
     const objc::AutoreleasePool pool;
     const UIView content = cell.contentView();
-    const auto [text, isOneOfSeveralNumbers] = textOf(call);
+    const NSString text = textOf(call);
     const bool hasText = text.length() != 0;
-    CGRect lineFrame = rowLine(0);
-    lineFrame.size.height = 0;
-    CGFloat textWidth = 0;
-    if (hasText) {
-        lineFrame = rowLine(rowLineWidth(widthOfDate(cell.dateLabel())));
-        textWidth = ZQMathUtil::getCeilCGFloat(
-            boundingWidth(text, callerLabel.font(), lineFrame.size,
-                          kUsesLineFragmentOrigin | kTruncatesLastVisibleLine));
-    }
+    const Places places = hasText ? placesOf(text, cell.dateLabel(), callerLabel.font()) : Places{};
 
     auto line = content.viewWithTag(kLineTag).as<UILabel>();
     if (!line) {
         line = addLine(content, callerLabel);
     }
-    if (hasText || isOneOfSeveralNumbers) {
-        callerLabel.setText(nullptr);
-        show(line, content, lineFrame);
-        line.setText(text);
-    } else {
-        line.setHidden(true);
-    }
-
     // The whole cell is searched for the icon.
     UIView icon = cell.viewWithTag(kIconTag);
     if (!icon) {
         icon = addIcon(content);
     }
-    if (hasText) {
-        show(icon, content, rowIcon(textWidth));
-    } else {
+    if (!hasText) {
+        line.setHidden(true);
         icon.setHidden(true);
+        return;
     }
+    show(line, content, places.line);
+    line.setText(text);
+    show(icon, content, places.icon);
+    // Last, so that whatever raises before leaves the row as the Phone application made it.
+    callerLabel.setText(nullptr);
 }
 
 void hideLine(PHRecentsCell cell) {
