@@ -10,7 +10,7 @@ namespace {
 
 struct Background {
     NSString name;
-    UIEdgeInsets caps;
+    UIEdgeInsets caps{};
 };
 
 Background backgroundOf(RowPart part) {

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "objc/silently.hpp"
 #include "platform/format.hpp"
 #include "recents/history_description.hpp"
 #include "recents/lookup_context.hpp"
@@ -41,10 +42,14 @@ int32_t wholeSeconds(double seconds) {
     return std::isnan(seconds) ? 0 : static_cast<int32_t>(std::clamp(seconds, kLeast, kMost));
 }
 
-void open(NSString link) {
-    if (link) {
-        ZQPhoneUtil::systemOpenUrl(link);
-    }
+/// Buttons send their actions with nobody around to catch what the companion raises.
+template <class MakeLink>
+void open(MakeLink makeLink) {
+    objc::silently([&] {
+        if (const NSString link = makeLink()) {
+            ZQPhoneUtil::systemOpenUrl(link);
+        }
+    });
 }
 
 }  // namespace
@@ -86,10 +91,16 @@ NSString searchLink(NSString number) {
                    : nullptr;
 }
 
-void openCorrectLink() { open(correctLink(phonePureNumber())); }
+void openCorrectLink() {
+    open([] { return correctLink(phonePureNumber()); });
+}
 
-void openMarkLink() { open(markLink(phonePureNumber(), currentRecordDate().secondsSince1970())); }
+void openMarkLink() {
+    open([] { return markLink(phonePureNumber(), currentRecordDate().secondsSince1970()); });
+}
 
-void openSearchLink() { open(searchLink(phonePureNumber())); }
+void openSearchLink() {
+    open([] { return searchLink(phonePureNumber()); });
+}
 
 }  // namespace recents

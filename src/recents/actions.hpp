@@ -24,7 +24,8 @@ NSString markLink(NSString number, double seconds);
 /// Nil for an empty number too, and for digits that a link cannot carry.
 NSString searchLink(NSString number);
 
-// For the lookup context's number and call. A link that there is not is not opened.
+// For the lookup context's number and call. A link that there is not is not opened, and
+// nothing is raised.
 
 void openCorrectLink();
 void openMarkLink();

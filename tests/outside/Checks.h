@@ -1,38 +1,56 @@
 // What the host checks with: faults are printed and counted.
 #pragma once
 
-#import <Foundation/Foundation.h>
+#import "UIKit.h"
 
-#include "Geometry.h"
+#include <initializer_list>
 
-@interface UIView : NSObject {
-    // As the UIKit beside it lays its objects out.
-    CGRect _frame;
-    BOOL _hidden;
-    NSInteger _tag;
-    NSMutableArray *_subviews;
+inline NSArray *list(std::initializer_list<id> objects) {
+    return [NSArray arrayWithObjects:objects.begin() count:objects.size()];
 }
-- (id)initWithFrame:(CGRect)frame;
-- (CGRect)frame;
-- (void)setFrame:(CGRect)frame;
-- (BOOL)isHidden;
-- (UIView *)viewWithTag:(NSInteger)tag;
-- (void)addSubview:(UIView *)view;
-@end
 
-@interface UILabel : UIView {
-    NSString *_text;
-    NSAttributedString *_attributedText;
-    id _font;
-}
-- (NSString *)text;
-- (void)setText:(NSString *)text;
-- (NSAttributedString *)attributedText;
-@end
+inline NSNumber *number(int value) { return [NSNumber numberWithInt:value]; }
 
 void check(bool holds, const char *what);
 bool stands(UIView *view, CGFloat x, CGFloat y, CGFloat width, CGFloat height);
+bool isColor(UIColor *color, int red, int green, int blue);
+bool isClear(UIView *view);
+
+inline bool isText(id text, NSString *expected) {
+    return text == expected || [text isEqual:expected];
+}
+
+/// The case that faults are printed with, as long as it lives.
+class Case {
+  public:
+    explicit Case(NSString *name);
+    ~Case();
+    Case(const Case &) = delete;
+    Case &operator=(const Case &) = delete;
+
+  private:
+    NSString *outer_;
+};
+
+template <typename Work>
+bool isQuiet(Work work) {
+    try {
+        work();
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+double systemVersion();
+inline bool isNewer() { return systemVersion() >= 8; }
 
 /// The checks of one screen, with the add-on loaded or kept out; the dialer's are those of 7.0.
 void checkDialer(bool isOn);
 void checkInCall(bool isOn, bool is71);
+void checkRecents(bool isOn);
+void checkDetails(bool isOn);
+/// Comes before the others that show recent calls. A bare system lacks the cells' scroll view.
+void checkSwipe(bool isOn, bool isBare);
+/// The class of that scroll view, which has to be there before the add-on comes.
+void addScrollViewOfCells();

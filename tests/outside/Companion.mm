@@ -1,22 +1,125 @@
-// A companion of somebody else's: it knows one marked number, and a region for every other. The cloud
+// A companion of somebody else's: what it is told to know and to say, and its helpers. The cloud
 // answers when it is told to.
-#import <Foundation/Foundation.h>
+#import "Companion.h"
 
+#import "UIKit.h"
+
+#include <cmath>
 #include <cstdlib>
+#include <initializer_list>
 
-NSString *kZQBrandServiceBrandNameKey = @"name";
-NSString *kZQBrandServiceBrandLogoPathKey = @"logo";
+static NSMutableDictionary *g_answers, *g_identities, *g_histories, *g_people, *g_stored;
+static NSCountedSet *g_asked;
+static NSMutableArray *g_observers;
+static NSString *g_raising, *g_posted;
+static id g_opened;
 
 static double systemVersion() { return std::atof(std::getenv("OUTSIDE_SYSTEM_VERSION")); }
+
+id answer(NSString *operation, id usual) {
+    [g_asked addObject:operation];
+    if ([g_raising isEqualToString:operation]) {
+        [NSException raise:@"CompanionFault" format:@"in %@", operation];
+    }
+    id told = [g_answers objectForKey:operation];
+    return told == [NSNull null] ? nil : told ? told : usual;
+}
+
+static ZQNumberIdentity *fraud() {
+    ZQNumberIdentity *identity = [[[ZQNumberIdentity alloc] init] autorelease];
+    [identity setIdentity:@"诈骗电话"];
+    [identity setType:7];
+    [identity setNumOfMark:37];
+    return identity;
+}
+
+static id once(NSMutableDictionary **dictionary) {
+    if (!*dictionary) {
+        *dictionary = [[NSMutableDictionary alloc] init];
+    }
+    return *dictionary;
+}
+
+@implementation Stage
++ (void)initialize {
+    g_asked = [[NSCountedSet alloc] init];
+    g_observers = [[NSMutableArray alloc] init];
+    [self reset];
+}
++ (void)reset {
+    g_raising = nil;
+    for (NSMutableDictionary **each :
+         {&g_answers, &g_identities, &g_histories, &g_people, &g_stored}) {
+        [once(each) removeAllObjects];
+    }
+    [g_asked removeAllObjects];
+    [self opened];
+    [self know:fraud() of:@"17700000061"];
+    [self announce:@"msgSystemProcessReloadAllNum"];
+}
++ (void)know:(ZQNumberIdentity *)identity of:(NSString *)number {
+    [g_identities setObject:identity forKey:number];
+}
++ (ZQNumberIdentity *)identityOf:(NSString *)number {
+    return number ? [g_identities objectForKey:number] : nil;
+}
++ (void)record:(NSArray *)actionTypes of:(NSString *)number {
+    [g_histories setObject:actionTypes forKey:number];
+}
++ (NSArray *)historyOf:(NSString *)number {
+    return number ? [g_histories objectForKey:number] : nil;
+}
++ (void)person:(NSArray *)numbers with:(NSString *)number {
+    [g_people setObject:numbers forKey:number];
+}
++ (NSArray *)personWith:(NSString *)number {
+    return number ? [g_people objectForKey:number] : nil;
+}
++ (void)store:(NSString *)other for:(NSString *)number at:(NSDate *)date {
+    [g_stored setObject:other forKey:[NSArray arrayWithObjects:number, date, nil]];
+}
++ (NSString *)storedFor:(NSString *)number at:(NSDate *)date {
+    return [g_stored objectForKey:[NSArray arrayWithObjects:number, date, nil]];
+}
++ (void)let:(NSString *)operation answer:(id)value {
+    [g_answers setObject:value ? value : [NSNull null] forKey:operation];
+}
++ (void)raiseIn:(NSString *)operation {
+    g_raising = operation;
+}
++ (NSUInteger)timesAsked:(NSString *)operation {
+    return [g_asked countForObject:operation];
+}
++ (id)opened {
+    id opened = [g_opened autorelease];
+    g_opened = nil;
+    return opened;
+}
++ (NSString *)posted {
+    return g_posted;
+}
++ (void)announce:(NSString *)message {
+    NSNotification *notification = [NSNotification notificationWithName:message object:nil];
+    for (NSUInteger i = 0; i < [g_observers count]; ++i) {
+        NSArray *entry = [g_observers objectAtIndex:i];
+        if ([[entry objectAtIndex:2] isEqual:message]) {
+            [[entry objectAtIndex:0] performSelector:NSSelectorFromString([entry objectAtIndex:1])
+                                          withObject:notification];
+        }
+    }
+}
+@end
 
 @interface ZQPhoneUtil : NSObject
 @end
 
 @implementation ZQPhoneUtil
 + (BOOL)isEalierThanIOSVersion:(double)version include:(BOOL)include {
+    answer(@"isEalierThanIOSVersion:include:", nil);
     return systemVersion() < version || (include && systemVersion() == version);
 }
 + (BOOL)isLaterThanIOSVersion:(double)version include:(BOOL)include {
+    answer(@"isLaterThanIOSVersion:include:", nil);
     return systemVersion() > version || (include && systemVersion() == version);
 }
 + (BOOL)isScreen35Inch {
@@ -29,7 +132,12 @@ static double systemVersion() { return std::atof(std::getenv("OUTSIDE_SYSTEM_VER
     return nil;
 }
 + (NSString *)getAppResourceDir {
-    return @"/resources";
+    return answer(@"getAppResourceDir", @"/resources");
+}
++ (void)systemOpenUrl:(NSString *)url {
+    answer(@"systemOpenUrl:", nil);
+    [g_opened release];
+    g_opened = [url copy];
 }
 @end
 
@@ -42,6 +150,16 @@ static double systemVersion() { return std::atof(std::getenv("OUTSIDE_SYSTEM_VER
 }
 @end
 
+@interface ZQMathUtil : NSObject
+@end
+
+@implementation ZQMathUtil
++ (CGFloat)getCeilCGFloat:(CGFloat)length {
+    answer(@"getCeilCGFloat:", nil);
+    return std::ceil(length);
+}
+@end
+
 @interface ZQUIUtil : NSObject
 @end
 
@@ -50,6 +168,13 @@ static double systemVersion() { return std::atof(std::getenv("OUTSIDE_SYSTEM_VER
                          green:(double)green
                           blue:(double)blue
                          alpha:(double)alpha {
+    id color = [NSClassFromString(@"UIColor") colorWithRed:red / 255
+                                                     green:green / 255
+                                                      blue:blue / 255
+                                                     alpha:alpha];
+    return answer(@"getFormattedColorWithRed:green:blue:alpha:", color);
+}
++ (NSAttributedString *)getAttributedStringForMarkInfo:(NSString *)label markAmount:(int)count {
     return nil;
 }
 @end
@@ -71,112 +196,6 @@ static ZQPreference *g_preference;
 }
 @end
 
-@interface ZQPhoneNumber : NSObject {
-    NSString *_text;
-}
-@end
-
-@implementation ZQPhoneNumber
-- (id)initWithOriginNumber:(NSString *)text {
-    self = [super init];
-    _text = [text copy];
-    return self;
-}
-- (void)dealloc {
-    [_text release];
-    [super dealloc];
-}
-- (void)parse {
-}
-- (NSString *)pureNumber {
-    return _text;
-}
-- (NSString *)areaName {
-    return @"广东广州";
-}
-+ (NSString *)areaNameOfNumber:(NSString *)number {
-    return @"广东";
-}
-+ (NSString *)descriptionOfNumber:(NSString *)number {
-    return @"广东广州";
-}
-@end
-
-@interface ZQCallRecord : NSObject {
-    NSString *_phoneNumber;
-}
-@end
-
-@implementation ZQCallRecord
-- (void)dealloc {
-    [_phoneNumber release];
-    [super dealloc];
-}
-- (void)setPhoneNumber:(NSString *)number {
-    [_phoneNumber autorelease];
-    _phoneNumber = [number copy];
-}
-- (NSString *)phoneNumber {
-    return _phoneNumber;
-}
-@end
-
-@interface ZQNumberIdentity : NSObject {
-    NSString *_number, *_identity, *_source;
-    int _type, _numOfMark;
-}
-@end
-
-@implementation ZQNumberIdentity
-- (void)dealloc {
-    [_number release];
-    [_identity release];
-    [_source release];
-    [super dealloc];
-}
-- (NSString *)number {
-    return _number;
-}
-- (void)setNumber:(NSString *)number {
-    [_number autorelease];
-    _number = [number copy];
-}
-- (NSString *)identity {
-    return _identity;
-}
-- (void)setIdentity:(NSString *)identity {
-    [_identity autorelease];
-    _identity = [identity copy];
-}
-- (NSString *)source {
-    return _source;
-}
-- (void)setSource:(NSString *)source {
-    [_source autorelease];
-    _source = [source copy];
-}
-- (int)type {
-    return _type;
-}
-- (void)setType:(int)type {
-    _type = type;
-}
-- (int)numOfMark {
-    return _numOfMark;
-}
-- (void)setNumOfMark:(int)count {
-    _numOfMark = count;
-}
-- (void)setAttriNumInfo:(NSAttributedString *)text {
-}
-@end
-
-@implementation ZQUIUtil (Marks)
-+ (NSAttributedString *)getAttributedStringForMarkInfo:(NSString *)label markAmount:(int)count {
-    return nil;
-}
-@end
-
 @interface ZQPingBackService : NSObject
 @end
 
@@ -186,77 +205,16 @@ static ZQPreference *g_preference;
 }
 @end
 
-@interface ZQCallRecordService : NSObject
-@end
-
-static int g_storedKind;
-
-@implementation ZQCallRecordService
-- (void)insertOrUpdateNumberIdentityWithNumber:(ZQNumberIdentity *)identity {
-    g_storedKind = [identity type];
-}
-@end
-
 @interface ZQIPCService : NSObject
 @end
 
-static NSString *g_posted;
-
 @implementation ZQIPCService
 + (void)addObserver:(id)observer sel:(SEL)selector forMsg:(NSString *)message {
+    [Stage class];  // which makes the list
+    [g_observers addObject:[NSArray arrayWithObjects:observer, NSStringFromSelector(selector),
+                                                     message, nil]];
 }
 + (void)postMsg:(NSString *)message withInfo:(NSDictionary *)info {
     g_posted = message;
-}
-@end
-
-@interface ZQNumberIdentityService : NSObject
-@end
-
-static id g_delegate;
-
-@interface NSObject (CloudDelegate)
-- (void)numberIdentityService:(id)service
-      didGetMarkInfoFromCloud:(NSDictionary *)answer
-                        error:(NSError *)error;
-@end
-
-@implementation ZQNumberIdentityService
-+ (ZQNumberIdentity *)getIdentityOfRecord:(ZQCallRecord *)record
-                           ignoreDiagnose:(BOOL)ignoreDiagnose
-                                onlyLocal:(BOOL)onlyLocal
-                                 delegate:(id)delegate
-                              retryPeriod:(double)retryPeriod
-                              displayType:(int)displayType {
-    BOOL fromDialer = onlyLocal && !delegate && displayType == 3;
-    BOOL fromCall = delegate && displayType == 2;
-    if (!onlyLocal) {
-        g_delegate = delegate;
-    }
-    BOOL asExpected = ignoreDiagnose && !retryPeriod && (fromDialer || fromCall);
-    if (!asExpected || ![[record phoneNumber] isEqualToString:@"17700000061"]) {
-        return nil;
-    }
-    ZQNumberIdentity *identity = [[[ZQNumberIdentity alloc] init] autorelease];
-    [identity setIdentity:@"诈骗电话"];
-    [identity setType:7];
-    [identity setNumOfMark:37];
-    return identity;
-}
-
-// What the host tells the cloud to do, and what it left behind.
-+ (BOOL)isCloudAsked {
-    return g_delegate != nil;
-}
-+ (void)answer:(NSDictionary *)answer {
-    id delegate = g_delegate;
-    g_delegate = nil;
-    [delegate numberIdentityService:self didGetMarkInfoFromCloud:answer error:nil];
-}
-+ (int)storedKind {
-    return g_storedKind;
-}
-+ (NSString *)posted {
-    return g_posted;
 }
 @end

@@ -12,3 +12,6 @@ struct CGRect {
     CGPoint origin;
     CGSize size;
 };
+struct UIEdgeInsets {
+    CGFloat top, left, bottom, right;
+};

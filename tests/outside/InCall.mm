@@ -1,11 +1,11 @@
 // Somebody else's in-call screen, and what the add-on does to it.
 #include "Checks.h"
+#import "Companion.h"
 
 @interface NSObject (Cloud)
 + (BOOL)isCloudAsked;
 + (void)answer:(NSDictionary *)answer;
 + (int)storedKind;
-+ (NSString *)posted;
 @end
 
 @interface TUTelephonyCall : NSObject {
@@ -62,10 +62,6 @@
     BOOL centred;
     CGFloat points;
 }
-@end
-
-@interface NSObject (Font)
-- (CGFloat)pointSize;
 @end
 
 @implementation TPLCDTextView
@@ -211,7 +207,7 @@ static void checkView(TPLCDView *display) {
     [answer addEntriesFromDictionary:pairs(@"type", @"2", @"Amount", @"46")];
     [cloud answer:answer];
     check([cloud storedKind] == 10, "the answer is stored");
-    check([[cloud posted] isEqualToString:@"msgSystemProcessReloadAllNum"], "and announced");
+    check([[Stage posted] isEqualToString:@"msgSystemProcessReloadAllNum"], "and announced");
     [display layoutSubviews];
     check([[line text] isEqualToString:@"装修推销 | 46人标记"], "the cloud's answer is shown");
     [second release];

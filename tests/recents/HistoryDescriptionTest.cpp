@@ -188,6 +188,9 @@ TEST_F(HistoryDescription, ActionsOpenLinks) {
     EXPECT_EQ(links[2].substr(links[2].find('/', sizeof "http://")),
               "/web/searchList.jsp?uID=q-R-MwzzPa7KLcdE&v=5&w=1278&t=1368328313424&keyword=10086"
               "&pg=webSearchList&s=");
+    stub.raisesAt = "trimLeading86:";
+    EXPECT_EQ(press().size(), 2U) << "nobody would catch what the companion raises";
+    stub.raisesAt = {};
     stub.knowsNothing = true;
     EXPECT_EQ(press().size(), 2U) << "nothing to search for";
 }
