@@ -56,7 +56,7 @@ TEST_F(RecentsCommand, NamesTheMistakesOfACallHistoryByLine) {
     const std::string good = "1,,incoming,,no\n";
     const struct {
         std::string content;
-        const char *complaint;
+        std::string complaint;
     } cases[] = {
         {"", "a mistake, so that nothing of it is used; mend this:\n"},
         {"number,name\n", ":1: no heading; begin with"},

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "stage/Run.hpp"
 #include "stage/Session.hpp"
@@ -47,8 +48,9 @@ class StageRun : public testing::Test {
         return {code, out.str(), err.str()};
     }
 
-    std::filesystem::path folder_ = std::filesystem::path(testing::TempDir()) /
-                                    testing::UnitTest::GetInstance()->current_test_info()->name();
+    // Cases run as processes of their own, several at a time.
+    std::filesystem::path folder_ =
+        std::filesystem::path(testing::TempDir()) / ("zqdial-stage-" + std::to_string(getpid()));
 };
 
 }  // namespace test
