@@ -69,8 +69,9 @@ TEST_F(RecentsCommand, NamesTheMistakesOfACallHistoryByLine) {
         {heading + "1,\"a\"b,incoming,,no\n", ":2: text behind a closing quote"},
         {heading + "1,a\"b,incoming,,no\n", ":2: a quote inside a field"},
     };
-    for (const auto &[content, complaint] : cases) {
-        EXPECT_THAT(refusal([&] { stage::readCallsFile(file(content)); }), HasSubstr(complaint));
+    for (const auto &one : cases) {
+        const auto own = file(one.content);
+        EXPECT_THAT(refusal([&] { stage::readCallsFile(own); }), HasSubstr(one.complaint));
     }
     EXPECT_THAT(refusal([&] { stage::readCallsFile(folder_); }), HasSubstr("cannot be read"));
 }

@@ -89,6 +89,7 @@ TEST_F(DetailHeader, ExplainsTheNumberAndOffersItsActions) {
         {"2", "云南", "诈骗电话 | 37位用户标记", "纠错 标记 搜索 ", 187, 71, 112},
     };
     std::vector<phone::RecentCallFacts> calls;
+    calls.reserve(std::size(cases));
     for (const auto &one : cases) {
         calls.push_back({.number = one.number, .label = one.tagline, .date = kNoon});
     }

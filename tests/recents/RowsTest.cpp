@@ -112,6 +112,7 @@ INSTANTIATE_TEST_SUITE_P(Systems, RecentsRowsOnEverySystem, testing::Values("7.0
 
 TEST_F(RecentsRows, AReusedCellForgetsItsFormerCall) {
     std::vector<phone::RecentCallFacts> calls;
+    calls.reserve(60);
     for (int i = 0; i < 60; ++i) {
         calls.push_back(
             {.number = i % 2 == 0 ? "10001" : "30", .label = "北京", .date = kNoon - i});

@@ -24,7 +24,7 @@ class RecentsSwipe : public test::RecentsScreen {
         }
         stub.histories["6"] = {1, 1};
     }
-    ~RecentsSwipe() override { setListEditing(false); }
+    void TearDown() override { setListEditing(false); }
 
     void start(const char *version) {
         test::RecentsScreen::start(version, {{.number = "3", .date = kNoon + 0.9},
