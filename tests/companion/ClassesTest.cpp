@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include "CompanionRun.hpp"
-#include "uikit/Device.hpp"
 
 namespace companion {
 namespace {
@@ -18,9 +17,7 @@ constexpr std::string_view kWorld = R"({
   "marks": [{"number": "17700000061", "label": "诈骗电话", "count": 37},
             {"number": "13300000069", "label": "培训", "count": 0, "kind": 9, "source": null}],
   "blackList": [{"prefix": "1770"}],
-  "microblogs": [{"number": "18600000041", "name": "顾", "avatarType": 1, "boundType": 2}],
-  "history": [{"number": "17700000061", "actionType": 3, "date": "2014-06-12T09:14:05+08:00"}],
-  "storedCalls": [{"number": "17700000061", "date": "2014-06-12T09:14:05+08:00"}]
+  "microblogs": [{"number": "18600000041", "name": "顾", "avatarType": 1, "boundType": 2}]
 })";
 
 class Classes : public test::CompanionRun {
@@ -42,15 +39,6 @@ class Classes : public test::CompanionRun {
                 .autorelease();
         objc::send<void()>(object, "parse"_sel);
         return object;
-    }
-
-    static bool later(double version, bool include) {
-        return objc::send<bool(double, bool)>(
-            "ZQPhoneUtil"_cls, "isLaterThanIOSVersion:include:"_sel, version, include);
-    }
-    static bool earlier(double version, bool include) {
-        return objc::send<bool(double, bool)>(
-            "ZQPhoneUtil"_cls, "isEalierThanIOSVersion:include:"_sel, version, include);
     }
 };
 
@@ -98,7 +86,7 @@ TEST_F(Classes, LinesAreFormattedFromIdentities) {
     EXPECT_EQ(info("66668888"_ns, 1), "");
 }
 
-TEST_F(Classes, StoredAnswersAreFoundAgain) {
+TEST_F(Classes, StoredAnswersAreFoundAgainAndCounted) {
     const auto identity = make("ZQNumberIdentity"_cls);
     objc::send<void(NSString)>(identity, "setNumber:"_sel, "13000000101"_ns);
     objc::send<void(NSString)>(identity, "setIdentity:"_sel, "装修"_ns);
@@ -111,22 +99,10 @@ TEST_F(Classes, StoredAnswersAreFoundAgain) {
     EXPECT_EQ(property(found, "source"_ns).get(), nullptr);
     EXPECT_EQ(objc::send<float()>(found, "rating"_sel), 4.5F);
     objc::send<void(id)>(service, "insertOrUpdateNumberIdentityWithNumber:"_sel, nullptr);
-}
-
-TEST_F(Classes, CallsAreFoundByNumberAndSecond) {
-    const auto service = make("ZQCallRecordService"_cls);
-    const auto find = [&](NSString number, NSDate when) {
-        return objc::send<id(NSString, NSDate)>(service, "getRecordForNumber:atSysDate:"_sel,
-                                                number, when);
-    };
-    EXPECT_NE(find("17700000061"_ns, date(1402535645.4)), nullptr);
-    EXPECT_EQ(find("17700000061"_ns, date(1402535646)), nullptr);
-    EXPECT_EQ(find("17700000061"_ns, nullptr), nullptr);
-    const id history = objc::send<id()>("ZQSystemHistoryService"_cls, "defaultService"_sel);
-    const auto calls = objc::send<NSArray(NSString, std::int32_t)>(
-        history, "getAllCallHistoryByPhoneNumber:fromRecentCalls:"_sel, "17700000061"_ns, 100);
-    ASSERT_EQ(calls.count(), 1U);
-    EXPECT_EQ(objc::send<std::int32_t()>(calls.objectAtIndex(0), "actionType"_sel), 3);
+    objc::send<void(NSString, bool)>(
+        objc::send<id()>("ZQPingBackService"_cls, "currentService"_sel),
+        "asyncDoPingBackCount:immediately:"_sel, "cmkCall_C"_ns, false);
+    EXPECT_EQ(store().countOf("cmkCall_C"), 1);
 }
 
 TEST_F(Classes, PhoneNumbersKnowNothingBeforeTheyParse) {
@@ -158,14 +134,21 @@ TEST_F(Classes, ContactsAreFoundAndBecomePersons) {
     EXPECT_EQ(objc::send<id(NSString)>(service, "getPersonWithRecordID:"_sel, "110"_ns), nullptr);
 }
 
+TEST_F(Classes, PreferencesAreThereOnceTheyAreInitialized) {
+    EXPECT_EQ(objc::send<id()>("ZQPreference"_cls, "currentPreference"_sel), nullptr);
+    objc::send<void()>("ZQPreference"_cls, "InitializePreferences"_sel);
+    const id preference = objc::send<id()>("ZQPreference"_cls, "currentPreference"_sel);
+    objc::send<void(bool)>(preference, "setShowNumberArea:"_sel, false);
+    EXPECT_FALSE(objc::send<bool()>(preference, "showNumberArea"_sel));
+}
+
 TEST_F(Classes, BlackListAndMicroblogs) {
-    const auto hits = [](bool contact) {
-        return objc::send<bool(NSString, bool)>("ZQBlackListService"_cls,
-                                                "isCallHittedBlackList:inAddressBook:"_sel,
-                                                "17700000061"_ns, contact);
-    };
-    EXPECT_TRUE(hits(false));
-    EXPECT_FALSE(hits(true));
+    for (const bool isContact : {false, true}) {
+        EXPECT_NE(objc::send<bool(NSString, bool)>("ZQBlackListService"_cls,
+                                                   "isCallHittedBlackList:inAddressBook:"_sel,
+                                                   "17700000061"_ns, isContact),
+                  isContact);
+    }
     const auto service = make("ZQWeiboService"_cls);
     id profile = nullptr;
     id content = service;
@@ -180,44 +163,6 @@ TEST_F(Classes, BlackListAndMicroblogs) {
     EXPECT_EQ(content, nullptr);
     fill("110"_ns);
     EXPECT_EQ(profile, nullptr);
-}
-
-TEST_F(Classes, PreferencesAndStatisticsAreKept) {
-    EXPECT_EQ(objc::send<id()>("ZQPreference"_cls, "currentPreference"_sel), nullptr);
-    objc::send<void()>("ZQPreference"_cls, "InitializePreferences"_sel);
-    const id preference = objc::send<id()>("ZQPreference"_cls, "currentPreference"_sel);
-    EXPECT_TRUE(objc::send<bool()>(preference, "showNumberArea"_sel));
-    objc::send<void(bool)>(preference, "setShowNumberArea:"_sel, false);
-    EXPECT_FALSE(objc::send<bool()>(preference, "showNumberArea"_sel));
-    const id service = objc::send<id()>("ZQPingBackService"_cls, "currentService"_sel);
-    objc::send<void(NSString, bool)>(service, "asyncDoPingBackCount:immediately:"_sel,
-                                     "cmkCall_C"_ns, false);
-    EXPECT_EQ(store().countOf("cmkCall_C"), 1);
-}
-
-TEST_F(Classes, VersionsAndScreensAreTheDevices) {
-    sim::Device::setCurrent({"7.1.2", {320, 568}, 2});
-    EXPECT_TRUE(later(7.1, true));
-    EXPECT_FALSE(later(7.1, false));
-    EXPECT_TRUE(later(7.0, false));
-    EXPECT_TRUE(earlier(7.1, true));
-    EXPECT_FALSE(earlier(7.1, false));
-    EXPECT_TRUE(earlier(8.0, false));
-    EXPECT_TRUE(objc::send<bool()>("ZQPhoneUtil"_cls, "isIPhone5"_sel));
-    EXPECT_FALSE(objc::send<bool()>("ZQPhoneUtil"_cls, "isScreen35Inch"_sel));
-    sim::Device::setCurrent({"8.0", {320, 480}, 2});
-    EXPECT_TRUE(later(8.0, true));
-    EXPECT_TRUE(objc::send<bool()>("ZQPhoneUtil"_cls, "isScreen35Inch"_sel));
-}
-
-TEST_F(Classes, MarksAreGreyFromTheBarOn) {
-    const auto mark = objc::send<NSAttributedString(NSString, std::int32_t)>(
-        "ZQUIUtil"_cls, "getAttributedStringForMarkInfo:markAmount:"_sel, "推销"_ns, 37);
-    EXPECT_EQ(text(objc::send<id()>(mark, "string"_sel)), "推销 | 37人标记");
-    NSRange run{};
-    objc::send<id(NSUInteger, NSRange *)>(mark, "attributesAtIndex:effectiveRange:"_sel,
-                                          NSUInteger{4}, &run);
-    EXPECT_EQ(run, (NSRange{2, 8}));
 }
 
 }  // namespace

@@ -46,40 +46,37 @@ class StoreInFolder : public testing::Test {
     test::TemporaryFolder folder_;
 };
 
-TEST_F(StoreInFolder, RefusesADamagedFile) {
-    test::writeFile(file(), "not a database at all");
-    EXPECT_THAT(refusal(), testing::HasSubstr("is damaged or no companion store"));
-}
-
-TEST_F(StoreInFolder, RefusesATruncatedStore) {
-    {
-        const Store store(folder_.path(), world());
+TEST_F(StoreInFolder, RefusesAFileThatIsNoStoreOfItsOwn) {
+    const struct {
+        const char *complaint;
+        void (*damage)(const std::filesystem::path &file);
+    } cases[] = {
+        {"is damaged or no companion store",
+         [](const auto &file) { test::writeFile(file, "not a database at all"); }},
+        {"is damaged",
+         [](const auto &file) {
+             std::filesystem::resize_file(file, std::filesystem::file_size(file) / 2);
+         }},
+        {"is damaged",
+         [](const auto &file) {
+             test::writeFile(file, test::readFile(file).replace(4096, 8192, 8192, '\x5A'));
+         }},
+        {"is a database of another program",
+         [](const auto &file) {
+             std::filesystem::remove(file);
+             Database(file.string()).execute("CREATE TABLE diary (day TEXT)");
+         }},
+        {"is a companion store of version 7, not 1",
+         [](const auto &file) { Database(file.string()).execute("PRAGMA user_version = 7"); }},
+    };
+    for (const auto &[complaint, damage] : cases) {
+        std::filesystem::remove(file());
+        {
+            const Store store(folder_.path(), world());
+        }
+        damage(file());
+        EXPECT_THAT(refusal(), testing::HasSubstr(complaint));
     }
-    std::filesystem::resize_file(file(), std::filesystem::file_size(file()) / 2);
-    EXPECT_THAT(refusal(), testing::HasSubstr("is damaged"));
-}
-
-TEST_F(StoreInFolder, RefusesAStoreWithOverwrittenPages) {
-    {
-        const Store store(folder_.path(), world());
-    }
-    std::string bytes = test::readFile(file());
-    bytes.replace(4096, 8192, std::string(8192, '\x5A'));
-    test::writeFile(file(), bytes);
-    EXPECT_THAT(refusal(), testing::HasSubstr("is damaged"));
-}
-
-TEST_F(StoreInFolder, RefusesTheDatabaseOfAnotherProgram) {
-    Database(file().string()).execute("CREATE TABLE diary (day TEXT)");
-    EXPECT_THAT(refusal(), testing::HasSubstr("is a database of another program"));
-}
-
-TEST_F(StoreInFolder, RefusesAnotherVersion) {
-    {
-        const Store store(folder_.path(), world());
-    }
-    Database(file().string()).execute("PRAGMA user_version = 7");
-    EXPECT_THAT(refusal(), testing::HasSubstr("is a companion store of version 7, not 1"));
 }
 
 TEST_F(StoreInFolder, SaysWhenAnotherRunUsesIt) {
@@ -165,23 +162,16 @@ TEST_F(LoadedStore, SparesContactsOnlyFromPrefixRules) {
     EXPECT_FALSE(store_.isBlackListed("", false));
 }
 
-TEST_F(LoadedStore, AnswersTheRest) {
-    EXPECT_EQ(known(store_.partner(5012)).icon, "logo_restaurant.png");
+TEST_F(LoadedStore, KeepsANewPartnerAndFindsCallsBySecond) {
     EXPECT_FALSE(store_.partner(5999));
     store_.putPartner({.id = 5999, .name = "新店", .icon = "a.png", .source = "s"});
     EXPECT_EQ(known(store_.partner(5999)).name, "新店");
     EXPECT_EQ(store_.history("17700000061", 100).front().action, 3);
     EXPECT_EQ(store_.history("17700000061", 1).size(), 1U);
-    EXPECT_TRUE(store_.history("13800130011", 100).empty());
-    EXPECT_EQ(known(store_.microblog("18600000041")).avatarKind, 1);
     EXPECT_TRUE(store_.storedCall("17700000061", 1402535645.7));
     EXPECT_FALSE(store_.storedCall("17700000061", 1402535646));
-    EXPECT_EQ(known(store_.cloudAnswer("13000000108")).outcome, CloudAnswer::Outcome::error);
     EXPECT_EQ(known(store_.cloudAnswer("13000000108")).delay, 3.0);
     EXPECT_FALSE(known(store_.cloudAnswer("13000000101")).delay);
-    EXPECT_EQ(store_.recents().front().number, "17700000061");
-    EXPECT_TRUE(store_.showNumberArea());
-    EXPECT_EQ(store_.cloudDelay(), 1.5);
 }
 
 TEST(EmptyStore, KnowsNothingAndShowsAreas) {

@@ -98,6 +98,10 @@ TEST_P(HookTable, IsInstalledInOrder) {
     for (const substrate::HookEntry &entry : substrate::hookLog()) {
         if (entry.outcome != substrate::HookEntry::Outcome::MissingClass) {
             EXPECT_EQ(entry.replacement, exportedName(entry));
+            EXPECT_TRUE(entry.saved);
+            EXPECT_EQ(entry.outcome == substrate::HookEntry::Outcome::Added,
+                      entry.className == "UITableViewCellScrollView")
+                << "but for this one, the class itself has the method";
         }
     }
 }

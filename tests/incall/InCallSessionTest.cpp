@@ -94,7 +94,6 @@ TEST_P(InCallSession, AContactsRegionFollowsTheRunningTime) {
     EXPECT_TRUE(says("北京")) << said();
     perform(Kind::Answer);
     session_.wait(2s);
-    perform(Kind::Layout);
     EXPECT_TRUE(says("北京") && says("00:02")) << said();
     perform(Kind::Second, "18900000062");
     EXPECT_FALSE(says("北京")) << said();

@@ -36,6 +36,10 @@ class InCall : public testing::Test {
         sim::instance<SimWindow>(window_)->setRootViewController(screen_);
     }
 
+    void talkTo(NSString number) {
+        screen_->beginIncoming(number);
+        ASSERT_TRUE(screen_->answer());
+    }
     void letPass(int seconds) {
         const auto end = time_.now() + std::chrono::seconds(seconds);
         time_.letPass(std::chrono::seconds(seconds));

@@ -35,21 +35,26 @@ TEST_F(Labels, ShowPlainOrAttributedTextWhicheverCameLast) {
     EXPECT_EQ(label->attributedText(), nullptr);
 }
 
-TEST_F(Labels, DrawInTheirColoursCentredVertically) {
+TEST_F(Labels, DrawInTheirColoursAlignedAndCentredVertically) {
     sim::TextMeasurer::setCurrent(nullptr);
     auto *const label = view<SimLabel>("UILabel"_cls, rect(0, 0, 40, 60));
     label->setText("■"_ns);
     label->setTextColor(SimColor::make({1, 0, 0, 1}));
     EXPECT_NEAR(label->textRectForBounds(label->bounds(), 1).origin.y, 30 - 17 * 0.6, 0.01);
-    const sim::Canvas canvas = sim::snapshot(label);
-    bool red = false;
-    for (int pixel = 0; pixel < 120; ++pixel) {
-        const double y = pixel / 2.0;
-        const sim::Color color = canvas.colorAt({7, y});
-        red = red || color == sim::Color{1, 0, 0, 1};
-        EXPECT_TRUE(color.alpha == 0 || (y > 19 && y < 41)) << y;
+    for (const bool isLeft : {true, false}) {
+        label->setTextAlignment(isLeft ? sim::TextAlignment::Left : sim::TextAlignment::Right);
+        const sim::Canvas canvas = sim::snapshot(label);
+        bool red = false;
+        for (int row = 0; row < 120; ++row) {
+            for (int column = 0; column < 80; ++column) {
+                const sim::Color color = canvas.colorAt({column / 2.0, row / 2.0});
+                red = red || color == sim::Color{1, 0, 0, 1};
+                EXPECT_TRUE(color.alpha == 0 || (row > 38 && row < 82 && (column < 40) == isLeft))
+                    << column << ' ' << row;
+            }
+        }
+        EXPECT_TRUE(red);
     }
-    EXPECT_TRUE(red);
 }
 
 TEST_F(Labels, ShrinkOnlyWhenToldTo) {
@@ -63,36 +68,29 @@ TEST_F(Labels, ShrinkOnlyWhenToldTo) {
     EXPECT_DOUBLE_EQ(label->textRectForBounds(label->bounds(), 1).size.height, 14.4);
 }
 
-struct BoundsCase {
-    const char *name;
-    NSString (*text)();
-    CGSize room;
-    NSInteger options;
-    CGSize expected;
-};
-
 TEST_F(Strings, AreMeasuredInABoundingRectangle) {
-    const double free = 10'000;
-    const BoundsCase cases[] = {
-        {"Short", [] { return "广东 a"_ns; }, {165, 25}, 1, {42, 16.8}},
-        {"WrappedAtTheWidth",
-         [] { return "一二三四五六七八九十一二"_ns; },
-         {165, 25},
-         1,
-         {154, 16.8}},
-        {"TruncatedInOneLine", [] { return "12345 12345 12345"_ns; }, {60, 15}, 33, {56, 16.8}},
-        {"OneLineWithoutTheOption", [] { return "12345 12345"_ns; }, {20, 20}, 0, {77, 16.8}},
-        {"Unbounded", [] { return "a\nbb"_ns; }, {free, free}, 1, {14, 33.6}},
-        {"Empty", [] { return ""_ns; }, {free, free}, 1, {0, 0}},
+    constexpr CGSize kFree{10'000, 10'000};
+    const struct {
+        NSString text;
+        CGSize room;
+        NSInteger options;
+        CGSize expected;
+    } cases[] = {
+        {"广东 a"_ns, {165, 25}, 1, {42, 16.8}},
+        {"一二三四五六七八九十一二"_ns, {165, 25}, 1, {154, 16.8}},
+        {"12345 12345 12345"_ns, {60, 15}, 33, {56, 16.8}},
+        {"12345 12345"_ns, {20, 20}, 0, {77, 16.8}},
+        {"a\nbb"_ns, kFree, 1, {14, 33.6}},
+        {""_ns, kFree, 1, {0, 0}},
     };
     const auto attributes =
         NSDictionary::withObject(SimFont::systemFontOfSize(14), NSObject(NSFontAttributeName));
-    for (const BoundsCase &test : cases) {
+    for (const auto &[text, room, options, expected] : cases) {
         const CGRect bounds = send<CGRect(CGSize, NSInteger, NSDictionary, NSObject)>(
-            test.text(), "boundingRectWithSize:options:attributes:context:"_sel, test.room,
-            test.options, attributes, nullptr);
-        EXPECT_DOUBLE_EQ(bounds.size.width, test.expected.width) << test.name;
-        EXPECT_DOUBLE_EQ(bounds.size.height, test.expected.height) << test.name;
+            text, "boundingRectWithSize:options:attributes:context:"_sel, room, options, attributes,
+            nullptr);
+        EXPECT_DOUBLE_EQ(bounds.size.width, expected.width) << text.UTF8String();
+        EXPECT_DOUBLE_EQ(bounds.size.height, expected.height) << text.UTF8String();
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "UIKitTestCase.hpp"
 #include "uikit/Registration.hpp"
+#include "uikit/SimViewController.hpp"
 #include "uikit/SimWindow.hpp"
 #include "uikit/ViewTree.hpp"
 
@@ -24,7 +25,6 @@ class CountingView : public SimView {
         objc::sendSuper<CountingView, void()>(this, "layoutSubviews"_sel);
     }
     void didMoveToWindow() { windows += window() != nullptr ? "+" : "-"; }
-    CGSize sizeThatFits(CGSize) { return {33, 44}; }
 
     std::string windows;
     int layouts = 0;
@@ -35,7 +35,6 @@ class CountingView : public SimView {
             objc::ClassBuilder<CountingView>("CountingView", "UIView")
                 .method("layoutSubviews"_sel, objc::member<&CountingView::layoutSubviews>)
                 .method("didMoveToWindow"_sel, objc::member<&CountingView::didMoveToWindow>)
-                .method("sizeThatFits:"_sel, objc::member<&CountingView::sizeThatFits>)
                 .finish());
         return g_class;
     }
@@ -53,12 +52,6 @@ TEST_F(Views, KeepFramesExactlyAndDeriveTheRest) {
     EXPECT_EQ(view->bounds(), rect(5, 6, 10, 20));
     EXPECT_EQ(send<CGSize()>(asId(view), "intrinsicContentSize"_sel), (CGSize{-1, -1}));
     EXPECT_ANY_THROW(view->setFrame(rect(0, 0, std::nan(""), 1)));
-}
-
-TEST_F(Views, SizeToFitAsksTheSubclass) {
-    auto *const view = this->view<SimView>(CountingView::define(), rect(1, 2, 3, 4));
-    send<void()>(asId(view), "sizeToFit"_sel);
-    EXPECT_EQ(view->frame(), rect(1, 2, 33, 44));
 }
 
 std::string order(SimView *parent) {
@@ -154,6 +147,18 @@ TEST_F(Views, LayOutOnceWhenNeededAndHearOfWindows) {
     EXPECT_EQ(inner->windows, "+-");
 }
 
+TEST_F(Views, ControllersLoadThemOnceAndOwnTheirChildren) {
+    auto *const controller = sim::autoreleased<SimViewController>();
+    EXPECT_FALSE(controller->isViewLoaded());
+    const auto loaded = send<UIView()>(id(*controller), "view"_sel);
+    EXPECT_EQ(send<UIView()>(id(*controller), "view"_sel), loaded);
+    auto *const child = sim::autoreleased<SimViewController>();
+    controller->addChildViewController(child);
+    EXPECT_EQ(child->parentViewController(), controller);
+    child->removeFromParentViewController();
+    EXPECT_EQ(controller->childViewControllers().count(), 0U);
+}
+
 TEST_F(Views, ConvertAndHitThroughScrolledBounds) {
     auto *const window = view<SimWindow>("UIWindow"_cls, rect(0, 0, 320, 480));
     auto *const scrolled = view<SimView>("UIView"_cls, rect(10, 20, 100, 100));
@@ -182,11 +187,6 @@ TEST_F(Views, AreDumpedLineByLine) {
     EXPECT_EQ(sim::viewTree(root),
               "UIView (0, 0, 320, 480)\n"
               "  UILabel #1002 (1.5, 2.25, 0.333, 0) hidden \"标记 \\\"5\\\"\\n\"\n");
-}
-
-TEST_F(Views, RefuseMessagesTheyDoNotKnow) {
-    auto *const view = this->view<SimView>("UIView"_cls, {});
-    EXPECT_ANY_THROW(send<void()>(asId(view), "startAnimatingWildly"_sel));
 }
 
 }  // namespace
