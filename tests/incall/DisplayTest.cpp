@@ -199,7 +199,9 @@ TEST_F(InCallScreen, AvatarsNeedAMobileNumberAndAPicture) {
 
 TEST_F(InCallScreen, AContactsRegionStandsInTheLabelSince71) {
     start(7.1);
-    for (const auto display : {lcd().as<InCallDisplay>(), field().as<InCallDisplay>()}) {
+    // The Phone application writes its own label in two sizes.
+    for (const auto &[display, points] : {std::pair{lcd().as<InCallDisplay>(), CGFloat{16}},
+                                          {field().as<InCallDisplay>(), CGFloat{14}}}) {
         const TPLCDLabelView label = display.labelView();
         send<void(NSString)>(label, "setText:"_sel, "手机"_ns);
         const auto call = begin({"10001", false, 4});
@@ -208,7 +210,7 @@ TEST_F(InCallScreen, AContactsRegionStandsInTheLabelSince71) {
         EXPECT_EQ(textOf(label), "四川 | 手机") << "once";
         const UIView icon = findRegionIcon(label);
         ASSERT_TRUE(isShown(icon));
-        const CGFloat textWidth = 4 * CGFloat{label.fontSize()} + 3 * label.fontSize() / 2;
+        const CGFloat textWidth = 4 * points + 3 * points / 2;
         EXPECT_EQ(icon.frame(), rect((label.frame().size.width - textWidth) / 2 - 20, 3, 15, 15));
         EXPECT_FALSE(display.viewWithTag(kFieldDescriptionTag) ||
                      display.viewWithTag(kDescriptionTag));
@@ -216,10 +218,10 @@ TEST_F(InCallScreen, AContactsRegionStandsInTheLabelSince71) {
         send<void(NSString)>(label, "setText:"_sel, "四川 | 00:07"_ns);
         layOut(display);
         const CGFloat width = label.frame().size.width;
-        EXPECT_EQ(icon.frame().origin.x, (width - 6 * label.fontSize()) / 2 - 15);
+        EXPECT_EQ(icon.frame().origin.x, (width - 6 * points) / 2 - 15);
         send<void(NSString)>(label, "setText:"_sel, "四川 | 01:00:07"_ns);
         layOut(display);
-        EXPECT_EQ(icon.frame().origin.x, (width - 7 * label.fontSize()) / 2 - 15);
+        EXPECT_EQ(icon.frame().origin.x, (width - 7 * points) / 2 - 15);
 
         auto second = begin({"10002"});
         layOut(display);

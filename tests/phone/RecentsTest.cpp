@@ -10,6 +10,7 @@
 #include "phone/recents/PHRecentsViewController.hpp"
 #include "phone/recents/RecentsDate.hpp"
 #include "stage/VisibleTexts.hpp"
+#include "substrate/MSHookMessageEx.hpp"
 #include "uikit/Device.hpp"
 #include "uikit/Finger.hpp"
 #include "uikit/Foundation.hpp"
@@ -21,6 +22,15 @@ namespace {
 using phone::PHRecentCall;
 
 constexpr double kNoon = 1402545600;  // 2014-06-12, 12:00 in Beijing
+
+// What an add-on hears when the list comes back.
+int g_appearances = 0;
+void (*g_willAppear)(id, SEL, BOOL) = nullptr;
+
+void willAppear(id self, SEL selector, BOOL animated) {
+    ++g_appearances;
+    g_willAppear(self, selector, animated);
+}
 
 class Recents : public testing::Test {
   protected:
@@ -106,6 +116,8 @@ TEST_F(Recents, DetailsAreOfTheCallsContactOrStranger) {
         {"luna@example.org | 来电", -1, 0},
         {"未知号码 | 来电", -1, 0},
     };
+    MSHookMessageEx(objc::findClass("PhoneViewController"), "viewWillAppear:"_sel,
+                    reinterpret_cast<IMP>(&willAppear), reinterpret_cast<IMP *>(&g_willAppear));
     NSInteger row = 0;
     for (const auto &[head, recordId, numbers] : rows) {
         ASSERT_TRUE(list_->openDetail(row++));
@@ -117,6 +129,7 @@ TEST_F(Recents, DetailsAreOfTheCallsContactOrStranger) {
         EXPECT_FALSE(list_->swipe(0, 50));
         sim::tap(sim::instance<SimView>(list_->detail()->backButton()));
         EXPECT_EQ(list_->detail(), nullptr);
+        EXPECT_EQ(g_appearances, row);
     }
     EXPECT_FALSE(list_->back());
 }
