@@ -90,8 +90,6 @@ bool isListEditing() { return g_isListEditing; }
 
 void setTableStatus(NSObject isEditing) { g_isListEditing = boolOf(isEditing); }
 
-int32_t menuSlots() { return g_menuButtonCount; }
-
 void addButtonMenu(PHRecentsCell cell) {
     if (g_isListEditing) {
         return;

@@ -15,8 +15,6 @@ void setTableStatus(NSObject isEditing);
 /// Puts the buttons into the open delete confirmation of `cell`, once for each time it opens;
 /// nothing happens where there is none.
 void addButtonMenu(PHRecentsCell cell);
-/// The slots of the menu last added, the delete button's included; 0 before there was one.
-int32_t menuSlots();
 
 /// Takes note of the call whose row is swiped, for the menu's buttons.
 void rememberCall(PHRecentsCell cell);
