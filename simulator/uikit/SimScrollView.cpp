@@ -40,12 +40,6 @@ CGPoint SimScrollView::nearestRest(CGPoint offset) const {
             std::max(-contentInset_.top, std::min(offset.y, bottom))};
 }
 
-void SimScrollView::dragTo(CGPoint offset, CGPoint velocity) {
-    tell("scrollViewWillBeginDragging:"_sel);
-    objc::send<void(CGPoint)>(id(*this), "setContentOffset:"_sel, offset);
-    endDragging(velocity, nearestRest(offset));
-}
-
 void SimScrollView::endDragging(CGPoint velocity, CGPoint target) {
     constexpr auto kWillEnd = "scrollViewWillEndDragging:withVelocity:targetContentOffset:"_sel;
     const NSObject delegate(delegate_);

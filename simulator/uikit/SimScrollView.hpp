@@ -22,8 +22,6 @@ class SimScrollView : public SimView {
     /// Not retained; it hears scrollViewDidScroll:.
     void setDelegate(NSObject delegate) { delegate_ = delegate; }
 
-    /// A finger's drag from here to there, and its end.
-    void dragTo(CGPoint offset, CGPoint velocity);
     /// The finger is lifted. The delegate is asked through
     /// scrollViewWillEndDragging:withVelocity:targetContentOffset: where to come to rest; it finds
     /// `target` and may change it.
