@@ -72,9 +72,9 @@ TEST_F(Strings, AreMeasuredInABoundingRectangle) {
     constexpr CGSize kFree{10'000, 10'000};
     const struct {
         NSString text;
-        CGSize room;
-        NSInteger options;
-        CGSize expected;
+        CGSize room{};
+        NSInteger options = 0;
+        CGSize expected{};
     } cases[] = {
         {"广东 a"_ns, {165, 25}, 1, {42, 16.8}},
         {"一二三四五六七八九十一二"_ns, {165, 25}, 1, {154, 16.8}},
