@@ -38,7 +38,8 @@ mapfile -t failed < <(find "$reports" -type f ! -name '*.log')
 count=0
 if [ ${#failed[@]} -ne 0 ]; then
     awk -v finding="$finding" '$0 ~ finding { shown = !seen[$0]++ } shown' "${failed[@]}"
-    count="$(cat "${failed[@]}" | grep -E "$finding" | sort -u | wc -l)"
+    count="$(awk -v finding="$finding" '$0 ~ finding && !seen[$0]++ { n++ } END { print n + 0 }' \
+        "${failed[@]}")"
 fi
 for report in "${failed[@]}"; do
     if ! grep -qE "$finding" "$report"; then # clang-tidy itself failed: its own words say why
