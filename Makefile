@@ -1,6 +1,11 @@
 # The everyday commands. Each installs the Debian packages it needs, if any are missing, and builds
 # what it works on; none needs an environment variable.
-.PHONY: help demo test build bench asan tsan clang format lint device-check contract
+.PHONY: help demo test build bench asan tsan clang format lint contract device
+
+# The slices of the library that "make device" builds, and the host that its web search asks; empty:
+# as in src/recents/actions.cpp.
+SLICES = armv7 arm64
+SEARCH_HOST =
 
 help:
 	@echo 'make demo          build, draw every scene into build/demo, describe some numbers'
@@ -12,7 +17,7 @@ help:
 	@echo 'make format        format the sources'
 	@echo 'make lint          check format and style of the sources'
 	@echo 'make contract      check what libZQDial.so shows and takes'
-	@echo 'make device-check  compile the library for iOS, both targets'
+	@echo 'make device        build the library for iOS and its package into build/device, check them'
 
 packages-%:
 	@tools/install-packages.sh $*
@@ -50,5 +55,8 @@ lint: packages-build packages-lint
 	@cmake --preset host >/dev/null
 	@tools/lint.sh
 
-device-check: packages-device
-	@tools/device-check.sh
+device: packages-device $(if $(filter armv7,$(SLICES)),packages-armv7)
+	@cmake -S device -B build/device -G Ninja "-DZQDIAL_SEARCH_HOST=$(SEARCH_HOST)" \
+		"-DSLICES=$(subst $() ,;,$(strip $(SLICES)))" >/dev/null
+	@cmake --build build/device
+	@cmake --build build/device --target check

@@ -6,8 +6,12 @@ set -euo pipefail
 list="$(dirname "$(readlink -f "$0")")/../packages.txt"
 
 fail() {
-    echo "install-packages: $1" >&2
-    exit "${2:-1}"
+    echo "install-packages: $*" >&2
+    exit 1
+}
+usage() {
+    echo "install-packages: $*" >&2
+    exit 2
 }
 
 # Prints "package<tab>reason" for every package of group $1.
@@ -25,10 +29,10 @@ isAvailable() {
     [[ "$(apt-cache policy "$1" 2>/dev/null)" =~ Candidate:\ [0-9] ]]
 }
 
-groups="$(sed -nE 's/^\[([a-z]+)\].*/\1/p' "$list" | xargs)"
-[ $# -gt 0 ] || fail "usage: install-packages.sh GROUP... with groups: $groups" 2
+groups="$(sed -nE 's/^\[([a-z0-9-]+)\].*/\1/p' "$list" | xargs)"
+[ $# -gt 0 ] || usage "usage: install-packages.sh GROUP... with groups: $groups"
 for group in "$@"; do
-    [[ " $groups " == *" $group "* ]] || fail "no group '$group' in packages.txt: use $groups" 2
+    [[ " $groups " == *" $group "* ]] || usage "no group '$group' in packages.txt: use $groups"
 done
 command -v apt-get dpkg-query >/dev/null ||
     fail "no apt here: install the counterparts of the packages in packages.txt by hand"
@@ -72,9 +76,10 @@ for name in "${missing[@]}"; do
         break
     fi
 done
-for name in "${missing[@]}"; do
-    isAvailable "$name" ||
-        fail "this system has no package $name: use Debian 12 or newer, or Ubuntu 24.04 or newer"
+for index in "${!missing[@]}"; do
+    read -r name reason <<<"${reasons[index]}"
+    isAvailable "$name" || fail "this system has no package $name ($reason): use Debian 12," \
+        "or another Debian or Ubuntu that has it"
 done
 
 install=(install --no-install-recommends "${missing[@]}")

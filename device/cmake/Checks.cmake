@@ -1,0 +1,21 @@
+# The checks of what was built: "check" reads library and package again with code of its own and prints
+# the sizes.
+
+set(commands
+    COMMAND ${RUN_PYTHON} -m checker.check_dylib "${LIBRARY}" --root "${SOURCE_ROOT}"
+        --slices ${SLICES})
+if(PACKAGE)
+    list(APPEND commands
+        COMMAND ${RUN_PYTHON} -m checker.check_package "${PACKAGE}" --library "${LIBRARY}"
+            --version ${PROJECT_VERSION} --root "${SOURCE_ROOT}")
+else()
+    list(APPEND commands COMMAND ${CMAKE_COMMAND} -E echo
+        "device: built the slice ${SLICES} alone; no package, since one slice does not serve every phone")
+endif()
+add_custom_target(check
+    ${commands}
+    COMMAND ${RUN_PYTHON} -m checker.size_table "${LIBRARY}"
+    DEPENDS library $<TARGET_NAME_IF_EXISTS:package>
+    COMMENT "Checking the library and its package"
+    USES_TERMINAL
+    VERBATIM)
