@@ -9,7 +9,8 @@ from pathlib import Path
 if not __package__:
     sys.path.insert(0, str(Path(__file__).resolve().parent.parent))
 
-from checker import command_checks, layout_checks, pointer_checks, signature_checks, symbol_checks
+from checker import code_checks, command_checks, layout_checks
+from checker import pointer_checks, signature_checks, symbol_checks
 from checker.bounded import BadImage, Block
 from checker.contract import ARCHS, BadContract, Contract, load
 from checker.fat_checks import arch_of, check_fat
@@ -32,6 +33,7 @@ CHECKS: tuple[Callable[[Slice, Contract], Iterator[Problem]], ...] = (
     symbol_checks.check_exports,
     symbol_checks.check_imports,
     symbol_checks.check_binds,
+    code_checks.check_branches,
     pointer_checks.check_places,
     pointer_checks.check_targets,
     pointer_checks.check_slots,

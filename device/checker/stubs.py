@@ -87,9 +87,9 @@ def helper_offset(image: Slice, address: int | None) -> int | None:
     if words is None or helper is None or address is None or words[0] != HELPER_LOADS[image.arch]:
         return None
     if image.arch == "armv7":
-        is_branch, target = words[1] >> 24 == 0xEA, address + 12 + 4 * _signed(words[1], 24)
+        is_branch, target = words[1] >> 24 == 0xEA, address + 12 + 4 * signed(words[1], 24)
     else:
-        is_branch, target = words[1] >> 26 == 0x5, address + 4 + 4 * _signed(words[1], 26)
+        is_branch, target = words[1] >> 26 == 0x5, address + 4 + 4 * signed(words[1], 26)
     return words[2] if is_branch and target == helper.address else None
 
 
@@ -98,7 +98,7 @@ def _matches(words: tuple[int, ...], patterns: tuple[tuple[int, int], ...]) -> b
 
 
 def _page(adrp: int, address: int) -> int:
-    pages = _signed(adrp >> 3 & 0x1FFFFC | adrp >> 29 & 3, 21)
+    pages = signed(adrp >> 3 & 0x1FFFFC | adrp >> 29 & 3, 21)
     return (address & ~0xFFF) + (pages << 12)
 
 
@@ -107,6 +107,7 @@ def _loaded_from(words: tuple[int, ...], address: int) -> int:
     return _page(words[0], address) + 8 * (words[1] >> 10 & 0xFFF)
 
 
-def _signed(value: int, bits: int) -> int:
+def signed(value: int, bits: int) -> int:
+    """Returns the lowest `bits` of a word as a number with a sign."""
     low = value & ((1 << bits) - 1)
     return low - (1 << bits) if low >> (bits - 1) else low

@@ -52,18 +52,18 @@ function(zqdial_device_object result slice source)
     set(compile "${CLANG}" ${targetOptions_${slice}} ${compileOptions}
         -MMD -MF "${object}.d" -MT "${object}" "${input}")
     if(slice STREQUAL armv7)
-        # By way of assembly, for the sake of the pointers that the older linker would lose.
-        set(pointers "${CMAKE_CURRENT_SOURCE_DIR}/armv7_pointers.sed")
+        # By way of assembly, changed where the older linker would make wrong code of it.
+        set(changes "${CMAKE_CURRENT_SOURCE_DIR}/armv7_assembly.sed")
         set(commands
             COMMAND ${compile} -S -o "${object}.compiled.s"
-            COMMAND sed -f "${pointers}" "${object}.compiled.s" > "${object}.s"
+            COMMAND sed -f "${changes}" "${object}.compiled.s" > "${object}.s"
             COMMAND "${CLANG}" ${targetOptions_armv7} -c "${object}.s" -o "${object}")
     else()
-        set(pointers)
+        set(changes)
         set(commands COMMAND ${compile} -c -o "${object}")
     endif()
     add_custom_command(OUTPUT "${object}" ${commands}
-        DEPENDS "${input}" ${sysroot} ${pointers}
+        DEPENDS "${input}" ${sysroot} ${changes}
         DEPFILE "${object}.d"
         COMMENT "${slice}: src/${source}"
         VERBATIM)

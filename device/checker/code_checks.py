@@ -1,0 +1,104 @@
+"""Checks of the code's own branches: a linker that mixes symbols up leaves calls into data, or into
+the middle of a function."""
+
+import bisect
+import struct
+from collections.abc import Iterator
+
+from checker.bounded import Block, Cursor
+from checker.contract import Contract
+from checker.macho import LC_DATA_IN_CODE, LC_FUNCTION_STARTS, Slice, body
+from checker.records import Section
+from checker.report import MEND_BUILD, Problem
+from checker.stubs import signed
+
+CODE, STUBS = ("__TEXT", "__text"), ("__TEXT", "__stubs")
+WORD = 4
+# armv7: how far ahead of an instruction its pc reads.
+ARMV7_PC_AHEAD = 8
+ARMV7_ALWAYS_AND_MORE = 0xF  # in place of a condition: not a plain branch
+
+
+def check_branches(image: Slice, _: Contract) -> Iterator[Problem]:
+    """Checks that calls lead to the beginning of a function or to a stub, jumps into either."""
+    code, stubs = image.section(*CODE), image.section(*STUBS)
+    if code is None or stubs is None:
+        yield Problem("it has no code, or no stubs", MEND_BUILD)
+        return
+    starts = function_starts(image)
+    if not starts or not all(code.holds(start) for start in starts):
+        yield Problem(
+            "its table of function starts is missing or leads out of the code", MEND_BUILD
+        )
+        return
+    beginnings = set(starts)
+    for address, target, is_call in _branches(image, code):
+        here = f"the branch at {address:#x}"
+        if stubs.holds(target):
+            if (target - stubs.address) % stubs.reserved2:
+                yield Problem(f"{here} leads into the middle of a stub, {target:#x}", MEND_BUILD)
+        elif not code.holds(target):
+            yield Problem(f"{here} leads out of the code, to {target:#x}", MEND_BUILD)
+        elif target not in beginnings and (is_call or _function(starts, address, target)):
+            yield Problem(f"{here} leads into another function, to {target:#x}", MEND_BUILD)
+
+
+def function_starts(image: Slice) -> list[int]:
+    """Returns the addresses at which functions begin, in order; empty without the table."""
+    starts: list[int] = []
+    address = image.segments[0].address if image.segments else 0
+    for command in image.commands_of(LC_FUNCTION_STARTS):
+        offset, size = body(command).numbers("<2I", 8)
+        cursor = Cursor(Block(image.block.take(offset, size), "the table of function starts"))
+        while not cursor.at_end():
+            step = cursor.unsigned()
+            if not step:  # the end, and what fills the table up
+                break
+            address += step
+            starts.append(address)
+    return starts
+
+
+def _function(starts: list[int], address: int, target: int) -> bool:
+    """Tells whether two addresses lie in different functions."""
+    return bisect.bisect_right(starts, address) != bisect.bisect_right(starts, target)
+
+
+def _data_in_code(image: Slice) -> Iterator[tuple[int, int]]:
+    """Yields the ranges of the file, as offset and end, that are data amid the code."""
+    for command in image.commands_of(LC_DATA_IN_CODE):
+        offset, size = body(command).numbers("<2I", 8)
+        for at in range(0, size - size % 8, 8):
+            start, length, _ = struct.unpack("<IHH", image.block.take(offset + at, 8))
+            yield start, start + length
+
+
+def _branches(image: Slice, code: Section) -> Iterator[tuple[int, int, bool]]:
+    """Yields address and target of every direct branch, and whether it is a call."""
+    decode = _arm64_branch if image.wide else _armv7_branch
+    content = image.content(code)
+    data = {at for start, end in _data_in_code(image) for at in range(start, end, WORD)}
+    for index, (word,) in enumerate(struct.iter_unpack("<I", content[: len(content) & -WORD])):
+        if code.offset + WORD * index in data:
+            continue
+        branch = decode(word)
+        if branch:
+            address = code.address + WORD * index
+            distance, is_call = branch
+            yield address, address + distance, is_call
+
+
+def _armv7_branch(word: int) -> tuple[int, bool] | None:
+    if word >> 25 & 7 != 5 or word >> 28 == ARMV7_ALWAYS_AND_MORE:
+        return None
+    return ARMV7_PC_AHEAD + WORD * signed(word, 24), bool(word >> 24 & 1)
+
+
+def _arm64_branch(word: int) -> tuple[int, bool] | None:
+    if word >> 26 & 0x1F == 0x05:  # b, bl
+        return WORD * signed(word, 26), bool(word >> 31)
+    if word >> 24 == 0x54 or word >> 25 & 0x3F == 0x1A:  # on a condition, on a register being zero
+        return WORD * signed(word >> 5, 19), False
+    if word >> 25 & 0x3F == 0x1B:  # on a bit
+        return WORD * signed(word >> 5, 14), False
+    return None
