@@ -1,6 +1,6 @@
 # The everyday commands. Each installs the Debian packages it needs, if any are missing, and builds
 # what it works on; none needs an environment variable.
-.PHONY: help demo test build bench asan tsan clang format lint contract device
+.PHONY: help demo test build bench asan tsan clang format lint contract device device-test
 
 # The slices of the library that "make device" builds, and the host that its web search asks; empty:
 # as in src/recents/actions.cpp.
@@ -18,6 +18,7 @@ help:
 	@echo 'make lint          check format and style of the sources'
 	@echo 'make contract      check what libZQDial.so shows and takes'
 	@echo 'make device        build the library for iOS and its package into build/device, check them'
+	@echo 'make device-test   build it twice, and break it on purpose to see the checks notice'
 
 packages-%:
 	@tools/install-packages.sh $*
@@ -60,3 +61,6 @@ device: packages-device $(if $(filter armv7,$(SLICES)),packages-armv7)
 		"-DSLICES=$(subst $() ,;,$(strip $(SLICES)))" >/dev/null
 	@cmake --build build/device
 	@cmake --build build/device --target check
+
+device-test: device
+	@ctest --test-dir build/device --output-on-failure --no-tests=error --parallel "$$(nproc)"

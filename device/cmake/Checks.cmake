@@ -1,5 +1,5 @@
 # The checks of what was built: "check" reads library and package again with code of its own and prints
-# the sizes.
+# the sizes; the tests build the library once more and hand the checks broken inputs.
 
 set(commands
     COMMAND ${RUN_PYTHON} -m checker.check_dylib "${LIBRARY}" --root "${SOURCE_ROOT}"
@@ -19,3 +19,15 @@ add_custom_target(check
     COMMENT "Checking the library and its package"
     USES_TERMINAL
     VERBATIM)
+
+enable_testing()
+add_test(NAME reproducible
+    COMMAND "${SOURCE_ROOT}/tests/device/reproducible.sh" "${SOURCE_ROOT}"
+        "${CMAKE_CURRENT_BINARY_DIR}")
+foreach(faults IN ITEMS build library package)
+    add_test(NAME faults.${faults}
+        COMMAND ${RUN_PYTHON} -m unittest -v test_${faults}
+        WORKING_DIRECTORY "${SOURCE_ROOT}/tests/device")
+    set_tests_properties(faults.${faults} PROPERTIES
+        ENVIRONMENT "ZQDIAL_DEVICE_BUILD=${CMAKE_CURRENT_BINARY_DIR}")
+endforeach()
