@@ -8,7 +8,6 @@
 namespace objc {
 namespace {
 
-/// UTF-16 units that grow: short texts, which nearly all are, stay within the object.
 /// A cut may have left half a surrogate pair.
 void replaceHalfCharacters(std::span<char16_t> units) {
     constexpr char16_t kReplacement = 0xFFFD;
@@ -24,6 +23,7 @@ void replaceHalfCharacters(std::span<char16_t> units) {
     }
 }
 
+/// UTF-16 units that grow: short texts, which nearly all are, stay within the object.
 class Units {
   public:
     /// Room for `count` more units, to be filled by the caller.
