@@ -18,7 +18,7 @@ help:
 	@echo 'make lint          check format and style of the sources'
 	@echo 'make contract      check what libZQDial.so shows and takes'
 	@echo 'make device        build the library for iOS and its package into build/device, check them'
-	@echo 'make device-test   build it twice, and break it on purpose to see the checks notice'
+	@echo 'make device-test   run it on emulated CPUs, and break it on purpose to see the checks notice'
 
 packages-%:
 	@tools/install-packages.sh $*
@@ -62,5 +62,5 @@ device: packages-device $(if $(filter armv7,$(SLICES)),packages-armv7)
 	@cmake --build build/device
 	@cmake --build build/device --target check
 
-device-test: device
+device-test: device packages-emulator
 	@ctest --test-dir build/device --output-on-failure --no-tests=error --parallel "$$(nproc)"

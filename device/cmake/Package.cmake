@@ -26,3 +26,10 @@ if(armv7 IN_LIST SLICES AND arm64 IN_LIST SLICES)
         VERBATIM)
     add_custom_target(package ALL DEPENDS "${PACKAGE}")
 endif()
+
+# A package of another version, or of both slices beside a library of one, would be taken for today's.
+file(GLOB stale "${CMAKE_CURRENT_BINARY_DIR}/*.deb")
+list(REMOVE_ITEM stale "${PACKAGE}")
+if(stale)
+    file(REMOVE ${stale})
+endif()
