@@ -53,6 +53,7 @@ format: packages-lint
 
 lint: packages-build packages-lint
 	@tools/format.sh --check
+	@mypy device tests/device
 	@cmake --preset host >/dev/null
 	@tools/lint.sh
 

@@ -1,25 +1,33 @@
 #!/usr/bin/env bash
-# Formats every C++ file of the project, or with --check only names those that are not formatted.
+# Formats every C++ and Python file of the project, or with --check only names those that are not.
 set -euo pipefail
 
 cd "$(dirname "$(readlink -f "$0")")/.."
 case "${1-}" in
-"") mode=(-i) ;;
---check) mode=(--dry-run -Werror) ;;
+"") mode=(-i) pythonMode=() ;;
+--check) mode=(--dry-run -Werror) pythonMode=(--check) ;;
 *)
     echo "usage: format.sh [--check]" >&2
     exit 2
     ;;
 esac
-if ! command -v clang-format-19 >/dev/null; then
-    echo "format: no clang-format-19: run tools/install-packages.sh lint" >&2
-    exit 1
-fi
+for tool in clang-format-19 black; do
+    if ! command -v "$tool" >/dev/null; then
+        echo "format: no $tool: run tools/install-packages.sh lint" >&2
+        exit 1
+    fi
+done
 
 mapfile -d '' files < <(find src simulator tests bench -name '*.[ch]pp' -print0 | sort -z)
-if ! printf '%s\0' "${files[@]}" |
-    xargs -0 -n 20 -P "$(nproc)" clang-format-19 --ferror-limit=1 "${mode[@]}"; then
+failed=
+printf '%s\0' "${files[@]}" |
+    xargs -0 -n 20 -P "$(nproc)" clang-format-19 --ferror-limit=1 "${mode[@]}" || failed=yes
+if ! words="$(black "${pythonMode[@]}" device tests/device 2>&1)"; then
+    echo "$words" >&2
+    failed=yes
+fi
+if [ -n "$failed" ]; then
     echo "format: the files named above are not formatted: run 'make format'" >&2
     exit 1
 fi
-echo "format: ${#files[@]} files formatted"
+echo "format: ${#files[@]} C++ files and the Python files formatted"
