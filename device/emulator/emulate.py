@@ -1,10 +1,14 @@
 """Runs every scenario on each slice of a device library: emulate LIBRARY [--slices ...]."""
 
 import argparse
+import importlib.util
 import sys
 import threading
 import traceback
 from pathlib import Path
+
+if importlib.util.find_spec("unicorn") is None:
+    sys.exit("emulate: no Python module unicorn: install the package python3-unicorn")
 
 from checker.macho import BadImage, Slice, read
 

@@ -91,6 +91,11 @@ def main() -> int:
     except (BadImage, OSError) as error:
         print(f"finish_dylib: {arguments.linked}: {error}", file=sys.stderr)
         return 1
+    except (struct.error, ValueError):  # a read beyond the end
+        print(
+            f"finish_dylib: {arguments.linked}: not a whole image: link it again", file=sys.stderr
+        )
+        return 1
     return 0
 
 

@@ -98,3 +98,25 @@ class BuildFaults(Scratch):
                 self.refused([expected], sys.executable, make_stubs, broken, "arm64", self.folder)
         broken.unlink()
         self.refused(["cannot read"], sys.executable, make_stubs, broken, "arm64", self.folder)
+
+    def test_slices_that_cannot_be_finished(self) -> None:
+        slice_name = next(name for name in ("armv7", "arm64") if (BUILD / name).exists())
+        linked = (BUILD / slice_name / "linked.dylib").read_bytes()
+        finished = (BUILD / slice_name / "libZQDial.dylib").read_bytes()
+        faults = [
+            (linked[:5000], "not a whole image: link it again"),
+            (b"not an image at all, but long enough for one", "not a thin little-endian Mach-O"),
+            (linked.replace(b"_ZQDialMain", b"_ZQDialMaim"), "does not define _ZQDialMain"),
+            (finished, "does not end with symbols, indirect symbols and strings"),
+        ]
+        broken = self.folder / "linked.dylib"
+        for data, fault in faults:
+            with self.subTest(fault):
+                broken.write_bytes(data)
+                self.refused(
+                    [f"finish_dylib: {broken}: {fault}"],
+                    *(sys.executable, ROOT / "device/tools/finish_dylib.py", broken),
+                    *(self.folder / "finished.dylib", "--architecture", slice_name),
+                    *("--init", "_ZQDialMain", "--identifier", "libZQDial", "--root", ROOT),
+                )
+                self.assertFalse((self.folder / "finished.dylib").exists())
