@@ -4,17 +4,19 @@
 set(commands
     COMMAND ${RUN_PYTHON} -m checker.check_dylib "${LIBRARY}" --root "${SOURCE_ROOT}"
         --slices ${SLICES})
+set(outcome "device: the library is ${LIBRARY}")
 if(PACKAGE)
+    string(APPEND outcome ", the package to install ${PACKAGE}")
     list(APPEND commands
         COMMAND ${RUN_PYTHON} -m checker.check_package "${PACKAGE}" --library "${LIBRARY}"
             --version ${PROJECT_VERSION} --root "${SOURCE_ROOT}")
 else()
-    list(APPEND commands COMMAND ${CMAKE_COMMAND} -E echo
-        "device: built the slice ${SLICES} alone, and no package, which must serve every phone")
+    string(APPEND outcome " of ${SLICES} alone, without a package, which must serve every phone")
 endif()
 add_custom_target(check
     ${commands}
     COMMAND ${RUN_PYTHON} -m checker.size_table "${LIBRARY}"
+    COMMAND ${CMAKE_COMMAND} -E echo "${outcome}"
     DEPENDS library $<TARGET_NAME_IF_EXISTS:package>
     COMMENT "Checking the library and its package"
     USES_TERMINAL
