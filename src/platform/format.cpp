@@ -107,7 +107,7 @@ NSString formatUnits(std::span<const char16_t> text, std::span<const FormatArgum
         rest = rest.subspan(plain);
         if (!rest.empty()) {
             const bool isReal = rest[1] == u'.';
-            appendArgument(out, *argument++, rest[2]);
+            appendArgument(out, *argument++, isReal ? rest[2] : u'0');
             rest = rest.subspan(isReal ? 4 : 2);
         }
     }
