@@ -2,6 +2,7 @@
 #include "recents/cell.hpp"
 
 #include "identity/companion.hpp"
+#include "objc/silently.hpp"
 #include "platform/format.hpp"
 #include "recents/ZQSystemCallHistoryViewHook.hpp"
 #include "recents/address_book.hpp"
@@ -77,7 +78,7 @@ void layOutCell(PHRecentsCell cell) {
     const UILabel callerLabel = cell.callerLabel();
     const RecentCall call(cell.call());
     if (ZQPhoneUtil::isEalierThanIOSVersion(7.1, false)) {
-        addButtonMenu(cell);
+        objc::silently([&] { addButtonMenu(cell); });  // the line needs no menu
     }
     const objc::AutoreleasePool pool;
     const UIView content = cell.contentView();

@@ -147,6 +147,14 @@ TEST_F(RecentsRows, ShowWhatThePhoneApplicationSaysWhereTheCompanionRaises) {
     EXPECT_EQ(row(0).line, "四川 推销");
 }
 
+TEST_F(RecentsRows, AMenuThatFailsTakesNoLineWithIt) {
+    start("7.0", {{.number = "10001", .label = "北京", .date = kNoon}});
+    stub.raisesAt = "getRecordForNumber:atSysDate:";
+    ASSERT_TRUE(list().swipe(0, 72));
+    layOut();
+    EXPECT_EQ(row(0).line, "四川 推销");
+}
+
 TEST_F(RecentsRows, TaggedViewsAreSearchedForBelowAView) {
     const auto above = withFrame<UIView>({});
     const auto between = withFrame<UIView>({});
