@@ -64,6 +64,7 @@ class UIView : public NSObject {
     CGRect bounds() const { return send<CGRect()>("bounds"_sel); }
     CGSize intrinsicContentSize() const { return send<CGSize()>("intrinsicContentSize"_sel); }
     void setHidden(bool hidden) const { send<void(bool)>("setHidden:"_sel, hidden); }
+    NSInteger tag() const { return send<NSInteger()>("tag"_sel); }
     void setTag(NSInteger tag) const { send<void(NSInteger)>("setTag:"_sel, tag); }
     void setBackgroundColor(UIColor color) const {
         send<void(UIColor)>("setBackgroundColor:"_sel, color);

@@ -86,8 +86,19 @@ HeaderViews HeaderViews::create(UIView header, bool from80) {
     return views;
 }
 
+void HeaderViews::remove(UIView header) {
+    const NSArray subviews = header.subviews();
+    for (NSUInteger i = subviews.count(); i > 0; --i) {  // backwards: the array may be the header's
+        const auto view = subviews.objectAtIndex(i - 1).as<UIView>();
+        const bool isTagged = view.tag() >= kDescriptionTag && view.tag() <= kWarningTag;
+        if (isTagged || view.isKindOfClass(ZQGroupButton::classObject())) {
+            view.removeFromSuperview();
+        }
+    }
+}
+
 void HeaderViews::showButtons(OfferedActions offered, const HeaderPlaces &places) const {
-    if (!search_) {
+    if (!correct_ && !mark_ && !search_) {
         return;  // the pictures need not be loaded for nobody
     }
     correct_.setHidden(!offered.correct);

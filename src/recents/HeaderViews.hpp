@@ -14,6 +14,8 @@ class HeaderViews {
     /// Those that `header` holds; false when it has none yet.
     static HeaderViews find(UIView header);
     static HeaderViews create(UIView header, bool from80);
+    /// Takes away what `header` holds of them, the buttons too.
+    static void remove(UIView header);
 
     UILabel description() const { return description_; }
     UILabel product() const { return product_; }

@@ -2,6 +2,7 @@
 #include "recents/detail_header.hpp"
 
 #include "identity/companion.hpp"
+#include "objc/silently.hpp"
 #include "platform/format.hpp"
 #include "recents/HeaderViews.hpp"
 #include "recents/actions.hpp"
@@ -55,6 +56,40 @@ NSString taglineToRepeat(UILabel label, bool from80) {
     return tagline.length() != 0 ? tagline : nullptr;
 }
 
+/// What is known of the number, if there is one, into the header's views and below them.
+void fill(ABContactHeaderView header, const HeaderViews &views, bool from80) {
+    if (phonePureNumber().length() == 0) {
+        return;
+    }
+    const ZQNumberIdentity identity = identityOf(phonePureNumber());
+    const NSString info = detailLine(phonePureNumber(), identity);
+    const OfferedActions offered = offeredActions(identity);
+    const HeaderText text{.info = info, .tagline = taglineToRepeat(header.taglineLabel(), from80)};
+    const HeaderPlaces places = place(Header{
+        .from80 = from80,
+        .screenWidth = UIScreen::mainScreen().bounds().size.width,
+        .productHeight = views.product().frame().size.height,
+        .hasInfo = static_cast<bool>(info),
+        .isForeign = isForeign(identity),
+        .hasTagline = static_cast<bool>(text.tagline),
+        .hasCorrect = offered.correct,
+        .hasMark = offered.mark,
+    });
+    showText(text, !isForeign(identity), views.description());
+    views.description().setFrame(places.description);
+    if (isForeign(identity)) {
+        views.warning().setFrame(places.warning);
+        views.warning().setHidden(false);
+    }
+    views.showButtons(offered, places);
+
+    // Last, when nothing can fail any more.
+    const UIView person = header.personHeaderView();
+    CGRect personFrame = person.frame();
+    personFrame.origin.y = places.personY;
+    person.setFrame(personFrame);
+}
+
 }  // namespace
 
 bool hasHeader(ABContactViewController controller, NSInteger section) {
@@ -105,46 +140,24 @@ void layOutHeader(ABContactHeaderView header) {
 
 void addNumberInfo(ABContactHeaderView header, ABContact /*contact*/) {
     const bool from80 = isFrom80();
-    const UILabel taglineLabel = header.taglineLabel();
-    taglineLabel.setHidden(true);
-    const UILabel nameLabel = header.nameLabel();
-    CGRect nameFrame = nameLabel.frame();
+    const UILabel tagline = header.taglineLabel();
+    tagline.setHidden(true);
+    const UILabel name = header.nameLabel();
+    const CGRect systemsFrame = name.frame();
+    CGRect nameFrame = systemsFrame;
     nameFrame.origin.y = 53;
-    nameLabel.setFrame(nameFrame);
+    name.setFrame(nameFrame);
 
-    HeaderViews views = HeaderViews::find(header);
-    if (!views) {
-        views = HeaderViews::create(header, from80);
-    }
-    if (phonePureNumber().length() == 0) {
+    if (const HeaderViews views = HeaderViews::find(header)) {
+        fill(header, views, from80);
         return;
     }
-    const ZQNumberIdentity identity = identityOf(phonePureNumber());
-    const NSString info = detailLine(phonePureNumber(), identity);
-    const OfferedActions offered = offeredActions(identity);
-    const HeaderText text{.info = info, .tagline = taglineToRepeat(taglineLabel, from80)};
-    const HeaderPlaces places = place(Header{
-        .from80 = from80,
-        .screenWidth = UIScreen::mainScreen().bounds().size.width,
-        .productHeight = views.product().frame().size.height,
-        .hasInfo = static_cast<bool>(info),
-        .isForeign = isForeign(identity),
-        .hasTagline = static_cast<bool>(text.tagline),
-        .hasCorrect = offered.correct,
-        .hasMark = offered.mark,
-    });
-    const UIView person = header.personHeaderView();
-    CGRect personFrame = person.frame();
-    personFrame.origin.y = places.personY;
-    person.setFrame(personFrame);
-
-    showText(text, !isForeign(identity), views.description());
-    views.description().setFrame(places.description);
-    if (isForeign(identity)) {
-        views.warning().setFrame(places.warning);
-        views.warning().setHidden(false);
+    // A first pass that fails is undone, for no later one would reach its buttons.
+    if (!objc::silently([&] { fill(header, HeaderViews::create(header, from80), from80); })) {
+        HeaderViews::remove(header);
+        tagline.setHidden(false);
+        name.setFrame(systemsFrame);
     }
-    views.showButtons(offered, places);
 }
 
 UIImage recordIcon() {

@@ -170,6 +170,26 @@ TEST_F(DetailHeader, WhereTheCompanionRaisesTheTelephonesOwnStands) {
     EXPECT_TRUE(header().nameLabel());
 }
 
+TEST_F(DetailHeader, AFirstPassThatFailsIsUndoneAndTheNextOneBeginsAnew) {
+    stub.identities["1"] = {.label = "推销", .type = IdentityKind::UserMark, .numOfMark = 1};
+    start({{.number = "1", .label = "手机", .date = kNoon}});
+    for (const char *const message :
+         {"getRecordForNumber:atSysDate:", "getAllCallHistoryByPhoneNumber:fromRecentCalls:",
+          "getAppResourceDir"}) {
+        stub.raisesAt = message;
+        open(0);
+        EXPECT_FALSE(view(kDescription)) << message;
+        EXPECT_EQ(titles(), "") << message;
+        EXPECT_TRUE(isShown(header().taglineLabel())) << message;
+        EXPECT_EQ(header().nameLabel().frame().origin.y, 36) << message;
+        EXPECT_EQ(personY(), 116) << message;
+        stub.raisesAt = {};
+        test::layOut(UIView(header()));
+        EXPECT_EQ(titles(), "纠错 搜索 ") << message;
+        EXPECT_EQ(description(), "手机  推销") << message;
+    }
+}
+
 TEST_F(DetailHeader, RepeatsATagLineOfNumbersFromAbroadOnLaterSystems) {
     stub.foreignNumbers = {"2"};
     stub.descriptions = {{"1", "四川"}, {"2", "加拿大"}};
