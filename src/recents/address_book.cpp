@@ -44,11 +44,7 @@ NSString firstNumberOf(const void *person) {
 }  // namespace
 
 bool contactHasMoreThanOneNumber(RecentCall call) {
-    const NSString number = call.number();
-    if (!number) {
-        return false;
-    }
-    const auto parsed = ZQPhoneNumber::parsed(number);
+    const auto parsed = ZQPhoneNumber::parsed(call.number());
     const void *const person =
         ZQContactService::currentService().getPersonWithRecordID(parsed->pureNumber());
     const AddressBookCopy values = phoneValues(person);
@@ -62,7 +58,7 @@ bool isPersonTableDataSource(NSObject dataSource) {
     bool isOne = false;
     objc::silently([&] {
         isOne = valueForKey(dataSource, "personHeaderView"_ns) &&
-                !boolOf(valueForKey(dataSource, "allowsEditing"_ns));
+                !objc::send<bool()>(valueForKey(dataSource, "allowsEditing"_ns), "boolValue"_sel);
     });
     return isOne;
 }

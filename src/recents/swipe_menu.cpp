@@ -37,30 +37,36 @@ UIView firstSubview(UIView view, Class cls) {
 
 CGFloat byte(int component) { return static_cast<CGFloat>(component) / 255; }
 
-void addButton(UIView confirmation, NSString title, UIColor background, SEL action, Tag tag,
-               CGRect frame) {
+/// In the first slot, and not shown yet.
+UIButton makeButton(NSString title, UIColor background, SEL action, Tag tag, CGFloat height) {
     const UIButton button = UIButton::custom();
-    button.setFrame(frame);
+    button.setFrame(menuSlot(0, height));
     button.setTitle(title, kNormalState);
     button.titleLabel().setFont(UIFont::systemFontOfSize(14));
     button.setBackgroundColor(background);
     button.addTarget(objc::asObject("ZQSystemCallHistoryViewHook"_cls), action, kTouchUpInside);
-    addTagged(confirmation, button, tag);
+    button.setTag(tag);
+    return button;
 }
 
 /// Text messages come from addresses, which nobody marks.
 bool isUsable(NSString number) { return number.length() != 0 && !number.contains("@"_ns); }
 
-/// The buttons from the left; answers how many slots they and the delete button take.
+/// The offered buttons from the left; answers how many slots they and the delete button take.
 int32_t addButtons(UIView confirmation, OfferedActions offered, CGFloat height) {
+    const UIButton correct =
+        makeButton("纠错"_ns, UIColor::withRGB(byte(210), byte(210), byte(210), 1),
+                   "correctButtonPressed"_sel, kCorrectTag, height);
+    const UIButton mark = makeButton("标记"_ns, UIColor::withRGB(1, byte(161), 0, 1),
+                                     "markButtonPressed"_sel, kMarkTag, height);
     int32_t slots = 0;
     if (offered.correct) {
-        addButton(confirmation, "纠错"_ns, UIColor::withRGB(byte(210), byte(210), byte(210), 1),
-                  "correctButtonPressed"_sel, kCorrectTag, menuSlot(slots++, height));
+        confirmation.addSubview(correct);
+        ++slots;
     }
     if (offered.mark) {
-        addButton(confirmation, "标记"_ns, UIColor::withRGB(1, byte(161), 0, 1),
-                  "markButtonPressed"_sel, kMarkTag, menuSlot(slots++, height));
+        mark.setFrame(menuSlot(slots++, height));
+        confirmation.addSubview(mark);
     }
     return slots + 1;
 }

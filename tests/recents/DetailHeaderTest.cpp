@@ -245,6 +245,9 @@ TEST_F(DetailHeader, OtherCodeMayAskWhatAPersonsTableIsAbout) {
     EXPECT_TRUE(isTarget(source));
     source->setObject(NSNumber::withBool(true), "allowsEditing"_ns);
     EXPECT_FALSE(isTarget(source));
+    source->setObject("no answer"_ns, "personHeaderView"_ns);
+    source->setObject(objc::create<NSMutableDictionary>(), "allowsEditing"_ns);
+    EXPECT_FALSE(isTarget(source)) << "what is no boolean raises";
     EXPECT_EQ(number(source), "(nil)");
     const id people[] = {person("3"_ns), person("1"_ns)};
     source->setObject(sim::array(people), "people"_ns);
