@@ -12,21 +12,13 @@ if importlib.util.find_spec("unicorn") is None:
 
 from checker.macho import BadImage, Slice, read
 
-from emulator import exception_scenarios, in_call_scenarios, loading_scenarios, number_scenarios
-from emulator import replacement_scenarios, screen_scenarios
 from emulator.machine import Failure, Raised
 from emulator.process import Process
-from emulator.scenario import Scenario
+from emulator.scenarios import exceptions, in_call, loading, numbers, replacements, screens
+from emulator.scenarios.scenario import Scenario
 from emulator.world import World
 
-MODULES = (
-    loading_scenarios,
-    replacement_scenarios,
-    screen_scenarios,
-    in_call_scenarios,
-    number_scenarios,
-    exception_scenarios,
-)
+MODULES = (loading, replacements, screens, in_call, numbers, exceptions)
 SCENARIOS: list[Scenario] = [scenario for module in MODULES for scenario in module.SCENARIOS]
 LONGEST = 30.0  # seconds that a scenario may take
 

@@ -4,9 +4,9 @@ application."""
 from functools import partial
 
 from emulator import phone_app
-from emulator.hook_rows import IN_CALL_70, Row, expected
+from emulator.scenarios.hook_rows import IN_CALL_70, Row, expected
 from emulator.process import Process
-from emulator.scenario import Load, Scenario, expect, started, texts
+from emulator.scenarios.scenario import Load, Scenario, expect, started, texts
 from emulator.world import PHONE, World
 
 QUESTIONS = ["objc_getClass", "+[NSBundle mainBundle]", "-[NSBundle bundleIdentifier]"]

@@ -3,13 +3,13 @@ what the Phone application raises goes on to the Phone application."""
 
 from typing import Any
 
-from emulator.hook_rows import IN_CALL, IN_CALL_70, expected
-from emulator.loading_scenarios import PREFERENCES, check_rows
+from emulator.scenarios.hook_rows import IN_CALL, IN_CALL_70, expected
+from emulator.scenarios.loading import PREFERENCES, check_rows
 from emulator.machine import Failure, Raised
-from emulator.number_scenarios import IDENTITY_QUERY
+from emulator.scenarios.numbers import IDENTITY_QUERY
 from emulator.process import Process
-from emulator.scenario import Load, Scenario, expect, expect_original_once, started
-from emulator.screen_scenarios import NUMBER, text, typed
+from emulator.scenarios.scenario import Load, Scenario, expect, expect_original_once, started
+from emulator.scenarios.screens import NUMBER, text, typed
 from emulator.world import World
 
 

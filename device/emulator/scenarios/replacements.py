@@ -4,10 +4,10 @@ was given, and where things are missing nothing else happens."""
 from functools import partial
 from typing import Any
 
-from emulator.hook_rows import expected
+from emulator.scenarios.hook_rows import expected
 from emulator.machine import Failure
 from emulator.process import Process
-from emulator.scenario import Load, Scenario, expect, expect_original_once, started
+from emulator.scenarios.scenario import Load, Scenario, expect, expect_original_once, started
 from emulator.world import World
 
 TAGLINE = "_replace_ABContactHeaderDisplayView__taglineStringForContact_"

@@ -4,8 +4,15 @@ import struct
 from typing import Any
 
 from emulator.process import Process
-from emulator.scenario import Load, Scenario, expect, expect_original_once, expect_rect, started
-from emulator.screen_scenarios import NUMBER, marked, text, view
+from emulator.scenarios.scenario import (
+    Load,
+    Scenario,
+    expect,
+    expect_original_once,
+    expect_rect,
+    started,
+)
+from emulator.scenarios.screens import NUMBER, marked, text, view
 from emulator.world import World
 
 STRANGER, CONTACT = -1, 7

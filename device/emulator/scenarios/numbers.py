@@ -3,8 +3,8 @@
 from typing import Any
 
 from emulator.process import Process
-from emulator.scenario import Load, Scenario, expect, expect_rect, started
-from emulator.screen_scenarios import NUMBER, text
+from emulator.scenarios.scenario import Load, Scenario, expect, expect_rect, started
+from emulator.scenarios.screens import NUMBER, text
 from emulator.world import World
 
 IDENTITY_QUERY = (

@@ -6,7 +6,14 @@ from typing import Any
 
 from emulator import abi
 from emulator.process import Process
-from emulator.scenario import Load, Scenario, expect, expect_original_once, expect_rect, started
+from emulator.scenarios.scenario import (
+    Load,
+    Scenario,
+    expect,
+    expect_original_once,
+    expect_rect,
+    started,
+)
 from emulator.world import World
 
 NUMBER = "01066668888"

@@ -1,0 +1,1 @@
+"""What is shown of the library, screen by screen: stories told to a pretended process."""
