@@ -6,9 +6,6 @@ import sys
 from collections.abc import Callable, Iterator, Sequence
 from pathlib import Path
 
-if not __package__:
-    sys.path.insert(0, str(Path(__file__).resolve().parent.parent))
-
 from checker import code_checks, command_checks, layout_checks
 from checker import pointer_checks, signature_checks, symbol_checks
 from checker.bounded import BadImage, Block

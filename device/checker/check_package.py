@@ -8,11 +8,7 @@ from collections.abc import Iterator
 from dataclasses import dataclass
 from pathlib import Path
 
-if not __package__:
-    sys.path.insert(0, str(Path(__file__).resolve().parent.parent))
-
 from checker import text_plist
-
 from checker.deb import Entry, Member, NoTool, content_entries, control_entries, fields, members
 from checker.report import MEND_BUILD, REBUILD, Problem, collected, print_problems
 

@@ -4,9 +4,6 @@ import argparse
 import sys
 from pathlib import Path
 
-if not __package__:
-    sys.path.insert(0, str(Path(__file__).resolve().parent.parent))
-
 from checker.contract import SIZE_LIMIT
 from checker.layout_checks import segment_sizes
 from checker.macho import BadImage, Slice, read
