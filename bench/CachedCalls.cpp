@@ -13,14 +13,15 @@ double secondOf(int64_t index) { return 1400000000 + static_cast<double>(index);
 
 }  // namespace
 
-void cacheCalls(recents::InfoCache &cache, int64_t entries) {
-    cache.replace(objc::create<NSMutableDictionary>());
+objc::Owned<NSMutableDictionary> cachedCalls(int64_t entries) {
+    auto cache = objc::create<NSMutableDictionary>();
     const NSString number = NSString::withUTF8String(kCachedNumber);
     for (int64_t i = 0; i < entries; ++i) {
         const objc::AutoreleasePool pool;
         const NSString text = format<"云南昆明 %d">(static_cast<int32_t>(i));
-        cache.keep(text, recents::rowKey(number, secondOf(i)));
+        cache->setObject(text, recents::rowKey(number, secondOf(i)));
     }
+    return cache;
 }
 
 std::vector<double> cachedSeconds(int64_t entries) {

@@ -4,14 +4,14 @@
 #include <cstdint>
 #include <vector>
 
-#include "recents/InfoCache.hpp"
+#include "recents/RowTexts.hpp"
 
 namespace bench {
 
 inline constexpr auto kCachedNumber = "17700000061";
 
-/// Fills the empty or used cache with `entries` rows and nothing else.
-void cacheCalls(recents::InfoCache &cache, int64_t entries);
+/// A cache of `entries` rows.
+objc::Owned<NSMutableDictionary> cachedCalls(int64_t entries);
 
 /// When the calls of some rows were that a screen has room for, spread over all of the entries; in
 /// seconds since 1970.

@@ -5,12 +5,12 @@
 #include <cmath>
 
 #include "hook/installation.hpp"
-#include "objc/saved.hpp"
+#include "objc/replacement.hpp"
 #include "phone/Parts.hpp"
 #include "phone/recents/PHRecentCall.hpp"
 #include "phone/recents/PHRecentsCell.hpp"
 #include "platform/Substrate.hpp"
-#include "recents/ZQSystemCallHistoryViewHook.hpp"
+#include "recents/RowTexts.hpp"
 #include "recents/replacements.hpp"
 #include "support/StubCompanion.hpp"
 #include "uikit/Device.hpp"
@@ -76,7 +76,7 @@ void ConstantRow::prepare(double iosVersion) {
     stub = {};
     stub.iosVersion = iosVersion;
     [[maybe_unused]] static const bool g_installed = (install(), true);
-    ZQSystemCallHistoryViewHook::currentHook()->onReloadCacheNotification(nullptr);
+    recents::RowTexts::shared()->setEntries(objc::create<NSMutableDictionary>());
 }
 
 ConstantRow::ConstantRow(RowKind kind, const char *number, double date)
@@ -108,7 +108,7 @@ void ConstantRow::layOut() const {
 
 void ConstantRow::layOutUnhooked() const {
     g_answers = &answers_;
-    saved_PHRecentsCell_layoutSubviews(cell(), "layoutSubviews"_sel);
+    objc::saved<&replace_PHRecentsCell_layoutSubviews>(cell(), "layoutSubviews"_sel);
 }
 
 }  // namespace bench

@@ -4,7 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include "Allocations.hpp"
-#include "identity/ZQDialCloudQueryService.hpp"
+#include "companion/ZQDialCloudQueryService.hpp"
 #include "incall/description.hpp"
 #include "support/Calls.hpp"
 #include "support/StubCompanion.hpp"

@@ -4,9 +4,9 @@
 #include <benchmark/benchmark.h>
 
 #include "Share.hpp"
+#include "companion/companion.hpp"
 #include "dialer/replacements.hpp"
 #include "hook/installation.hpp"
-#include "identity/companion.hpp"
 #include "phone/Parts.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
 #include "support/StubCompanion.hpp"
@@ -47,8 +47,8 @@ class Display {
 
     /// The Phone application's own share of the same.
     void unhooked() const {
-        saved_PHHandsetDialerLCDView_setName_numberLabel_(lcd(), "setName:numberLabel:"_sel,
-                                                          nullptr, nullptr);
+        objc::saved<&replace_PHHandsetDialerLCDView_setName_numberLabel_>(
+            lcd(), "setName:numberLabel:"_sel, nullptr, nullptr);
     }
 
   private:
@@ -73,7 +73,7 @@ void requiredSends(PHHandsetDialerLCDView lcd, bool from71) {
     const auto record = objc::create<ZQCallRecord>();
     record->setPhoneNumber(number->pureNumber());
     const NSString description =
-        ZQNumberIdentityService::getIdentityOfRecord(record, {true, true, nullptr, 3}).identity();
+        ZQNumberIdentityService::getIdentityOfRecord(record, {true, true, nullptr, DisplayType::Dialer}).identity();
     description.length();
     // The row.
     const UIView nameLine = lcd.nameAndLabelView();

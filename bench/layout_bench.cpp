@@ -4,8 +4,8 @@
 #include <benchmark/benchmark.h>
 
 #include "Share.hpp"
+#include "companion/ZQDialCloudQueryService.hpp"
 #include "hook/installation.hpp"
-#include "identity/ZQDialCloudQueryService.hpp"
 #include "incall/ZQDialWaitUIHook.hpp"
 #include "incall/added_views.hpp"
 #include "incall/replacements.hpp"
@@ -63,7 +63,7 @@ class Screen {
     Owned<UIView> display_;
 };
 
-TUTelephonyCall currentCall() { return ZQDialWaitUIHook::shared()->currentOutCall(); }
+TUTelephonyCall currentCall() { return objc::Shared<ZQDialWaitUIHook>::get()->currentOutCall(); }
 
 bool sendVersionTests() {
     return ZQPhoneUtil::isEalierThanIOSVersion(8.0, false) &&
@@ -158,7 +158,7 @@ void requiredSendsRegion(InCallDisplay field) {
     ZQPreference::currentPreference().showNumberArea();
     sendVersionTests();
     currentCall().abUID();
-    const TPLCDLabelView label = field.labelView();
+    const TPLCDTextView label = field.labelView();
     const UIView icon = label.viewWithTag(kRegionIconTag);
     icon.setHidden(true);
     const NSString text = label.text();
@@ -182,11 +182,11 @@ void layoutPass(benchmark::State &state, const char *displayClass, double iosVer
     const Screen screen(displayClass, iosVersion, contact);
     const auto unhooked = [&] {
         if (displayClass == std::string_view("InCallLCDView")) {
-            saved_InCallLCDView_layoutSubviews(screen.display().as<InCallLCDView>(),
-                                               "layoutSubviews"_sel);
+            objc::saved<&replace_InCallLCDView_layoutSubviews>(screen.display().as<InCallLCDView>(),
+                                                               "layoutSubviews"_sel);
         } else {
-            saved_InCallLCDField_layoutSubviews(screen.display().as<InCallLCDField>(),
-                                                "layoutSubviews"_sel);
+            objc::saved<&replace_InCallLCDField_layoutSubviews>(
+                screen.display().as<InCallLCDField>(), "layoutSubviews"_sel);
         }
     };
     bench::measureShare(

@@ -14,24 +14,23 @@
 
 namespace {
 
-ZQSystemCallHistoryViewHook &hook() {
+recents::RowTexts &rowTexts() {
     static const bool g_registered = [] {
         test::StubCompanion::registerClasses();
         ZQSystemCallHistoryViewHook::define().finish();
         return true;
     }();
     benchmark::DoNotOptimize(g_registered);
-    return *ZQSystemCallHistoryViewHook::currentHook();
+    return *recents::RowTexts::shared();
 }
 
 void lookUpCachedRow(benchmark::State &state) {
     const objc::AutoreleasePool pool;
     const int64_t entries = state.range(0);
-    recents::InfoCache cache;
     const size_t bytesBefore = mallinfo2().uordblks;
-    bench::cacheCalls(cache, entries);
+    const auto cache = bench::cachedCalls(entries);
     const size_t bytes = mallinfo2().uordblks - bytesBefore;
-    hook().setNumberInfoAndCallCacheDict(cache.get());
+    rowTexts().setEntries(cache);
 
     std::vector<objc::Owned<NSObject>> rows;
     for (const double second : bench::cachedSeconds(entries)) {
@@ -42,7 +41,7 @@ void lookUpCachedRow(benchmark::State &state) {
     size_t next = 0;
     for ([[maybe_unused]] auto _ : state) {
         const objc::AutoreleasePool inner;
-        benchmark::DoNotOptimize(hook().getInfo(test::asCall(rows[next])).get());
+        benchmark::DoNotOptimize(rowTexts().textOf(test::asCall(rows[next])).get().get());
         next = (next + 1) % rows.size();
     }
     state.counters["allocations"] = static_cast<double>(bench::allocations() - before) /
@@ -51,7 +50,7 @@ void lookUpCachedRow(benchmark::State &state) {
     if (!test::StubCompanion::current().queries.empty()) {
         state.SkipWithError("a row was not found in the cache");
     }
-    hook().setNumberInfoAndCallCacheDict(nullptr);
+    rowTexts().setEntries(nullptr);
 }
 
 BENCHMARK(lookUpCachedRow)->Arg(1)->Arg(1000)->Arg(100000);

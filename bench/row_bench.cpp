@@ -9,9 +9,9 @@
 #include "CachedCalls.hpp"
 #include "ConstantRow.hpp"
 #include "Share.hpp"
-#include "identity/companion.hpp"
+#include "companion/companion.hpp"
 #include "platform/AddressBook.hpp"
-#include "recents/ZQSystemCallHistoryViewHook.hpp"
+#include "recents/RowTexts.hpp"
 #include "support/StubCompanion.hpp"
 
 namespace {
@@ -31,7 +31,7 @@ constexpr int kSendsWithoutText = 25;
 constexpr int kSendsOfContact = 71;
 constexpr int kSendsBefore71 = 56;
 
-ZQSystemCallHistoryViewHook &hook() { return *ZQSystemCallHistoryViewHook::currentHook(); }
+recents::RowTexts &rowTexts() { return *recents::RowTexts::shared(); }
 
 // The sends of one layout and nothing else: no decision, no call of ours, arguments as they come.
 
@@ -70,7 +70,7 @@ NSString sendCachedText(NSObject call) {
     std::ranges::copy(kKeyEnd, units + length);
     const auto key = objc::create<NSString(const char16_t *, NSUInteger)>(
         "initWithCharacters:length:"_sel, units, length + kKeyEnd.size());
-    return hook().numberInfoAndCallCacheDict().objectForKey(key).as<NSString>();
+    return rowTexts().entries().objectForKey(key).as<NSString>();
 }
 
 NSString sendContactText(NSObject call) {
@@ -166,9 +166,7 @@ BENCHMARK_CAPTURE(layOutRow, stranger_with_text_ios_7_0, RowKind::StrangerWithTe
 void layOutAmongCachedCalls(benchmark::State &state) {
     const objc::AutoreleasePool pool;
     ConstantRow::prepare(7.1);
-    recents::InfoCache cache;
-    bench::cacheCalls(cache, state.range(0));
-    hook().setNumberInfoAndCallCacheDict(cache.get());
+    rowTexts().setEntries(bench::cachedCalls(state.range(0)));
     std::vector<std::unique_ptr<ConstantRow>> rows;
     for (const double date : bench::cachedSeconds(state.range(0))) {
         rows.push_back(
@@ -183,7 +181,7 @@ void layOutAmongCachedCalls(benchmark::State &state) {
     if (!test::StubCompanion::current().queries.empty()) {
         state.SkipWithError("a row was not found in the cache");
     }
-    hook().setNumberInfoAndCallCacheDict(objc::create<NSMutableDictionary>());
+    rowTexts().setEntries(objc::create<NSMutableDictionary>());
 }
 
 BENCHMARK(layOutAmongCachedCalls)->Arg(1)->Arg(1000)->Arg(100000);

@@ -11,14 +11,16 @@ set(ZQDIAL_BRIDGE_SOURCES
     objc/class_builder.cpp
     platform/format.cpp)
 set(ZQDIAL_ADDON_SOURCES
+    companion/ZQDialCloudQueryService.cpp
+    companion/cloud_answer.cpp
     dialer/HintRow.cpp
     dialer/ZQDialNumberInputUIHook.cpp
     dialer/description.cpp
+    dialer/hint.cpp
+    dialer/older_hint.cpp
     dialer/replacements.cpp
     hook/ZQDialMain.cpp
     hook/installation.cpp
-    identity/ZQDialCloudQueryService.cpp
-    identity/cloud_answer.cpp
     incall/CallSlots.cpp
     incall/ZQDialWaitUIHook.cpp
     incall/added_views.cpp
@@ -28,9 +30,11 @@ set(ZQDIAL_ADDON_SOURCES
     incall/lcd_view.cpp
     incall/pictures.cpp
     incall/replacements.cpp
+    platform/TextWidths.cpp
     recents/GroupButton.cpp
     recents/HeaderViews.cpp
-    recents/InfoCache.cpp
+    recents/RecentCall.cpp
+    recents/RowTexts.cpp
     recents/ZQSystemCallHistoryClassHelper.cpp
     recents/ZQSystemCallHistoryViewHook.cpp
     recents/actions.cpp
@@ -40,10 +44,8 @@ set(ZQDIAL_ADDON_SOURCES
     recents/history_description.cpp
     recents/lookup.cpp
     recents/lookup_context.cpp
-    recents/recent_call.cpp
     recents/replacements.cpp
-    recents/swipe_menu.cpp
-    recents/view_methods.cpp)
+    recents/swipe_menu.cpp)
 
 set(ZQDIAL_SEARCH_HOST "" CACHE STRING "Host of the web search; empty: as in recents/actions.cpp")
 if(ZQDIAL_SEARCH_HOST AND NOT ZQDIAL_SEARCH_HOST MATCHES "^[A-Za-z0-9.:-]+$")

@@ -45,8 +45,7 @@ sim::Point middleOfLine(phone::DialerController *dialer) {
 }  // namespace
 
 DialerScreen::DialerScreen(PhoneWindow &window) : window_(window) {
-    const auto controller =
-        objc::Owned<NSObject>::adopt(NSObject(*objc::make<phone::DialerController>()));
+    const auto controller = objc::make<phone::DialerController>().as<NSObject>();
     window_.showTab(phone::Tab::Keypad, controller);
 }
 

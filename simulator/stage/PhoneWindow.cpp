@@ -22,7 +22,7 @@ void tell(NSObject controller, auto selector) {
 PhoneWindow::PhoneWindow(CGSize screen)
     : window_(objc::Owned<NSObject>::adopt(NSObject(
           phone::makeView<SimWindow>(rect(0, 0, screen.width, screen.height)).leak().get()))),
-      tabs_(objc::Owned<NSObject>::adopt(NSObject(*objc::make<phone::PhoneTabBarController>()))) {
+      tabs_(objc::make<phone::PhoneTabBarController>().as<NSObject>()) {
     window()->setRootViewController(controllerOf(tabs_));
     window()->makeKeyAndVisible();
     tell(tabs_, "viewWillAppear:"_sel);

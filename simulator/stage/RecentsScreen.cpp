@@ -43,9 +43,7 @@ bool isSwipeSystem() { return sim::Device::current().systemVersion < "8"; }
 }  // namespace
 
 RecentsScreen::RecentsScreen(PhoneWindow &window, std::span<const companion::RecentCall> calls)
-    : window_(window),
-      controller_(
-          objc::Owned<NSObject>::adopt(NSObject(*objc::make<phone::PHRecentsViewController>()))) {
+    : window_(window), controller_(objc::make<phone::PHRecentsViewController>().as<NSObject>()) {
     controller()->view();
     controller()->setCalls(callObjects(calls));
     window_.showTab(phone::Tab::Recents, controller_);
@@ -196,8 +194,7 @@ void RecentsScreen::switchTab(bool away) {
                            : "--tab back: the recents are shown already; --tab away leaves them");
     }
     if (away) {
-        const auto keypad =
-            objc::Owned<NSObject>::adopt(NSObject(*objc::make<phone::DialerController>()));
+        const auto keypad = objc::make<phone::DialerController>().as<NSObject>();
         window_.showTab(phone::Tab::Keypad, keypad);
     } else {
         window_.showTab(phone::Tab::Recents, controller_);

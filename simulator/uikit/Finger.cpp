@@ -9,9 +9,7 @@ Finger::Finger(SimWindow *window, Point at)
     : window_(objc::Owned<UIView>::share(handle<UIView>(window))),
       at_(at),
       touch_(objc::make<SimTouch>()),
-      event_(objc::make<SimEvent>()),
-      touchOwner_(objc::Owned<NSObject>::adopt(handle<NSObject>(touch_))),
-      eventOwner_(objc::Owned<NSObject>::adopt(handle<NSObject>(event_))) {
+      event_(objc::make<SimEvent>()) {
     objc::send<void()>(window_.get(), "layoutIfNeeded"_sel);
     touch_->begin(objc::send<SimView *(CGPoint, SimEvent *)>(window_.get(),
                                                              "hitTest:withEvent:"_sel, at, event_),

@@ -27,10 +27,8 @@ class Finger {
 
     objc::Owned<UIView> window_;
     Point at_;
-    SimTouch *touch_;
-    SimEvent *event_;
-    objc::Owned<NSObject> touchOwner_;
-    objc::Owned<NSObject> eventOwner_;
+    objc::Owned<SimTouch *> touch_;
+    objc::Owned<SimEvent *> event_;
     bool down_ = true;
 };
 

@@ -26,9 +26,7 @@ Handle handle(const T *object) {
 /// A new autoreleased instance of T, made by alloc and init.
 template <class T>
 T *autoreleased() {
-    T *const made = objc::make<T>();
-    objc::send<id()>(objc::Wire<T *>::to(made), "autorelease"_sel);
-    return made;
+    return objc::make<T>().autorelease();
 }
 
 /// The UTF-16 units of a string; empty for nil.

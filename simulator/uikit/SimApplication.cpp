@@ -38,7 +38,7 @@ NSObject responderFor(SEL action, NSObject from) {
 }  // namespace
 
 SimApplication *SimApplication::shared() {
-    static auto *const g_application = objc::make<SimApplication>();
+    static auto *const g_application = objc::make<SimApplication>().leak();
     return g_application;
 }
 

@@ -17,9 +17,8 @@ constexpr CGFloat kSeparator = 0.5;  // the line below the row stays free
 
 Owned<UIView> SimDeleteConfirmationView::make(CGSize cellSize, NSObject cell) {
     const CGFloat height = cellSize.height - kSeparator;
-    auto view = Owned<UIView>::adopt(sim::handle<UIView>(objc::make<SimDeleteConfirmationView>()));
-    const auto button =
-        Owned<UIView>::adopt(sim::handle<UIView>(objc::make<SimDeleteConfirmationButton>()));
+    auto view = objc::make<SimDeleteConfirmationView>().as<UIView>();
+    const auto button = objc::make<SimDeleteConfirmationButton>().as<UIView>();
     view->setFrame(rect(cellSize.width, 0, kWidth, height));
     button->setFrame(rect(0, 0, kWidth, height));
     button->setBackgroundColor(SimColor::make({1, 59 / 255.0, 48 / 255.0, 1}));

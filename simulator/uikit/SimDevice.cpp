@@ -6,7 +6,7 @@
 #include "uikit/Registration.hpp"
 
 SimDevice *SimDevice::current() {
-    static auto *const g_device = objc::make<SimDevice>();
+    static auto *const g_device = objc::make<SimDevice>().leak();
     return g_device;
 }
 

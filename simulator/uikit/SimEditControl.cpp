@@ -13,9 +13,7 @@ constexpr CGFloat kLeft = 12;
 
 }  // namespace
 
-objc::Owned<UIView> SimEditControl::make() {
-    return objc::Owned<UIView>::adopt(sim::handle<UIView>(objc::make<SimEditControl>()));
-}
+objc::Owned<UIView> SimEditControl::make() { return objc::make<SimEditControl>().as<UIView>(); }
 
 void SimEditControl::drawRect(CGRect) {
     auto *const context = sim::GraphicsContext::current();

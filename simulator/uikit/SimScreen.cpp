@@ -5,7 +5,7 @@
 #include "uikit/Registration.hpp"
 
 SimScreen *SimScreen::main() {
-    static auto *const g_screen = objc::make<SimScreen>();
+    static auto *const g_screen = objc::make<SimScreen>().leak();
     return g_screen;
 }
 

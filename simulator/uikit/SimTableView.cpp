@@ -18,7 +18,7 @@ constexpr NSInteger kGrouped = 1;
 constexpr CGFloat kGroupedGap = 35;  // above a group without a header of its own
 
 /// What an optional message of a delegate answers; `missing` when there is none.
-template <class Signature, objc::Text name, class... Args>
+template <class Signature, objc::Literal name, class... Args>
 auto ask(NSObject delegate, objc::Selector<name> selector,
          typename objc::Message<Signature>::Result missing, Args... args) {
     const bool answers = delegate != nullptr && delegate.respondsToSelector(selector);

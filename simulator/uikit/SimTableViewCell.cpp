@@ -43,7 +43,7 @@ id SimTableViewCell::initWithFrame(CGRect frame) {
         addSubview(contentView());
         return *this;
     }
-    scrollView_ = Owned<UIView>::adopt(handle<UIView>(objc::make<SimTableViewCellScrollView>()));
+    scrollView_ = objc::make<SimTableViewCellScrollView>().as<UIView>();
     scrollView()->setDelegate(handle<NSObject>(this));
     scrollView()->addSubview(contentView());
     addSubview(scrollView());

@@ -73,7 +73,7 @@ void SimView::setTintColor(UIColor color) { tintColor_ = Owned<UIColor>::share(c
 
 SimLayer *SimView::layer() const {
     if (!layer_) {
-        layer_ = Owned<NSObject>::adopt(handle<NSObject>(objc::make<SimLayer>()));
+        layer_ = objc::make<SimLayer>().as<NSObject>();
     }
     return instance<SimLayer>(layer_.get());
 }

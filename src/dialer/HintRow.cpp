@@ -1,8 +1,8 @@
 // The views of the dialer's row.
 #include "dialer/HintRow.hpp"
 
+#include "companion/companion.hpp"
 #include "dialer/geometry.hpp"
-#include "identity/companion.hpp"
 
 namespace dialer {
 namespace {
@@ -59,14 +59,14 @@ void moveTo(UIView view, CGRect frame, CGFloat x) {
 }  // namespace
 
 HintRow HintRow::find(PHHandsetDialerLCDView lcd) {
-    return HintRow(lcd.viewWithTag(kContainerTag));
+    return HintRow(objc::Owned<UIView>::share(lcd.viewWithTag(kContainerTag)));
 }
 
 HintRow HintRow::create(PHHandsetDialerLCDView lcd, bool from71) {
     const CGFloat lineHeight = lcd.nameAndLabelView().frame().size.height;
     const NewRow frames = newRow(rowTop(ZQPhoneUtil::isIPhone5(), from71), lineHeight);
 
-    const auto container = withFrame<UIView>(frames.container);
+    auto container = withFrame<UIView>(frames.container);
     container->setBackgroundColor(UIColor::clearColor());
     addIcon(container, frames.icon);
     addDescription(container, frames.description);
@@ -75,31 +75,31 @@ HintRow HintRow::create(PHHandsetDialerLCDView lcd, bool from71) {
         addOffer(container, frames.addContact);
     }
     addTagged(lcd, container, kContainerTag);
-    return HintRow(container);
+    return HintRow(std::move(container));
 }
 
 void HintRow::show(NSString description, PHHandsetDialerLCDView lcd, bool from71) const {
-    const auto label = container_.viewWithTag(kDescriptionTag).as<UILabel>();
+    const auto label = container_->viewWithTag(kDescriptionTag).as<UILabel>();
     label.setText(description);
     CGRect labelFrame = label.frame();
     labelFrame.size.width =
         boundingWidth(description, label.font(), {kWidestDescription, labelFrame.size.height},
                       kUsesLineFragmentOrigin);
 
-    const UIView separator = from71 ? nullptr : container_.viewWithTag(kSeparatorTag);
-    const UIView offer = from71 ? nullptr : container_.viewWithTag(kAddContactTag);
+    const UIView separator = from71 ? nullptr : container_->viewWithTag(kSeparatorTag);
+    const UIView offer = from71 ? nullptr : container_->viewWithTag(kAddContactTag);
     const CGRect separatorFrame = separator.frame();
     const CGRect offerFrame = offer.frame();
     const RowPlaces places = placeRow({
         .lcd = lcd.frame().size.width,
-        .icon = container_.viewWithTag(kIconTag).frame().size.width,
+        .icon = container_->viewWithTag(kIconTag).frame().size.width,
         .text = labelFrame.size.width,
         .hasOffer = !from71,
         .separator = separatorFrame.size.width,
         .addContact = offerFrame.size.width,
     });
 
-    CGRect frame = container_.frame();
+    CGRect frame = container_->frame();
     frame.size.width = places.containerWidth;
     moveTo(container_, frame, places.containerX);
     moveTo(label, labelFrame, places.descriptionX);

@@ -1,4 +1,5 @@
-// The views of the dialer's row. They are found again by tag, not kept: the LCD view owns them.
+// The views of the dialer's row. They are found again by tag, since the LCD view owns them; a row
+// holds its container as well, which a message of the Phone application's may take away meanwhile.
 #pragma once
 
 #include "platform/PhoneApp.hpp"
@@ -12,9 +13,10 @@ class HintRow {
     /// Adds a new row to `lcd`, as high as its name line.
     static HintRow create(PHHandsetDialerLCDView lcd, bool from71);
 
-    UIView container() const { return container_; }
-    explicit operator bool() const { return container_ != nullptr; }
-    void setHidden(bool hidden) const { container_.setHidden(hidden); }
+    /// The container alone, which the innermost pool holds from now on.
+    UIView autorelease() && { return container_.autorelease(); }
+    explicit operator bool() const { return static_cast<bool>(container_); }
+    void setHidden(bool hidden) const { container_->setHidden(hidden); }
 
     /// Sets the text and centres the row in `lcd`.
     void show(NSString description, PHHandsetDialerLCDView lcd, bool from71) const;
@@ -24,9 +26,9 @@ class HintRow {
     static void setOfferPressed(PHHandsetDialerLCDView lcd, bool pressed);
 
   private:
-    explicit HintRow(UIView container) : container_(container) {}
+    explicit HintRow(objc::Owned<UIView> container) : container_(std::move(container)) {}
 
-    UIView container_;
+    objc::Owned<UIView> container_;
 };
 
 }  // namespace dialer

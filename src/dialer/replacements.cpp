@@ -1,10 +1,10 @@
 // The dialer's replaced methods: the Phone application's own work first, then ours.
 #include "dialer/replacements.hpp"
 
+#include "companion/companion.hpp"
 #include "dialer/HintRow.hpp"
 #include "dialer/ZQDialNumberInputUIHook.hpp"
-#include "dialer/description.hpp"
-#include "identity/companion.hpp"
+#include "dialer/hint.hpp"
 #include "objc/silently.hpp"
 
 namespace {
@@ -12,7 +12,7 @@ namespace {
 /// Work of ours on the one hook object, which is there once the hooks are installed.
 template <class Work>
 void withHook(Work work) {
-    if (ZQDialNumberInputUIHook *const hook = ZQDialNumberInputUIHook::shared()) {
+    if (ZQDialNumberInputUIHook *const hook = objc::Shared<ZQDialNumberInputUIHook>::get()) {
         objc::silently([&] { work(*hook); });
     }
 }
@@ -20,19 +20,19 @@ void withHook(Work work) {
 }  // namespace
 
 void replace_DialerController_viewWillAppear(DialerController self, SEL selector, BOOL animated) {
-    saved_DialerController_viewWillAppear(self, selector, animated);
+    objc::saved<&replace_DialerController_viewWillAppear>(self, selector, animated);
     withHook([&](auto &hook) { hook.setCurrentNIUIController(self); });
 }
 
 void replace_DialerController_viewWillDisappear(DialerController self, SEL selector,
                                                 BOOL animated) {
-    saved_DialerController_viewWillDisappear(self, selector, animated);
+    objc::saved<&replace_DialerController_viewWillDisappear>(self, selector, animated);
     withHook([](auto &hook) { hook.setCurrentNIUIController(nullptr); });
 }
 
 void replace_DialerController_newPersonViewController_didCompleteWithNewPerson_(
     DialerController self, SEL selector, NSObject newPersonController, const void *person) {
-    saved_DialerController_newPersonViewController_didCompleteWithNewPerson_(
+    objc::saved<&replace_DialerController_newPersonViewController_didCompleteWithNewPerson_>(
         self, selector, newPersonController, person);
     withHook([](auto &hook) {
         const UIView view = hook.currentNIUIController().view();
@@ -42,18 +42,10 @@ void replace_DialerController_newPersonViewController_didCompleteWithNewPerson_(
 
 void replace_PHHandsetDialerLCDView_setName_numberLabel_(PHHandsetDialerLCDView self, SEL selector,
                                                          NSString name, NSString numberLabel) {
-    saved_PHHandsetDialerLCDView_setName_numberLabel_(self, selector, name, numberLabel);
-    objc::silently([&] {
-        if (ZQPhoneUtil::isEalierThanIOSVersion(7.1, false)) {
-            const UILabel offer = self.nameAndLabelView().addToContactsLabel();
-            if (const NSString bare = dialer::withoutLeadingPlus(offer.text())) {
-                offer.setText(bare);
-            }
-        }
-    });
-    withHook([&](auto &hook) {
-        hook.layoutNumInfoIfNeeded(self, self.numberLabel().text(), name, numberLabel);
-    });
+    objc::saved<&replace_PHHandsetDialerLCDView_setName_numberLabel_>(self, selector, name,
+                                                                      numberLabel);
+    objc::silently([&] { dialer::trimOffer(self); });
+    objc::silently([&] { dialer::layOutHint(self, self.numberLabel().text(), name, numberLabel); });
 }
 
 // A completed tap leaves the pressed colour until the row is made anew: the end of a touch is not
@@ -61,13 +53,15 @@ void replace_PHHandsetDialerLCDView_setName_numberLabel_(PHHandsetDialerLCDView 
 void replace_PHHandsetDialerLCDView_touchesBegan_withEvent_(PHHandsetDialerLCDView self,
                                                             SEL selector, NSObject touches,
                                                             NSObject event) {
-    saved_PHHandsetDialerLCDView_touchesBegan_withEvent_(self, selector, touches, event);
+    objc::saved<&replace_PHHandsetDialerLCDView_touchesBegan_withEvent_>(self, selector, touches,
+                                                                         event);
     objc::silently([&] { dialer::HintRow::setOfferPressed(self, true); });
 }
 
 void replace_PHHandsetDialerLCDView_touchesCancelled_withEvent_(PHHandsetDialerLCDView self,
                                                                 SEL selector, NSObject touches,
                                                                 NSObject event) {
-    saved_PHHandsetDialerLCDView_touchesCancelled_withEvent_(self, selector, touches, event);
+    objc::saved<&replace_PHHandsetDialerLCDView_touchesCancelled_withEvent_>(self, selector,
+                                                                             touches, event);
     objc::silently([&] { dialer::HintRow::setOfferPressed(self, false); });
 }

@@ -2,7 +2,7 @@
 // trailing underscore that their colon would give them; they are exported so.
 #pragma once
 
-#include "objc/saved.hpp"
+#include "objc/replacement.hpp"
 #include "platform/PhoneApp.hpp"
 #include "platform/Substrate.hpp"
 
@@ -21,17 +21,3 @@ ZQ_EXPORT void replace_PHHandsetDialerLCDView_touchesBegan_withEvent_(PHHandsetD
                                                                       NSObject event);
 ZQ_EXPORT void replace_PHHandsetDialerLCDView_touchesCancelled_withEvent_(
     PHHandsetDialerLCDView self, SEL selector, NSObject touches, NSObject event);
-
-inline constinit objc::Saved<decltype(replace_DialerController_viewWillAppear)>
-    saved_DialerController_viewWillAppear;
-inline constinit objc::Saved<decltype(replace_DialerController_viewWillDisappear)>
-    saved_DialerController_viewWillDisappear;
-inline constinit objc::Saved<
-    decltype(replace_DialerController_newPersonViewController_didCompleteWithNewPerson_)>
-    saved_DialerController_newPersonViewController_didCompleteWithNewPerson_;
-inline constinit objc::Saved<decltype(replace_PHHandsetDialerLCDView_setName_numberLabel_)>
-    saved_PHHandsetDialerLCDView_setName_numberLabel_;
-inline constinit objc::Saved<decltype(replace_PHHandsetDialerLCDView_touchesBegan_withEvent_)>
-    saved_PHHandsetDialerLCDView_touchesBegan_withEvent_;
-inline constinit objc::Saved<decltype(replace_PHHandsetDialerLCDView_touchesCancelled_withEvent_)>
-    saved_PHHandsetDialerLCDView_touchesCancelled_withEvent_;

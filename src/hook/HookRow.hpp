@@ -4,7 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "objc/saved.hpp"
+#include "objc/encoding.hpp"
+#include "objc/replacement.hpp"
 #include "objc/selector.hpp"
 
 namespace hook {
@@ -19,41 +20,42 @@ struct HookRow {
     Group group;
     const char *className;
     const char *selectorName;
+    // As the replacement is compiled; what the method itself has is compared with it.
+    const char *encoding;
     Gate gate;
     // Functions, because an address of another type is no constant.
     IMP (*replacement)();
     IMP *(*slot)();
 };
 
-/// A replacement and the slot of what it replaces, tied by their common function type.
-template <auto replacement, auto saved>
-struct Hooked {
-    static constexpr bool agree = false;
-};
+template <auto replacement>
+struct Replacement;
 
-template <class R, class Receiver, class... Args, R (*replacement)(Receiver, SEL, Args...),
-          objc::Saved<R(Receiver, SEL, Args...)> *saved>
-struct Hooked<replacement, saved> {
-    static constexpr bool agree = true;
+template <class R, class Receiver, class... Args, R (*replacement)(Receiver, SEL, Args...)>
+struct Replacement<replacement> {
     static constexpr auto arity = sizeof...(Args);
+    static constexpr const char *encoding = objc::kMethodEncoding<R, Args...>.chars;
     static IMP implementation() { return reinterpret_cast<IMP>(replacement); }
-    static IMP *slot() { return saved->slot(); }
+    static IMP *slot() { return objc::saved<replacement>.slot(); }
 };
 
-template <objc::Text selector, auto replacement, auto saved>
+/// The last part of a row: what stands in for the method.
+template <auto replacement>
+inline constexpr Replacement<replacement> with{};
+
+template <objc::Literal selector, class Replacement>
 constexpr HookRow row(Group group, const char *className, objc::Selector<selector>, Gate gate,
-                      Hooked<replacement, saved>) {
-    using Hook = Hooked<replacement, saved>;
-    static_assert(Hook::agree, "replacement and slot disagree in type");
-    static_assert(Hook::arity == objc::Selector<selector>::arity,
+                      Replacement) {
+    static_assert(Replacement::arity == objc::Selector<selector>::arity,
                   "the selector's colons and the replacement's arguments disagree in number");
     return {
         .group = group,
         .className = className,
         .selectorName = objc::Selector<selector>::text,
+        .encoding = Replacement::encoding,
         .gate = gate,
-        .replacement = &Hook::implementation,
-        .slot = &Hook::slot,
+        .replacement = &Replacement::implementation,
+        .slot = &Replacement::slot,
     };
 }
 

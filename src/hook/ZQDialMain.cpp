@@ -2,8 +2,8 @@
 // the hooking framework reaches. Nothing happens outside the Phone application.
 #include <string_view>
 
+#include "companion/companion.hpp"
 #include "hook/installation.hpp"
-#include "identity/companion.hpp"
 #include "objc/silently.hpp"
 #include "platform/Substrate.hpp"
 
@@ -14,11 +14,12 @@ namespace {
 /// Whether this process is the Phone application. Compared in lower case, exactly: no prefix
 /// counts.
 bool isPhoneApplication() {
-    const NSString identifier = NSBundle::mainBundle().bundleIdentifier();
+    constexpr std::string_view kPhoneApplication = "com.apple.mobilephone";
+    const NSString identifier = NSBundle::mainBundle().bundleIdentifier().lowercaseString();
     // Nothing of ours may be made before the gate has opened, a text constant included: the gate
-    // compares bytes.
-    const char *const lower = identifier.lowercaseString().UTF8String();
-    return lower && std::string_view(lower) == "com.apple.mobilephone";
+    // compares bytes, and the length, since a zero within the text would end them early.
+    const char *const bytes = identifier.UTF8String();
+    return bytes && bytes == kPhoneApplication && identifier.length() == kPhoneApplication.size();
 }
 
 }  // namespace

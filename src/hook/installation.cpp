@@ -1,36 +1,43 @@
 // Installing the hook table's rows, group by group.
 #include "hook/installation.hpp"
 
-#include <optional>
-
+#include "companion/ZQDialCloudQueryService.hpp"
 #include "dialer/ZQDialNumberInputUIHook.hpp"
 #include "hook/gates.hpp"
 #include "hook/table.hpp"
-#include "identity/ZQDialCloudQueryService.hpp"
 #include "incall/ZQDialWaitUIHook.hpp"
+#include "objc/silently.hpp"
+#include "platform/Substrate.hpp"
+#include "platform/format.hpp"
+#include "platform/log.hpp"
 #include "recents/GroupButton.hpp"
 #include "recents/ZQSystemCallHistoryClassHelper.hpp"
-#include "recents/view_methods.hpp"
+#include "recents/ZQSystemCallHistoryViewHook.hpp"
 
 namespace hook {
 namespace {
 
-/// Installs the group's rows in the table's order; a gate is asked once for each run of rows that
-/// share it. A class that the running system lacks skips its rows.
+/// A method of another signature than ours takes its arguments from other places. It is replaced
+/// all the same, but whoever reads the log learns of it.
+void logUnlessAlike(const HookRow &row, Method method) {
+    const char *const theirs = method ? method_getTypeEncoding(method) : nullptr;
+    if (theirs && !objc::sameEncoding(row.encoding, theirs)) {
+        const auto text = &NSString::withUTF8String;
+        logLine(format<"libZQDial: -[%@ %@] is %@ on this system, expected %@">(
+            text(row.className), text(row.selectorName), text(theirs), text(row.encoding)));
+    }
+}
+
+/// Installs the group's rows in the table's order. A class that the running system lacks skips its
+/// rows.
 void install(Group group) {
-    std::optional<Gate> asked;
-    bool open = false;
+    const RunningSystem system = RunningSystem::ask();
     for (const HookRow &row : kRows) {
-        if (row.group != group) {
-            continue;
-        }
-        if (asked != row.gate) {
-            asked = row.gate;
-            open = isOpen(row.gate);
-        }
-        const Class cls = open ? objc::findClass(row.className) : nullptr;
-        if (cls) {
-            MSHookMessageEx(cls, sel_registerName(row.selectorName), row.replacement(), row.slot());
+        const bool isWanted = row.group == group && isOpen(row.gate, system);
+        if (const Class cls = isWanted ? objc::findClass(row.className) : nullptr) {
+            const SEL selector = sel_registerName(row.selectorName);
+            objc::silently([&] { logUnlessAlike(row, class_getInstanceMethod(cls, selector)); });
+            MSHookMessageEx(cls, selector, row.replacement(), row.slot());
         }
     }
 }
@@ -48,7 +55,7 @@ void registerClasses() {
         .finish();
     ZQSystemCallHistoryClassHelper::define().finish();
     GroupButton::define().finish();
-    recents::withViewMethods(ZQSystemCallHistoryViewHook::define())
+    ZQSystemCallHistoryViewHook::define()
         .classMethod("InitializeHook"_sel, function<&initializeRecentsHook>)
         .finish();
 }
@@ -56,13 +63,13 @@ void registerClasses() {
 // The shared instances come first, so they exist on systems where no row is installed too.
 
 void initializeDialerHook() {
-    if (ZQDialNumberInputUIHook::createShared()) {
+    if (objc::Shared<ZQDialNumberInputUIHook>::create()) {
         install(Group::Dialer);
     }
 }
 
 void initializeInCallHook() {
-    if (ZQDialWaitUIHook::createShared()) {
+    if (objc::Shared<ZQDialWaitUIHook>::create()) {
         install(Group::InCall);
     }
 }

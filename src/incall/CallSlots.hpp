@@ -32,5 +32,5 @@ class CallSlots {
 /// An array of two objects, as the runtime sees the variable that holds them.
 template <>
 struct objc::StructEncoding<incall::CallSlots> {
-    static constexpr auto text = objc::Text("[2@]");
+    static constexpr auto text = objc::Literal("[2@]");
 };

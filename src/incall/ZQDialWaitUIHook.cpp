@@ -1,16 +1,28 @@
-// The in-call screen's hook object: calls and what is known of the caller.
+// The in-call screen's hook object: calls, and what is known of the caller.
 #include "incall/ZQDialWaitUIHook.hpp"
+
+#include "incall/contact_region.hpp"
+#include "incall/lcd_field.hpp"
+#include "incall/lcd_view.hpp"
+#include "incall/pictures.hpp"
+#include "objc/silently.hpp"
+#include "platform/format.hpp"
+#include "platform/log.hpp"
+
+using objc::Owned;
 
 namespace {
 
-constinit ZQDialWaitUIHook *g_shared = nullptr;
-
 constexpr auto kLogoHandler = "handlePartnerLogoDownloadNotification:"_sel;
+
+/// Nil for a text of one part; the caller owns the result, in spite of the message's name.
+NSAttributedString attributedString(NSString text) { return incall::twoToned(text).leak(); }
 
 }  // namespace
 
 objc::ClassBuilder<ZQDialWaitUIHook> ZQDialWaitUIHook::define() {
     using Self = ZQDialWaitUIHook;
+    using objc::function;
     using objc::member;
     return objc::ClassBuilder<Self>("ZQDialWaitUIHook", "NSObject")
         .ivar<&Self::_currentOutCall>("_currentOutCall")
@@ -33,9 +45,9 @@ objc::ClassBuilder<ZQDialWaitUIHook> ZQDialWaitUIHook::define() {
         .method("refreshNumberDesc"_sel, member<&Self::refreshNumberDesc>)
         .method("getNumberRegion"_sel, member<&Self::getNumberRegion>)
         .method("getNumberInfo:"_sel, member<&Self::getNumberInfo>)
-        .method("isTypeBrand:"_sel, member<&Self::isTypeBrand>)
+        .method("isTypeBrand:"_sel, function<&incall::isBrand>)
         .method("isBrandNumber"_sel, member<&Self::isBrandNumber>)
-        .method("getAttributedString:"_sel, member<&Self::getAttributedString>)
+        .method("getAttributedString:"_sel, function<&attributedString>)
         .method("hasSystemBigAvatar:"_sel, member<&Self::hasSystemBigAvatar>)
         .method(kLogoHandler, member<&Self::handlePartnerLogoDownloadNotification>)
         .method("addBrandLogo:"_sel, member<&Self::addBrandLogo>)
@@ -49,16 +61,7 @@ objc::ClassBuilder<ZQDialWaitUIHook> ZQDialWaitUIHook::define() {
         .method("layoutSubviewsOfLCDField:"_sel, member<&Self::layoutSubviewsOfLCDField>);
 }
 
-ZQDialWaitUIHook *ZQDialWaitUIHook::shared() { return g_shared; }
-
-bool ZQDialWaitUIHook::createShared() {
-    if (g_shared) {
-        return false;
-    }
-    g_shared = objc::make<ZQDialWaitUIHook>();
-    return g_shared != nullptr;
-}
-
+// A second `init` of one object leaves it as new.
 NSObject ZQDialWaitUIHook::init() {
     const auto self = objc::sendSuper<ZQDialWaitUIHook, NSObject()>(this, "init"_sel);
     if (self) {
@@ -82,43 +85,97 @@ bool ZQDialWaitUIHook::shouldHookUI() const {
 bool ZQDialWaitUIHook::isCurrentCallInBlackList() {
     if (_currentCallBlackListState == kNotAsked) {
         _currentCallBlackListState = kNotBlackListed;  // also if the question fails
-        if (ZQBlackListService::isCallHittedBlackList(getNumber(), isCurrentCallInAddresBook())) {
+        if (ZQBlackListService::isCallHittedBlackList(caller().number(),
+                                                      isCurrentCallInAddresBook())) {
             _currentCallBlackListState = kBlackListed;
         }
     }
     return _currentCallBlackListState == kBlackListed;
 }
 
-void ZQDialWaitUIHook::refreshNumberDesc() {
-    _numberDesc = {};
-    _numberDesc = objc::Owned<NSString>::share(getNumberInfo(getNumber()));
+incall::Caller ZQDialWaitUIHook::caller() const {
+    return {.calls = _currentCall,
+            .hasBigPicture = _hasSystemBigAvatar,
+            .description = Owned<NSString>::share(_numberDesc),
+            .logoPath = Owned<NSString>::share(_brandLogoName)};
 }
 
-NSString ZQDialWaitUIHook::getNumberInfo(NSString number) {
-    const auto held = objc::Owned<NSString>::share(number);  // the call it belongs to may end
+Owned<NSString> ZQDialWaitUIHook::learn(NSString number) {
+    const auto held = Owned<NSString>::share(number);  // the call it belongs to may end
     _brandLogoName = {};
-    const incall::Description description = incall::describe(number, _currentCall);
-    _brandLogoName = objc::Owned<NSString>::share(description.logoPath);
-    if (description.awaitedPartner) {
+    incall::Description found = incall::describe(number, _currentCall);
+    _brandLogoName = Owned<NSString>::share(found.logoPath);
+    if (found.awaitedPartner) {
         _brandLogoIsDownloading = true;
         ZQIPCService::addObserver(*this, kLogoHandler, partnerLogoDownloadedMessage());
-        ZQPartnerManager::defaultManager().doDownloadPartnerIcon(description.awaitedPartner.icon(),
-                                                                 _brandLogoName);
+        ZQPartnerManager::defaultManager().doDownloadPartnerIcon(found.awaitedPartner->icon(),
+                                                                 found.logoPath);
     }
-    return description.text;
+    return std::move(found.text);
 }
 
-NSAttributedString ZQDialWaitUIHook::getAttributedString(NSString text) const {
-    return incall::twoToned(text).leak();
+void ZQDialWaitUIHook::refreshNumberDesc() {
+    _numberDesc = {};
+    _numberDesc = learn(getNumber());
 }
 
+NSString ZQDialWaitUIHook::getNumberRegion() const {
+    return incall::regionOf(caller().number()).autorelease();
+}
+
+// Sent by the companion, which is not to get back what it raises itself.
 void ZQDialWaitUIHook::handlePartnerLogoDownloadNotification(NSNotification notification) {
-    const NSString message = partnerLogoDownloadedMessage();
-    if (!notification.name().isEqualToString(message)) {
-        return;
+    objc::silently([&] {
+        const NSString message = partnerLogoDownloadedMessage();
+        if (notification.name().isEqualToString(message)) {
+            const NSObject path = notification.userInfo().objectForKey("plogopath"_ns);
+            _brandLogoName = Owned<NSString>::share(asText(path));
+            _brandLogoIsDownloading = false;
+            ZQIPCService::removeObserver(*this, message);
+        }
+    });
+}
+
+bool ZQDialWaitUIHook::addBrandLogo(UIView view) const {
+    return incall::addLogo(view, moreThanOneCall());
+}
+
+void ZQDialWaitUIHook::showBrandLogoOnView(UIView container) const {
+    incall::showLogo(container, caller().logoPath);
+}
+
+bool ZQDialWaitUIHook::addAvatarView(InCallDisplay display) const {
+    return incall::addAvatar(display, caller());
+}
+
+bool ZQDialWaitUIHook::addDescriptionLabel(InCallLCDView lcd) {
+    const objc::AutoreleasePool pool;
+    logLine(format<"$$$$$$$$$$ addDescriptionLabel: lcdView = %@">(lcd));
+    refreshNumberDesc();
+    if (_numberDesc->length() == 0) {
+        return false;
     }
-    _brandLogoName =
-        objc::Owned<NSString>::share(asText(notification.userInfo().objectForKey("plogopath"_ns)));
-    _brandLogoIsDownloading = false;
-    ZQIPCService::removeObserver(*this, message);
+    if (isBrandNumber()) {
+        addBrandLogo(lcd);
+    }
+    incall::addDescriptionViews(lcd);
+    return true;
+}
+
+void ZQDialWaitUIHook::layoutSubviewOfLCDView(InCallLCDView lcd, bool withAvatar,
+                                              bool withNumDesc) const {
+    incall::layOutView(lcd, caller(), withAvatar, withNumDesc);
+}
+
+void ZQDialWaitUIHook::layoutContactRegionInfoOfView(InCallDisplay display) const {
+    incall::layOutContactRegion(display, caller());
+}
+
+bool ZQDialWaitUIHook::addNumInfoToLCDField(InCallLCDField field) {
+    refreshNumberDesc();
+    return _numberDesc->length() != 0 && incall::addDescriptionViews(field);
+}
+
+void ZQDialWaitUIHook::layoutSubviewsOfLCDField(InCallLCDField field) const {
+    incall::layOutField(field, caller());
 }

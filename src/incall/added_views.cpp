@@ -1,6 +1,9 @@
 // The views that the add-on adds to the in-call displays.
 #include "incall/added_views.hpp"
 
+#include "incall/description.hpp"
+#include "platform/LayoutPass.hpp"
+
 namespace incall {
 
 void addDescriptionLabel(UIView parent, CGRect frame, Tag tag) {
@@ -12,6 +15,13 @@ void addDescriptionLabel(UIView parent, CGRect frame, Tag tag) {
     addTagged(parent, label, tag);
 }
 
+void showDescription(UILabel label, NSString description) {
+    label.setText(description);
+    if (const auto attributed = twoToned(description)) {
+        label.setAttributedText(attributed.get());
+    }
+}
+
 UIView addGreenIcon(UIView parent, CGRect frame, Tag tag) {
     const UIImageView icon = withFrame<UIImageView>(frame).autorelease();
     icon.setImage(resourceImage("zqr_green_icon.png"_ns));
@@ -21,18 +31,23 @@ UIView addGreenIcon(UIView parent, CGRect frame, Tag tag) {
 
 UIView findContainer(InCallDisplay display) {
     const UIView found = display.viewWithTag(kContainerTag);
-    if (!found || found.get() != findRegionIcon(display.labelView()).get()) {
+    if (!found || found.superview().get() == display.get()) {
         return found;
     }
-    // The icon lies before the container in the tree, if there is one at all.
-    const NSArray subviews = display.subviews();
-    for (NSUInteger i = 0, count = subviews.count(); i < count; ++i) {
-        const auto subview = subviews.objectAtIndex(i).as<UIView>();
-        if (subview.viewWithTag(kContainerTag).get() == subview.get()) {
+    for (const UIView subview : display.subviews()) {
+        if (subview.tag() == kContainerTag) {
             return subview;
         }
     }
     return nullptr;
+}
+
+void setFrames(InCallDisplay display, std::initializer_list<Placed> places) {
+    for (const auto &[view, frame] : places) {
+        if (!LayoutPass::isOvertaken(display)) {
+            view.setFrame(frame);
+        }
+    }
 }
 
 void hideAddedViews(InCallDisplay display) {

@@ -1,7 +1,9 @@
 // The views that the add-on adds to the in-call displays: their tags and what they are made of.
 #pragma once
 
-#include "identity/companion.hpp"
+#include <initializer_list>
+
+#include "companion/companion.hpp"
 #include "platform/PhoneApp.hpp"
 
 namespace incall {
@@ -28,23 +30,28 @@ inline constexpr CGFloat kFontSize = 14;
 
 /// White, centred and clear behind.
 void addDescriptionLabel(UIView parent, CGRect frame, Tag tag);
+/// Sets the description, in two tones where it has two parts.
+void showDescription(UILabel label, NSString description);
 /// The small green icon beside a description. Owned by the pool as well, in case `parent` is nil.
 UIView addGreenIcon(UIView parent, CGRect frame, Tag tag);
 
 /// The icon before a contact's region.
-inline UIView findRegionIcon(TPLCDLabelView label) { return label.viewWithTag(kRegionIconTag); }
+inline UIView findRegionIcon(TPLCDTextView label) { return label.viewWithTag(kRegionIconTag); }
 
-/// The container of an LCD view's description, not to be taken for the icon inside its label; nil
-/// when there is none.
+/// The container of an LCD view's description, a direct child of the display: an icon of the same
+/// tag may lie in its label, also in one that the display no longer counts as its own. Nil when
+/// there is none.
 UIView findContainer(InCallDisplay display);
+
+struct Placed {
+    UIView view;
+    CGRect frame;
+};
+
+/// Sets the frames one after the other, as long as no other pass lays `display` out meanwhile.
+void setFrames(InCallDisplay display, std::initializer_list<Placed> places);
 
 /// Hides whatever was added, so that the Phone application's own screen stands.
 void hideAddedViews(InCallDisplay display);
-
-/// iOS 7.1 up to, but not including, 8.0.
-inline bool is71() {
-    return ZQPhoneUtil::isEalierThanIOSVersion(8.0, false) &&
-           ZQPhoneUtil::isLaterThanIOSVersion(7.1, true);
-}
 
 }  // namespace incall

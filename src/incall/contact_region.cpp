@@ -1,10 +1,14 @@
-// A contact's region before the number label, which the Phone application itself shows since 7.1.
-#include "incall/ZQDialWaitUIHook.hpp"
+// A contact's region before the number label.
+#include "incall/contact_region.hpp"
+
 #include "incall/added_views.hpp"
+#include "incall/description.hpp"
+#include "incall/geometry.hpp"
+#include "objc/silently.hpp"
+#include "platform/LayoutPass.hpp"
 #include "platform/format.hpp"
 
-using namespace incall;
-
+namespace incall {
 namespace {
 
 /// The label's text as this pass leaves it.
@@ -29,8 +33,7 @@ CGFloat measuredWidth(NSString text, CGSize room, CGFloat fontSize) {
                          kUsesLineFragmentOrigin | kTruncatesLastVisibleLine);
 }
 
-void placeRegionIcon(UIView icon, TPLCDLabelView label, const RegionText &text) {
-    const CGRect frame = label.frame();
+void placeRegionIcon(UIView icon, TPLCDTextView label, CGRect frame, const RegionText &text) {
     const CGFloat fontSize = label.fontSize();
     if (label.textRect().origin.x == 0) {
         label.setFrame(labelBehindIcon(frame, text.region.length(), fontSize));
@@ -48,31 +51,42 @@ void placeRegionIcon(UIView icon, TPLCDLabelView label, const RegionText &text) 
 
 }  // namespace
 
-void ZQDialWaitUIHook::layoutContactRegionInfoOfView(InCallDisplay display) const {
-    const TPLCDLabelView label = display.labelView();
+void layOutContactRegion(InCallDisplay display, const Caller &caller) {
+    const TPLCDTextView label = display.labelView();
     UIView icon = findRegionIcon(label);
     icon.setHidden(true);
-    RegionText text{.whole = label.text(), .region = {}};
+    const auto original = objc::Owned<NSString>::share(label.text());
+    RegionText text{.whole = original, .region = {}};
     const NSUInteger separatorIndex = text.whole.indexOf(separator());
     const bool hasRegion = separatorIndex != kNotFound;
-    if (moreThanOneCall()) {
+    if (caller.hasSecondCall()) {
         if (hasRegion) {
             label.setText(text.whole.substringFromIndex(separatorIndex + 1));
         }
         return;
     }
-    if (hasRegion) {
-        text.region = regionBefore(text.whole, separatorIndex);
-    } else if (text.region = getNumberRegion(); text.region.length() != 0) {
+    const auto newRegion = hasRegion ? objc::Owned<NSString>() : regionOf(caller.number());
+    text.region = hasRegion ? regionBefore(text.whole, separatorIndex) : newRegion.get();
+    if (text.region.length() == 0 || LayoutPass::isOvertaken(display)) {
+        return;
+    }
+    const CGRect frame = label.frame();
+    objc::Undo undo([&] {
+        label.setText(original);
+        label.setFrame(frame);
+    });
+    if (!hasRegion) {
         text.whole = format<"%@ | %@">(text.region, text.whole);
         label.setText(text.whole);
     }
-    if (text.region.length() == 0) {
-        return;
+    if (!LayoutPass::isOvertaken(display)) {
+        if (!icon) {
+            icon = addGreenIcon(label, {}, kRegionIconTag);
+        }
+        icon.setHidden(false);
+        placeRegionIcon(icon, label, frame, text);
     }
-    if (!icon) {
-        icon = addGreenIcon(label, {}, kRegionIconTag);
-    }
-    icon.setHidden(false);
-    placeRegionIcon(icon, label, text);
+    undo.keep();
 }
+
+}  // namespace incall

@@ -1,30 +1,28 @@
 // What the in-call screen says of the caller.
 #include "incall/description.hpp"
 
-#include "identity/ZQDialCloudQueryService.hpp"
+#include "companion/ZQDialCloudQueryService.hpp"
 #include "platform/format.hpp"
 #include "platform/two_tones.hpp"
 
 namespace incall {
 namespace {
 
-/// The parser goes to the pool: what it answers is its own.
-NSString pureNumber(NSString number) {
-    return ZQPhoneNumber::parsed(number).autorelease().pureNumber();
-}
+objc::Owned<NSString> held(NSString text) { return objc::Owned<NSString>::share(text); }
 
 bool marksPartner(NSString source) { return source.contains("$$"_ns); }
 
 Description partnerDescription(int32_t partnerId, NSString label) {
     const ZQPartnerManager manager = ZQPartnerManager::defaultManager();
-    const ZQPartnerItem partner = manager.getPartnerItemById(partnerId);
+    auto partner = objc::Owned<ZQPartnerItem>::share(manager.getPartnerItemById(partnerId));
     if (!partner) {
-        return {.text = format<"%@">(label)};
+        return {.text = held(format<"%@">(label))};
     }
-    Description found{.text = format<"%@">(partner.name()), .logoPath = partner.getIconImagePath()};
-    if (found.logoPath.length() != 0 &&
+    Description found{.text = held(format<"%@">(partner->name())),
+                      .logoPath = held(partner->getIconImagePath())};
+    if (found.logoPath->length() != 0 &&
         !NSFileManager::defaultManager().fileExistsAtPath(found.logoPath)) {
-        found.awaitedPartner = partner;
+        found.awaitedPartner = std::move(partner);
     }
     return found;
 }
@@ -33,35 +31,35 @@ Description partnerDescription(int32_t partnerId, NSString label) {
 /// the number stands for.
 Description markDescription(ZQNumberIdentity identity) {
     constexpr int32_t kFirstPartnerId = 5001;
-    const NSString label = identity.identity();
+    const auto label = held(identity.identity());
     const int32_t marks = identity.numOfMark();
     if (marks == 0 || marks == 1) {
-        return {.text = format<"%@">(label)};
+        return {.text = held(format<"%@">(label.get()))};
     }
     if (marks < kFirstPartnerId) {
-        return {.text = format<"%@ | %d人标记">(label, marks)};
+        return {.text = held(format<"%@ | %d人标记">(label.get(), marks))};
     }
     const NSString source = identity.source();
     if (source.length() != 0 && !marksPartner(source)) {
-        return {.text = format<"%@">(label)};
+        return {.text = held(format<"%@">(label.get()))};
     }
     return partnerDescription(marks, label);
 }
 
 Description brandDescription(NSDictionary brand) {
-    const auto textFor = [&](id key) { return asText(brand.objectForKey(NSObject(key))); };
+    const auto textFor = [&](id key) { return held(asText(brand.objectForKey(NSObject(key)))); };
     return {.text = textFor(kZQBrandServiceBrandNameKey),
             .logoPath = textFor(kZQBrandServiceBrandLogoPathKey)};
 }
 
 Description identityDescription(ZQNumberIdentity identity) {
-    const NSString region = ZQPhoneNumber::descriptionOfNumber(identity.number());
+    auto region = held(ZQPhoneNumber::descriptionOfNumber(held(identity.number())));
     switch (identity.type()) {
     case IdentityKind::Region:
     case IdentityKind::RegionAndLabel:
-        return {.text = region};
+        return {.text = std::move(region)};
     case IdentityKind::Foreign:
-        return {.text = format<"%@ | %@">(region, "若非国外亲友，请警惕诈骗"_ns)};
+        return {.text = held(format<"%@ | %@">(region.get(), "若非国外亲友，请警惕诈骗"_ns))};
     case IdentityKind::Brand:
         return brandDescription(identity.brandInfo());
     case IdentityKind::UserMark:
@@ -73,8 +71,8 @@ Description identityDescription(ZQNumberIdentity identity) {
     default:
         break;
     }
-    const NSString label = identity.identity();
-    return {.text = label.length() != 0 ? label : region};
+    auto label = held(identity.identity());
+    return {.text = std::move(label->length() != 0 ? label : region)};
 }
 
 /// The first part keeps only its beginning where the second leaves it no room.
@@ -96,19 +94,16 @@ Description describe(NSString number, const CallSlots &calls) {
         return {};
     }
     if (isContact(calls.current())) {
-        return {.text = ZQPhoneNumber::areaNameOfNumber(number)};
+        return {.text = held(ZQPhoneNumber::areaNameOfNumber(number))};
     }
-    const NSString pure = pureNumber(number);
+    const auto pure = ZQPhoneNumber::pureNumberOf(number);
     auto *const service = ZQDialCloudQueryService::currentService();
-    const ZQNumberIdentity identity =
+    // The record is the cache's, which a new call or a reload empties.
+    const auto identity = objc::Owned<ZQNumberIdentity>::share(
         service ? service->getNumberIdentity(pure, calls.current().isOutgoing())
-                : ZQNumberIdentity();
-    if (!identity) {
-        return {.text = ZQPhoneNumber::descriptionOfNumber(pure)};
-    }
-    // The record is the cache's, which a new call empties.
-    const auto held = objc::Owned<ZQNumberIdentity>::share(identity);
-    return identityDescription(identity);
+                : ZQNumberIdentity());
+    return identity ? identityDescription(identity)
+                    : Description{.text = held(ZQPhoneNumber::descriptionOfNumber(pure))};
 }
 
 bool isBrand(ZQNumberIdentity identity) {
@@ -124,8 +119,9 @@ bool isBrand(ZQNumberIdentity identity) {
     }
 }
 
-NSString regionOf(NSString number) {
-    return number ? ZQPhoneNumber::areaNameOfNumber(pureNumber(number)) : nullptr;
+objc::Owned<NSString> regionOf(NSString number) {
+    return number ? held(ZQPhoneNumber::areaNameOfNumber(ZQPhoneNumber::pureNumberOf(number)))
+                  : objc::Owned<NSString>();
 }
 
 objc::Owned<NSMutableAttributedString> twoToned(NSString text) {

@@ -1,44 +1,33 @@
-// The display with a content view, where the description is a line below the two others.
+// The display with a content view.
+#include "incall/lcd_field.hpp"
+
 #include <limits>
 
-#include "incall/ZQDialWaitUIHook.hpp"
 #include "incall/added_views.hpp"
+#include "incall/geometry.hpp"
+#include "incall/pictures.hpp"
+#include "objc/silently.hpp"
+#include "platform/LayoutPass.hpp"
 
-using namespace incall;
-
+namespace incall {
 namespace {
 
 constexpr CGFloat kUnbounded = std::numeric_limits<float>::max();
 
-}  // namespace
-
-bool ZQDialWaitUIHook::addNumInfoToLCDField(InCallLCDField field) {
-    refreshNumberDesc();
-    const UIView content = field.contentView();
-    if (_numberDesc->length() == 0 || !content) {
-        return false;
-    }
-    if (!field.viewWithTag(kFieldDescriptionTag)) {
-        const CGRect label = newFieldLabel(is71());
-        incall::addDescriptionLabel(content, label, kFieldDescriptionTag);
-        addGreenIcon(content, newFieldIcon(label), kFieldIconTag);
-    }
-    return true;
-}
-
-/// `container` is nil, or the one that is there already; one that is made now is answered in it.
-Beside ZQDialWaitUIHook::choosePicture(InCallLCDField field, UIView &container) const {
-    if (!isCurrentCallInAddresBook()) {
-        if (!isBrandNumber()) {
+/// What stands beside the text. `container` is the picture's, or nil; one that is made now is
+/// returned in it.
+Beside choosePicture(InCallLCDField field, const Caller &caller, UIView &container) {
+    if (!caller.isContact()) {
+        if (!caller.isBrand()) {
             return Beside::Nothing;
         }
-        if (addBrandLogo(field)) {
+        if (addLogo(field, caller.hasSecondCall())) {
             container = field.viewWithTag(kPictureTag);
         }
-        showBrandLogoOnView(container);
+        showLogo(container, caller.logoPath);
         return Beside::Logo;
     }
-    if (_hasSystemBigAvatar) {
+    if (caller.hasBigPicture) {
         container.setHidden(true);
         return Beside::Nothing;
     }
@@ -47,7 +36,7 @@ Beside ZQDialWaitUIHook::choosePicture(InCallLCDField field, UIView &container) 
         container.setHidden(true);
         return Beside::SystemPicture;
     }
-    if (!addAvatarView(field)) {
+    if (!addAvatar(field, caller)) {
         return Beside::Nothing;
     }
     if (!container) {
@@ -57,34 +46,67 @@ Beside ZQDialWaitUIHook::choosePicture(InCallLCDField field, UIView &container) 
     return Beside::Avatar;
 }
 
-void ZQDialWaitUIHook::layoutSubviewsOfLCDField(InCallLCDField field) const {
+}  // namespace
+
+bool addDescriptionViews(InCallLCDField field) {
+    const UIView content = field.contentView();
+    if (!content) {
+        return false;
+    }
+    const bool hasLabel = field.viewWithTag(kFieldDescriptionTag) != nullptr;
+    if (hasLabel && field.viewWithTag(kFieldIconTag)) {
+        return true;
+    }
+    const CGRect label = newFieldLabel(ios::is71());
+    if (!hasLabel) {
+        addDescriptionLabel(content, label, kFieldDescriptionTag);
+    }
+    if (!field.viewWithTag(kFieldIconTag)) {
+        addGreenIcon(content, newFieldIcon(label), kFieldIconTag);
+    }
+    return field.viewWithTag(kFieldDescriptionTag) != nullptr;
+}
+
+void layOutField(InCallLCDField field, const Caller &caller) {
     UIView picture = field.viewWithTag(kPictureTag);
     const auto description = field.viewWithTag(kFieldDescriptionTag).as<UILabel>();
     const UIView icon = field.viewWithTag(kFieldIconTag);
-    const bool isHidden = moreThanOneCall();
+    const bool isHidden = caller.hasSecondCall();
     description.setHidden(isHidden);
     picture.setHidden(isHidden);
     icon.setHidden(isHidden);
     if (isHidden) {
         return;
     }
-    const Beside beside = choosePicture(field, picture);
-    showDescription(description);
+    const Beside beside = choosePicture(field, caller, picture);
+    if (LayoutPass::isOvertaken(field)) {
+        return;
+    }
+    showDescription(description, caller.description);
 
     const TPLCDTextView text = field.textView();
-    const TPLCDLabelView label = field.labelView();
+    const TPLCDTextView label = field.labelView();
+    const CGRect textFrame = text.frame();
+    const CGRect labelFrame = label.frame();
     const auto [frames, iconFrame] = place(LCDField{
-        .frames = {picture.frame(), text.frame(), label.frame(), description.frame()},
+        .frames = {picture.frame(), textFrame, labelFrame, description.frame()},
         .icon = icon.frame(),
         .beside = beside,
-        .textWidth = boundingWidth(_numberDesc, description.font(), {kUnbounded, kUnbounded},
+        .textWidth = boundingWidth(caller.description, description.font(), {kUnbounded, kUnbounded},
                                    kUsesLineFragmentOrigin),
         .shortScreen = ZQPhoneUtil::isScreen35Inch(),
-        .is71 = is71(),
+        .is71 = ios::is71(),
     });
-    picture.setFrame(frames.picture);
-    text.setFrame(frames.text);
-    label.setFrame(frames.label);
-    description.setFrame(frames.line);
-    icon.setFrame(iconFrame);
+    objc::Undo undo([&] {
+        text.setFrame(textFrame);
+        label.setFrame(labelFrame);
+    });
+    setFrames(field, {{picture, frames.picture},
+                      {text, frames.text},
+                      {label, frames.label},
+                      {description, frames.line},
+                      {icon, iconFrame}});
+    undo.keep();
 }
+
+}  // namespace incall

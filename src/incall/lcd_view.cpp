@@ -1,11 +1,13 @@
-// The display without a content view: the description stands in a container of its own, low in it.
-#include "incall/ZQDialWaitUIHook.hpp"
+// The display without a content view.
+#include "incall/lcd_view.hpp"
+
 #include "incall/added_views.hpp"
-#include "platform/format.hpp"
-#include "platform/log.hpp"
+#include "incall/geometry.hpp"
+#include "incall/pictures.hpp"
+#include "objc/silently.hpp"
+#include "platform/LayoutPass.hpp"
 
-using namespace incall;
-
+namespace incall {
 namespace {
 
 UIView addContainer(InCallLCDView lcd, CGRect frame) {
@@ -18,98 +20,93 @@ UIView addContainer(InCallLCDView lcd, CGRect frame) {
 /// Two calls stand one below the other, from the left.
 void alignTextsLeft(InCallLCDView lcd) {
     const auto centring = "setCenterText:"_sel;
-    const NSArray subviews = lcd.subviews();
-    for (NSUInteger i = 0, count = subviews.count(); i < count; ++i) {
-        const NSObject subview = subviews.objectAtIndex(i);
+    for (const UIView subview : lcd.subviews()) {
         if (subview.respondsToSelector(centring)) {
             objc::send<void(bool)>(subview, centring, false);
         }
     }
 }
 
+Beside besideText(InCallLCDView lcd, const Caller &caller, bool withPicture) {
+    if (caller.hasBigPicture) {
+        return Beside::Nothing;
+    }
+    if (lcd.imageView()) {
+        return Beside::SystemPicture;
+    }
+    return !withPicture ? Beside::Nothing : caller.isBrand() ? Beside::Logo : Beside::Avatar;
+}
+
+void placeDescription(UIView container, const Caller &caller, Column column) {
+    const auto label = container.viewWithTag(kDescriptionTag).as<UILabel>();
+    const UIView icon = container.viewWithTag(kIconTag);
+    const CGRect labelFrame = label.frame();
+    label.setFrame(descriptionFrame(column, labelFrame.origin.y, labelFrame.size.height));
+    CGRect iconFrame = icon.frame();
+    iconFrame.origin.x = iconX(column, lineSize(caller.description, label.font()).width);
+    icon.setFrame(iconFrame);
+    showDescription(label, caller.description);
+}
+
 }  // namespace
 
-bool ZQDialWaitUIHook::addDescriptionLabel(InCallLCDView lcd) {
-    const objc::AutoreleasePool pool;
-    logLine(format<"$$$$$$$$$$ addDescriptionLabel: lcdView = %@">(lcd));
-    refreshNumberDesc();
-    if (_numberDesc->length() == 0) {
-        return false;
-    }
-    if (isBrandNumber()) {
-        addBrandLogo(lcd);
-    }
+void addDescriptionViews(InCallLCDView lcd) {
     const NewLine frames = newLine(lcd.frame().size);
     UIView container = findContainer(lcd);
     if (!container) {
         container = addContainer(lcd, frames.container);
     }
     if (!container.viewWithTag(kDescriptionTag)) {
-        incall::addDescriptionLabel(container, frames.label, kDescriptionTag);
+        addDescriptionLabel(container, frames.label, kDescriptionTag);
     }
     if (!container.viewWithTag(kIconTag)) {
         addGreenIcon(container, frames.icon, kIconTag);
     }
-    return true;
 }
 
-void ZQDialWaitUIHook::layoutSubviewOfLCDView(InCallLCDView lcd, bool withAvatar,
-                                              bool withNumDesc) const {
+void layOutView(InCallLCDView lcd, const Caller &caller, bool withPicture, bool withDescription) {
     const UIView picture = lcd.viewWithTag(kPictureTag);
     const TPLCDTextView text = lcd.textView();
-    const TPLCDLabelView label = lcd.labelView();
+    const TPLCDTextView label = lcd.labelView();
     const UIView container = findContainer(lcd);
     findRegionIcon(label).setHidden(true);
-    if (moreThanOneCall()) {
-        if (!is71()) {
+    if (caller.hasSecondCall()) {
+        if (!ios::is71()) {
             alignTextsLeft(lcd);
         }
         container.setHidden(true);
         picture.setHidden(true);
         return;
     }
-    const bool hasSystemPicture = _hasSystemBigAvatar || lcd.imageView();
     container.setHidden(false);
-    picture.setHidden(hasSystemPicture);
+    picture.setHidden(caller.hasBigPicture || lcd.imageView());
 
-    LCDView view{
+    const LCDView view{
         .frames = {picture.frame(), text.frame(), label.frame(), container.frame()},
         .height = lcd.frame().size.height,
-        .beside = _hasSystemBigAvatar ? Beside::Nothing
-                  : hasSystemPicture  ? Beside::SystemPicture
-                  : !withAvatar       ? Beside::Nothing
-                  : isBrandNumber()   ? Beside::Logo
-                                      : Beside::Avatar,
-        .describes = withNumDesc,
-        .shortScreen = withNumDesc && ZQPhoneUtil::isScreen35Inch(),
+        .beside = besideText(lcd, caller, withPicture),
+        .describes = withDescription,
+        .shortScreen = withDescription && ZQPhoneUtil::isScreen35Inch(),
     };
     if (view.beside == Beside::Logo) {
-        showBrandLogoOnView(picture);
+        showLogo(picture, caller.logoPath);
     }
-    if (withNumDesc) {
-        placeDescription(container, columnOf(view));
+    if (LayoutPass::isOvertaken(lcd)) {
+        return;
     }
+    if (withDescription) {
+        placeDescription(container, caller, columnOf(view));
+    }
+    objc::Undo undo([&] {
+        text.setFrame(view.frames.text);
+        label.setFrame(view.frames.label);
+    });
     const Frames places = place(view);
-    picture.setFrame(places.picture);
-    text.setFrame(places.text);
-    label.setFrame(places.label);
-    container.setFrame(places.line);
+    setFrames(lcd, {{picture, places.picture},
+                    {text, places.text},
+                    {label, places.label},
+                    {container, places.line}});
+    undo.keep();
 }
 
-void ZQDialWaitUIHook::placeDescription(UIView container, Column column) const {
-    const auto label = container.viewWithTag(kDescriptionTag).as<UILabel>();
-    const UIView icon = container.viewWithTag(kIconTag);
-    const CGRect labelFrame = label.frame();
-    label.setFrame(descriptionFrame(column, labelFrame.origin.y, labelFrame.size.height));
-    CGRect iconFrame = icon.frame();
-    iconFrame.origin.x = iconX(column, lineSize(_numberDesc, label.font()).width);
-    icon.setFrame(iconFrame);
-    showDescription(label);
-}
-
-void ZQDialWaitUIHook::showDescription(UILabel label) const {
-    label.setText(_numberDesc);
-    if (const auto attributed = twoToned(_numberDesc)) {
-        label.setAttributedText(attributed.get());
-    }
-}
+}  // namespace incall

@@ -1,9 +1,10 @@
-// Logos and avatars at the right of a display.
-#include "incall/ZQDialWaitUIHook.hpp"
+// Logos and avatars at the right of an in-call display.
+#include "incall/pictures.hpp"
+
 #include "incall/added_views.hpp"
+#include "incall/geometry.hpp"
 
-using namespace incall;
-
+namespace incall {
 namespace {
 
 UIImage logoImage(NSString path) {
@@ -33,15 +34,15 @@ bool showsBadge(NSString mobile) {
     id profile = nullptr;
     id content = nullptr;
     objc::create<ZQWeiboService>()->getWeiboInfo(mobile, &profile, &content);
-    const ZQWeiboProfile answered(profile);
-    return answered.avatarType() != 1 && answered.boundType() == 1;
+    const ZQWeiboProfile found(profile);
+    return found.avatarType() != 1 && found.boundType() == 1;
 }
 
 }  // namespace
 
-bool ZQDialWaitUIHook::addBrandLogo(UIView view) const {
+bool addLogo(UIView view, bool hasSecondCall) {
     const UIView found = view.viewWithTag(kPictureTag);
-    found.setHidden(moreThanOneCall());
+    found.setHidden(hasSecondCall);
     if (found) {
         return false;
     }
@@ -51,19 +52,20 @@ bool ZQDialWaitUIHook::addBrandLogo(UIView view) const {
     return true;
 }
 
-void ZQDialWaitUIHook::showBrandLogoOnView(UIView container) const {
+void showLogo(UIView container, NSString path) {
     const auto logo = container.viewWithTag(kLogoTag).as<UIImageView>();
-    const UIImage image = logoImage(_brandLogoName);
+    const UIImage image = logoImage(path);
     logo.setFrame(shownLogo(logo.frame()));
     logo.setImage(image);
 }
 
-bool ZQDialWaitUIHook::addAvatarView(InCallDisplay display) const {
-    if (_hasSystemBigAvatar) {
+bool addAvatar(InCallDisplay display, const Caller &caller) {
+    if (caller.hasBigPicture) {
         return false;
     }
-    const NSString mobile = ZQPhoneNumber::getMobileNumberFromNumber(getNumber());
-    if (mobile.length() == 0) {
+    const auto mobile =
+        objc::Owned<NSString>::share(ZQPhoneNumber::getMobileNumberFromNumber(caller.number()));
+    if (mobile->length() == 0) {
         return false;
     }
     if (const UIView systemPicture = display.imageView()) {
@@ -74,12 +76,15 @@ bool ZQDialWaitUIHook::addAvatarView(InCallDisplay display) const {
     if (!image) {
         return false;
     }
+    const bool hasBadge = showsBadge(mobile);
     const UIView found = display.viewWithTag(kPictureTag);
     if (!found) {
         addAvatarContainer(display, image);
     }
     // One made just now stays as it is: shown.
-    found.setHidden(moreThanOneCall());
-    display.viewWithTag(kBadgeTag).setHidden(!showsBadge(mobile));
+    found.setHidden(caller.hasSecondCall());
+    display.viewWithTag(kBadgeTag).setHidden(!hasBadge);
     return true;
 }
+
+}  // namespace incall

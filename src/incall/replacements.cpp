@@ -1,26 +1,29 @@
 // The in-call screen's replaced methods.
 #include "incall/replacements.hpp"
 
-#include "identity/ZQDialCloudQueryService.hpp"
+#include "companion/ZQDialCloudQueryService.hpp"
+#include "companion/ios_version.hpp"
 #include "incall/ZQDialWaitUIHook.hpp"
 #include "incall/added_views.hpp"
 #include "objc/silently.hpp"
+#include "platform/LayoutPass.hpp"
 
 constinit BOOL g_isThreePartyCall = 0;
 
 namespace {
 
-/// Work of ours on the one hook object, which is there once the hooks are installed. Answers
+/// Work of ours on the one hook object, which is there once the hooks are installed. Returns
 /// whether it came to its end.
 template <class Work>
 bool withHook(Work work) {
-    ZQDialWaitUIHook *const hook = ZQDialWaitUIHook::shared();
+    ZQDialWaitUIHook *const hook = objc::Shared<ZQDialWaitUIHook>::get();
     return hook && objc::silently([&] { work(*hook); });
 }
 
 /// The same, for a display: half a layout is worse than none.
 template <class Work>
 void layOut(InCallDisplay display, Work work) {
+    const LayoutPass pass(display);
     if (!withHook(work)) {
         objc::silently([&] { incall::hideAddedViews(display); });
     }
@@ -35,8 +38,8 @@ bool hasOtherAddOn() {
 
 }  // namespace
 
-id replace_TUTelephonyCall_initWithCall_(TUTelephonyCall self, SEL selector, NSObject call) {
-    const id created = saved_TUTelephonyCall_initWithCall_(self, selector, call);
+id replace_TUTelephonyCall_initWithCall_(TUTelephonyCall self, SEL selector, const void *call) {
+    const id created = objc::saved<&replace_TUTelephonyCall_initWithCall_>(self, selector, call);
     objc::silently([] {
         if (auto *const service = ZQDialCloudQueryService::currentService()) {
             service->forcelyResetData();
@@ -52,27 +55,27 @@ id replace_TUTelephonyCall_initWithCall_(TUTelephonyCall self, SEL selector, NSO
 
 void replace_TUTelephonyCall_dealloc(TUTelephonyCall self, SEL selector) {
     withHook([&](auto &hook) { hook.clearCurrentCall(self); });
-    saved_TUTelephonyCall_dealloc(self, selector);
+    objc::saved<&replace_TUTelephonyCall_dealloc>(self, selector);
 }
 
 void replace_InCallLCDField_layoutSubviews(InCallLCDField self, SEL selector) {
-    saved_InCallLCDField_layoutSubviews(self, selector);
+    objc::saved<&replace_InCallLCDField_layoutSubviews>(self, selector);
     layOut(self, [&](auto &hook) {
         if (!hook.shouldHookUI()) {
             return;
         }
-        if (incall::is71() && hook.isCurrentCallInAddresBook()) {
+        if (ios::is71() && hook.isCurrentCallInAddresBook()) {
             hook.layoutContactRegionInfoOfView(self);
-        } else if (hook.addNumInfoToLCDField(self)) {
+        } else if (hook.addNumInfoToLCDField(self) && !LayoutPass::isOvertaken(self)) {
             hook.layoutSubviewsOfLCDField(self);
         }
     });
 }
 
 void replace_InCallLCDView_layoutSubviews(InCallLCDView self, SEL selector) {
-    saved_InCallLCDView_layoutSubviews(self, selector);
+    objc::saved<&replace_InCallLCDView_layoutSubviews>(self, selector);
     layOut(self, [&](auto &hook) {
-        const bool is71 = incall::is71();
+        const bool is71 = ios::is71();
         const bool hooksUI = hook.shouldHookUI();
         if (is71 && hook.isCurrentCallInAddresBook()) {
             if (hooksUI) {
@@ -83,7 +86,9 @@ void replace_InCallLCDView_layoutSubviews(InCallLCDView self, SEL selector) {
         const bool hasDescription = hooksUI && hook.addDescriptionLabel(self);
         // On 7.1 the picture is asked for even where no information is wanted.
         const bool hasPicture = (is71 || hooksUI) && hook.isBrandNumber();
-        hook.layoutSubviewOfLCDView(self, hasPicture, hasDescription);
+        if (!LayoutPass::isOvertaken(self)) {
+            hook.layoutSubviewOfLCDView(self, hasPicture, hasDescription);
+        }
     });
 }
 
@@ -99,13 +104,15 @@ void replace_InCallController__callStatusChangedNotification_(InCallController s
             hook.clearCurrentCall(TUTelephonyCall(ended));
         }
     });
-    saved_InCallController__callStatusChangedNotification_(self, selector, notification);
+    objc::saved<&replace_InCallController__callStatusChangedNotification_>(self, selector,
+                                                                           notification);
 }
 
 void replace_TPLCDTextView_setCenterText_(TPLCDTextView self, SEL selector, BOOL center) {
     bool centred = center != 0;
     withHook([&](auto &hook) { centred = centred || !hook.moreThanOneCall(); });
-    saved_TPLCDTextView_setCenterText_(self, selector, objc::Wire<bool>::to(centred));
+    objc::saved<&replace_TPLCDTextView_setCenterText_>(self, selector,
+                                                       objc::Wire<bool>::to(centred));
 }
 
 void replace_TPLCDTextView_setLCDTextFont_(TPLCDTextView self, SEL selector, UIFont font) {
@@ -117,11 +124,12 @@ void replace_TPLCDTextView_setLCDTextFont_(TPLCDTextView self, SEL selector, UIF
             shown = UIFont::withName("HelveticaNeue"_ns, incall::kFontSize);
         }
     });
-    saved_TPLCDTextView_setLCDTextFont_(self, selector, shown ? shown : font);
+    objc::saved<&replace_TPLCDTextView_setLCDTextFont_>(self, selector, shown ? shown : font);
 }
 
 void replace_TPWallpaperView_setContactImage_animated_(TPWallpaperView self, SEL selector,
                                                        UIImage image, BOOL animated) {
-    saved_TPWallpaperView_setContactImage_animated_(self, selector, image, animated);
+    objc::saved<&replace_TPWallpaperView_setContactImage_animated_>(self, selector, image,
+                                                                    animated);
     withHook([&](auto &hook) { hook.hasSystemBigAvatar(static_cast<bool>(image)); });
 }

@@ -1,7 +1,7 @@
 // The in-call screen's replaced methods and the slots of what they replaced.
 #pragma once
 
-#include "objc/saved.hpp"
+#include "objc/replacement.hpp"
 #include "platform/PhoneApp.hpp"
 #include "platform/Substrate.hpp"
 
@@ -9,7 +9,7 @@
 extern "C" __attribute__((visibility("default"))) BOOL g_isThreePartyCall;
 
 ZQ_EXPORT id replace_TUTelephonyCall_initWithCall_(TUTelephonyCall self, SEL selector,
-                                                   NSObject call);
+                                                   const void *call);
 ZQ_EXPORT void replace_TUTelephonyCall_dealloc(TUTelephonyCall self, SEL selector);
 ZQ_EXPORT void replace_InCallLCDField_layoutSubviews(InCallLCDField self, SEL selector);
 ZQ_EXPORT void replace_InCallLCDView_layoutSubviews(InCallLCDView self, SEL selector);
@@ -19,20 +19,3 @@ ZQ_EXPORT void replace_TPLCDTextView_setCenterText_(TPLCDTextView self, SEL sele
 ZQ_EXPORT void replace_TPLCDTextView_setLCDTextFont_(TPLCDTextView self, SEL selector, UIFont font);
 ZQ_EXPORT void replace_TPWallpaperView_setContactImage_animated_(TPWallpaperView self, SEL selector,
                                                                  UIImage image, BOOL animated);
-
-inline constinit objc::Saved<decltype(replace_TUTelephonyCall_initWithCall_)>
-    saved_TUTelephonyCall_initWithCall_;
-inline constinit objc::Saved<decltype(replace_TUTelephonyCall_dealloc)>
-    saved_TUTelephonyCall_dealloc;
-inline constinit objc::Saved<decltype(replace_InCallLCDField_layoutSubviews)>
-    saved_InCallLCDField_layoutSubviews;
-inline constinit objc::Saved<decltype(replace_InCallLCDView_layoutSubviews)>
-    saved_InCallLCDView_layoutSubviews;
-inline constinit objc::Saved<decltype(replace_InCallController__callStatusChangedNotification_)>
-    saved_InCallController__callStatusChangedNotification_;
-inline constinit objc::Saved<decltype(replace_TPLCDTextView_setCenterText_)>
-    saved_TPLCDTextView_setCenterText_;
-inline constinit objc::Saved<decltype(replace_TPLCDTextView_setLCDTextFont_)>
-    saved_TPLCDTextView_setLCDTextFont_;
-inline constinit objc::Saved<decltype(replace_TPWallpaperView_setContactImage_animated_)>
-    saved_TPWallpaperView_setContactImage_animated_;

@@ -8,9 +8,9 @@
 
 namespace objc {
 
-/// Calls `callable` and makes what it answers fit the message.
+/// Calls `callable` and makes what it returns fit the message.
 template <class R, class Callable>
-WireType<R> answer(Callable callable) {
+WireType<R> result(Callable callable) {
     if constexpr (std::is_void_v<R>) {
         callable();
     } else {
@@ -31,7 +31,7 @@ struct MemberBinding;
 template <class T, class R, class... Args, R (T::*callable)(Args...)>
 struct MemberBinding<callable> : MethodFacts<R, Args...> {
     static WireType<R> invoke(id self, SEL, WireType<Args>... args) {
-        return answer<R>([&]() -> R {
+        return result<R>([&]() -> R {
             return (reinterpret_cast<T *>(self)->*callable)(Wire<Args>::from(args)...);
         });
     }
@@ -40,7 +40,7 @@ struct MemberBinding<callable> : MethodFacts<R, Args...> {
 template <class T, class R, class... Args, R (T::*callable)(Args...) const>
 struct MemberBinding<callable> : MethodFacts<R, Args...> {
     static WireType<R> invoke(id self, SEL, WireType<Args>... args) {
-        return answer<R>([&]() -> R {
+        return result<R>([&]() -> R {
             return (reinterpret_cast<const T *>(self)->*callable)(Wire<Args>::from(args)...);
         });
     }
@@ -52,7 +52,7 @@ struct FunctionBinding;
 template <class R, class... Args, R (*callable)(Args...)>
 struct FunctionBinding<callable> : MethodFacts<R, Args...> {
     static WireType<R> invoke(id, SEL, WireType<Args>... args) {
-        return answer<R>([&]() -> R { return callable(Wire<Args>::from(args)...); });
+        return result<R>([&]() -> R { return callable(Wire<Args>::from(args)...); });
     }
 };
 
@@ -62,7 +62,7 @@ struct ReceivingBinding;
 template <class Receiver, class R, class... Args, R (*callable)(Receiver, Args...)>
 struct ReceivingBinding<callable> : MethodFacts<R, Args...> {
     static WireType<R> invoke(WireType<Receiver> self, SEL, WireType<Args>... args) {
-        return answer<R>(
+        return result<R>(
             [&]() -> R { return callable(Wire<Receiver>::from(self), Wire<Args>::from(args)...); });
     }
 };

@@ -7,13 +7,6 @@
 namespace objc {
 namespace {
 
-// Every class of ours answers this class message: that is how an ancestor is told to be ours.
-constexpr auto kMarker = "isDefinedInCPlusPlus"_sel;
-
-bool answerYes() { return true; }
-
-bool isOurs(Class cls) { return class_respondsToSelector(object_getClass(asObject(cls)), kMarker); }
-
 uint8_t log2(size_t alignment) { return static_cast<uint8_t>(std::countr_zero(alignment)); }
 
 }  // namespace
@@ -25,8 +18,6 @@ ClassDefinition::ClassDefinition(const char *name, const char *superclass) {
     }
     class_ = objc_allocateClassPair(parent, name, 0);
     end_ = class_getInstanceSize(parent);
-    addClassMethod(kMarker, reinterpret_cast<IMP>(&FunctionBinding<answerYes>::invoke),
-                   FunctionBinding<answerYes>::encoding);
 }
 
 ClassDefinition::~ClassDefinition() {
@@ -41,7 +32,7 @@ void ClassDefinition::coverUpTo(size_t offset) {
     }
     // Named by its offset: no class may repeat a name, not even one of its ancestors'.
     char name[32];
-    std::snprintf(name, sizeof name, "_zqGap%zu", end_);
+    std::snprintf(name, sizeof name, "_gap%zu", end_);
     const size_t size = offset - end_;
     sound_ = class_addIvar(class_, name, size, 0, "?") && sound_;
     end_ = offset;
@@ -74,19 +65,19 @@ void ClassDefinition::addClassMethod(SEL selector, IMP implementation, const cha
     }
 }
 
+void ClassDefinition::addSetter(const char *name, IMP implementation, const char *encoding) {
+    constexpr auto kLowerCaseBit = 0x20U;
+    char setter[64];
+    std::snprintf(setter, sizeof setter, "set%c%s:", static_cast<int>(*name & ~kLowerCaseBit),
+                  name + 1);
+    addMethod(sel_registerName(setter), implementation, encoding);
+}
+
 void ClassDefinition::addProtocol(const char *name) {
     const id protocol = objc_getProtocol(name);
     if (class_ && protocol) {
         class_addProtocol(class_, protocol);
     }
-}
-
-Class ClassDefinition::foreignAncestor() const {
-    Class ancestor = class_ ? class_getSuperclass(class_) : nullptr;
-    while (ancestor && isOurs(ancestor)) {
-        ancestor = class_getSuperclass(ancestor);
-    }
-    return ancestor;
 }
 
 Class ClassDefinition::finish(size_t memory) {

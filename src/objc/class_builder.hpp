@@ -2,7 +2,8 @@
 //
 //     ClassBuilder<Badge>("Badge", "UIView")
 //         .ivar<&Badge::_count>("_count")
-//         .method("count"_sel, member<&Badge::count>)
+//         .property<&Badge::_count>("count")
+//         .method("increase"_sel, member<&Badge::increase>)
 //         .classMethod("sharedBadge"_sel, function<&Badge::sharedBadge>)
 //         .finish();
 //
@@ -18,12 +19,13 @@
 #include "objc/binding.hpp"
 #include "objc/handle.hpp"
 #include "objc/instance.hpp"
+#include "objc/property.hpp"
 
 namespace objc {
 
 /// The untyped half of a class definition. A class that cannot be defined (its superclass is
 /// missing, its name is taken, an instance variable would not lie where C++ put it) is dropped
-/// whole: finish() answers nil.
+/// whole: finish() returns nil.
 class ClassDefinition {
   public:
     ClassDefinition(const char *name, const char *superclass);
@@ -37,10 +39,13 @@ class ClassDefinition {
                  const char *encoding);
     void addMethod(SEL selector, IMP implementation, const char *encoding);
     void addClassMethod(SEL selector, IMP implementation, const char *encoding);
+    /// `name` is the getter's, in ASCII; the setter's follows from it.
+    void addSetter(const char *name, IMP implementation, const char *encoding);
     void addProtocol(const char *name);
     /// Registers the class. `memory` is the size of the C++ object in bytes.
     Class finish(size_t memory);
-    Class foreignAncestor() const;
+    /// The superclass, nil where there is none.
+    Class parent() const { return class_ ? class_getSuperclass(class_) : nullptr; }
 
   private:
     void coverUpTo(size_t offset);
@@ -67,15 +72,33 @@ class ClassBuilder {
         return std::move(*this);
     }
 
-    template <Text name, class Binding>
+    template <Literal name, class Binding>
     ClassBuilder &&method(Selector<name> selector, Binding) && {
         definition_.addMethod(selector, implementationOf<name, Binding>(), Binding::encoding);
         return std::move(*this);
     }
 
-    template <Text name, class Binding>
+    template <Literal name, class Binding>
     ClassBuilder &&classMethod(Selector<name> selector, Binding) && {
         definition_.addClassMethod(selector, implementationOf<name, Binding>(), Binding::encoding);
+        return std::move(*this);
+    }
+
+    /// A getter and a setter for a member: `x` and `setX:`. A new object is retained and the one
+    /// before released, or copied where Keeping says so.
+    template <auto memberPointer, Keeping keeping = Keeping::Retained>
+    ClassBuilder &&property(const char *name) && {
+        using Setter = typename Property<memberPointer, keeping>::Setter;
+        definition_.addSetter(name, reinterpret_cast<IMP>(&Setter::invoke), Setter::encoding);
+        return std::move(*this).template getter<memberPointer>(name);
+    }
+
+    /// A getter alone.
+    template <auto memberPointer>
+    ClassBuilder &&getter(const char *name) && {
+        using Getter = typename Property<memberPointer, Keeping::Retained>::Getter;
+        definition_.addMethod(sel_registerName(name), reinterpret_cast<IMP>(&Getter::invoke),
+                              Getter::encoding);
         return std::move(*this);
     }
 
@@ -85,7 +108,7 @@ class ClassBuilder {
         return std::move(*this);
     }
 
-    /// Registers the class and answers it, or nil when it could not be defined.
+    /// Registers the class and returns it, or nil when it could not be defined.
     Class finish() && {
         if constexpr (sizeof(T) > sizeof(Instance)) {
             definition_.addClassMethod("allocWithZone:"_sel,
@@ -93,10 +116,10 @@ class ClassBuilder {
             definition_.addMethod("dealloc"_sel, reinterpret_cast<IMP>(&Lifetime<T>::dealloc),
                                   "v@:");
         }
-        const Class ancestor = definition_.foreignAncestor();
+        const Class ancestor = foreignFrom(definition_.parent());
         const Class cls = definition_.finish(sizeof(T));
         if (cls) {
-            g_classRecord<T> = {cls, ancestor};
+            record(cls, ancestor);
         }
         return cls;
     }
@@ -108,6 +131,16 @@ class ClassBuilder {
     struct MemberOf<M C::*> {
         using Type = M;
     };
+
+    /// A class defined anew under another name takes the place of the one before.
+    static void record(Class cls, Class ancestor) {
+        ClassRecord &mine = g_classRecord<T>;
+        const bool isNew = !mine.cls;
+        mine = {cls, ancestor, isNew ? g_newestClass : mine.older};
+        if (isNew) {
+            g_newestClass = &mine;
+        }
+    }
 
     template <auto memberPointer>
     static size_t offsetOf() {
@@ -134,7 +167,7 @@ class ClassBuilder {
     template <class M>
     static constexpr auto kIvarEncoding = encoding<M>();
 
-    template <Text name, class Binding>
+    template <Literal name, class Binding>
     static IMP implementationOf() {
         static_assert(Selector<name>::arity == Binding::arity,
                       "the selector's colons and the method's arguments disagree in number");

@@ -27,7 +27,7 @@ class Object {
     }
 
   protected:
-    template <class Signature, Text name, class... Args>
+    template <class Signature, Literal name, class... Args>
     typename Message<Signature>::Result send(Selector<name> selector, const Args &...args) const {
         return objc::send<Signature>(object_, selector, args...);
     }

@@ -3,9 +3,10 @@
 // virtual functions, and is made known to the runtime by a ClassBuilder.
 #pragma once
 
+#include <atomic>
 #include <new>
 
-#include "objc/send.hpp"
+#include "objc/owned.hpp"
 
 namespace objc {
 
@@ -26,15 +27,30 @@ class Instance {
     [[maybe_unused]] Class class_;
 };
 
-/// What the runtime knows of one C++ class, filled in when it is defined.
+/// What is known of one C++ class, filled in when it is defined.
 struct ClassRecord {
     Class cls = nullptr;
     // The nearest ancestor that is not one of ours: it allocates the memory and frees it.
     Class foreignAncestor = nullptr;
+    ClassRecord *older = nullptr;
 };
 
 template <InstanceClass T>
 inline constinit ClassRecord g_classRecord{};
+
+/// All classes that were defined, the newest first.
+inline constinit ClassRecord *g_newestClass = nullptr;
+
+/// The nearest class from `cls` upwards that was not defined in C++. The records are asked rather
+/// than the class: a class that nobody has used yet is woken by its first message.
+inline Class foreignFrom(Class cls) {
+    for (const ClassRecord *record = g_newestClass; record; record = record->older) {
+        if (record->cls == cls) {
+            return record->foreignAncestor;
+        }
+    }
+    return cls;
+}
 
 /// The class object of T, nil until T has been defined.
 template <InstanceClass T>
@@ -42,15 +58,48 @@ Class classOf() {
     return g_classRecord<T>.cls;
 }
 
-/// [[T alloc] init]; the caller owns the result. Nil if T is not defined.
+/// [[T alloc] init]; empty if T is not defined.
 template <InstanceClass T>
-T *make() {
+Owned<T *> make() {
     const id allocated = send<id()>(classOf<T>(), "alloc"_sel);
-    return Wire<T *>::from(send<id()>(allocated, "init"_sel));
+    return Owned<T *>::adopt(Wire<T *>::from(send<id()>(allocated, "init"_sel)));
 }
 
+/// The one instance of T, made once and never released.
+template <InstanceClass T>
+class Shared {
+  public:
+    /// Null before create().
+    static T *get() { return g_instance.load(std::memory_order_acquire); }
+
+    /// Makes the instance and returns whether it did. Nothing happens where there is one, where T
+    /// is not defined, and where the instance is just being made and its `init` has come back here.
+    static bool create() {
+        if (get()) [[likely]] {
+            return false;
+        }
+        const Monitor lock(asObject(classOf<T>()));
+        if (get() || g_isBeingMade) {
+            return false;
+        }
+        const Making making;
+        g_instance.store(make<T>().leak(), std::memory_order_release);
+        return get() != nullptr;
+    }
+
+  private:
+    /// Also ends where `init` raises.
+    struct Making {
+        Making() { g_isBeingMade = true; }
+        ~Making() { g_isBeingMade = false; }
+    };
+
+    static inline constinit std::atomic<T *> g_instance{nullptr};
+    static inline constinit bool g_isBeingMade = false;
+};
+
 /// The superclass's implementation, as [super ...] inside a method of T.
-template <InstanceClass T, class Signature, Text name, class... Args>
+template <InstanceClass T, class Signature, Literal name, class... Args>
 typename Message<Signature>::Result sendSuper(const T *self, Selector<name> selector,
                                               const Args &...args) {
     checkArity<Signature, name>();

@@ -6,13 +6,13 @@
 #include <atomic>
 #include <cstring>
 
+#include "objc/literal.hpp"
 #include "objc/runtime.hpp"
-#include "objc/text.hpp"
 #include "objc/wire.hpp"
 
 namespace objc {
 
-template <Text name>
+template <Literal name>
 class InstanceVariable {
   public:
     /// Bytes from the start of an instance of `cls`, or a negative number when there is no such
@@ -56,7 +56,7 @@ class InstanceVariable {
 };
 
 /// The variable as a T, which is a handle, a number or a struct; exactly its bytes are copied.
-template <class T, Text name>
+template <class T, Literal name>
 T read(id object, InstanceVariable<name>) {
     WireType<T> value{};
     if (object) {
@@ -70,7 +70,7 @@ T read(id object, InstanceVariable<name>) {
 
 }  // namespace objc
 
-template <objc::Text name>
+template <objc::Literal name>
 constexpr objc::InstanceVariable<name> operator""_ivar() {
     return {};
 }

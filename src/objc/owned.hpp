@@ -1,14 +1,22 @@
 // Ownership as scope: an Owned releases at its end what alloc, copy or retain gave it, a pool
 // drains, a monitor leaves. Plain handles never retain or release.
+//
+// None of these ends may raise: a destructor has nowhere to report to, so an exception out of the
+// object's own `dealloc` ends the process. That is meant: such an object is half destroyed.
 #pragma once
 
+#include <concepts>
 #include <utility>
 
 #include "objc/handle.hpp"
 
 namespace objc {
 
-/// T is a handle; it may still be incomplete where only the name Owned<T> is used.
+/// What can be owned: a handle, or a pointer to an object of a class of ours. Asked where an
+/// Owned<T> ends, so that T may still be incomplete where only its name is used.
+template <class T>
+concept Ownable = Handle<T> || (std::is_pointer_v<T> && std::same_as<WireType<T>, id>);
+
 template <class T>
 class Owned {
   public:
@@ -19,7 +27,7 @@ class Owned {
 
     /// Adds a reference of its own to an object that somebody else owns.
     static Owned share(T object) {
-        send<id()>(object, "retain"_sel);
+        send<id()>(Wire<T>::to(object), "retain"_sel);
         return Owned(object);
     }
 
@@ -31,17 +39,32 @@ class Owned {
         return *this;
     }
     ~Owned() {
-        static_assert(Handle<T>, "only handles can be owned");
-        objc::send<void()>(object_, "release"_sel);
+        static_assert(Ownable<T>, "only handles and objects of our own classes can be owned");
+        objc::send<void()>(Wire<T>::to(object_), "release"_sel);
     }
 
     T get() const { return object_; }
-    const T *operator->() const { return &object_; }
-    // Implicit: an owned object may be used wherever one is asked
-    // for
+    auto operator->() const {
+        if constexpr (std::is_pointer_v<T>) {
+            return object_;
+        } else {
+            return &object_;
+        }
+    }
+    // Implicit: an owned object may be used wherever one is asked for
     operator T() const { return object_; }
-    operator id() const { return object_; }
-    explicit operator bool() const { return object_.get() != nullptr; }
+    operator id() const
+        requires(!std::is_pointer_v<T>)
+    {
+        return object_;
+    }
+    explicit operator bool() const { return Wire<T>::to(object_) != nullptr; }
+
+    /// The same reference under another type; the caller vouches for it, as with any cast.
+    template <class U>
+    Owned<U> as() && {
+        return Owned<U>::adopt(Wire<U>::from(Wire<T>::to(leak())));
+    }
 
     /// Hands the reference to the caller, who releases it.
     [[nodiscard]] T leak() { return std::exchange(object_, T()); }
@@ -49,14 +72,14 @@ class Owned {
     /// Gives the object to the innermost pool, as a method does with a result it does not keep.
     T autorelease() {
         const T object = leak();
-        send<id()>(object, "autorelease"_sel);
+        send<id()>(Wire<T>::to(object), "autorelease"_sel);
         return object;
     }
 
   private:
     explicit Owned(T object) : object_(object) {}
 
-    T object_;
+    T object_{};
 };
 
 /// [[T alloc] init...] with the initialiser's signature:
@@ -66,14 +89,14 @@ struct Creation;
 
 template <Handle T, class... Args>
 struct Creation<T(Args...)> {
-    template <Text name>
+    template <Literal name>
     static Owned<T> create(Selector<name> initialiser, Args... args) {
         const id allocated = send<id()>(T::classObject(), "alloc"_sel);
         return Owned<T>::adopt(send<T(Args...)>(allocated, initialiser, args...));
     }
 };
 
-template <class Signature, Text name, class... Args>
+template <class Signature, Literal name, class... Args>
 auto create(Selector<name> initialiser, const Args &...args) {
     return Creation<Signature>::create(initialiser, args...);
 }

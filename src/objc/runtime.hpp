@@ -62,7 +62,7 @@ Class class_getSuperclass(Class cls);
 size_t class_getInstanceSize(Class cls);
 Method class_getInstanceMethod(Class cls, SEL selector);
 IMP class_getMethodImplementation(Class cls, SEL selector);
-BOOL class_respondsToSelector(Class cls, SEL selector);
+const char *method_getTypeEncoding(Method method);
 Ivar class_getInstanceVariable(Class cls, const char *name);
 ptrdiff_t ivar_getOffset(Ivar ivar);
 

@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <atomic>
 
+#include "objc/literal.hpp"
 #include "objc/runtime.hpp"
-#include "objc/text.hpp"
 
 namespace objc {
 
-template <Text name>
+template <Literal name>
 struct Selector {
     /// The number of arguments a message of this name carries.
     static constexpr auto arity = static_cast<size_t>(std::ranges::count(name, ':'));
@@ -34,7 +34,7 @@ struct Selector {
     static inline constinit std::atomic<SEL> g_cached{nullptr};
 };
 
-template <Text name>
+template <Literal name>
 struct ClassName {
     static constexpr const char *text = name.chars;
 
@@ -58,12 +58,12 @@ struct ClassName {
 
 }  // namespace objc
 
-template <objc::Text name>
+template <objc::Literal name>
 constexpr objc::Selector<name> operator""_sel() {
     return {};
 }
 
-template <objc::Text name>
+template <objc::Literal name>
 constexpr objc::ClassName<name> operator""_cls() {
     return {};
 }

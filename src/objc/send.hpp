@@ -36,7 +36,7 @@ struct Message<R(Args...)> {
         }
     }
 
-    /// Sends to `receiver`; a nil receiver answers zero of any type, structs included, which
+    /// Sends to `receiver`; a nil receiver returns zero of any type, structs included, which
     /// neither runtime promises by itself.
     static R send(id receiver, SEL selector, Args... args) {
         if (!receiver) [[unlikely]] {
@@ -67,22 +67,22 @@ struct Message<R(Args...)> {
     }
 };
 
-template <class Signature, Text name>
+template <class Signature, Literal name>
 constexpr void checkArity() {
     static_assert(Selector<name>::arity == Message<Signature>::arity,
                   "the selector's colons and the signature's arguments disagree in number");
 }
 
-/// `receiver` is an id or a handle; what it answers is the signature's result.
-template <class Signature, Text name, class... Args>
+/// `receiver` is an id or a handle; what it returns is the signature's result.
+template <class Signature, Literal name, class... Args>
 typename Message<Signature>::Result send(id receiver, Selector<name> selector,
                                          const Args &...args) {
     checkArity<Signature, name>();
     return Message<Signature>::send(receiver, selector, args...);
 }
 
-/// A class message; a missing class answers zero like any nil.
-template <class Signature, Text name, class... Args>
+/// A class message; a missing class returns zero like any nil.
+template <class Signature, Literal name, class... Args>
 typename Message<Signature>::Result send(Class cls, Selector<name> selector, const Args &...args) {
     return send<Signature>(asObject(cls), selector, args...);
 }

@@ -48,24 +48,26 @@ inline constexpr auto kFloatEncoding = encoding<CGFloat>();
 
 template <>
 struct StructEncoding<CGPoint> {
-    static constexpr auto text = Text("{CGPoint=") + kFloatEncoding + kFloatEncoding + Text("}");
+    static constexpr auto text =
+        Literal("{CGPoint=") + kFloatEncoding + kFloatEncoding + Literal("}");
 };
 
 template <>
 struct StructEncoding<CGSize> {
-    static constexpr auto text = Text("{CGSize=") + kFloatEncoding + kFloatEncoding + Text("}");
+    static constexpr auto text =
+        Literal("{CGSize=") + kFloatEncoding + kFloatEncoding + Literal("}");
 };
 
 template <>
 struct StructEncoding<CGRect> {
-    static constexpr auto text =
-        Text("{CGRect=") + StructEncoding<CGPoint>::text + StructEncoding<CGSize>::text + Text("}");
+    static constexpr auto text = Literal("{CGRect=") + StructEncoding<CGPoint>::text +
+                                 StructEncoding<CGSize>::text + Literal("}");
 };
 
 template <>
 struct StructEncoding<UIEdgeInsets> {
-    static constexpr auto text = Text("{UIEdgeInsets=") + kFloatEncoding + kFloatEncoding +
-                                 kFloatEncoding + kFloatEncoding + Text("}");
+    static constexpr auto text = Literal("{UIEdgeInsets=") + kFloatEncoding + kFloatEncoding +
+                                 kFloatEncoding + kFloatEncoding + Literal("}");
 };
 
 }  // namespace objc

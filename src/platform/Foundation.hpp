@@ -20,8 +20,8 @@ inline constexpr NSUInteger kNotFound = static_cast<NSUInteger>(~NSUInteger{0} >
 
 template <>
 struct objc::StructEncoding<NSRange> {
-    static constexpr auto text = objc::Text("{_NSRange=") + objc::encoding<NSUInteger>() +
-                                 objc::encoding<NSUInteger>() + objc::Text("}");
+    static constexpr auto text = objc::Literal("{_NSRange=") + objc::encoding<NSUInteger>() +
+                                 objc::encoding<NSUInteger>() + objc::Literal("}");
 };
 
 class NSString;
@@ -44,6 +44,7 @@ class NSString : public NSObject {
     static Class classObject() { return "NSString"_cls; }
 
     NSUInteger length() const { return send<NSUInteger()>("length"_sel); }
+    NSUInteger hash() const { return send<NSUInteger()>("hash"_sel); }
     bool isEqualToString(NSString other) const {
         return send<bool(NSString)>("isEqualToString:"_sel, other);
     }
@@ -92,19 +93,19 @@ inline NSString asText(NSObject object) {
 
 inline NSString NSObject::description() const { return send<NSString()>("description"_sel); }
 
-/// What `object` answers to a message that it may not know; zero when it does not, or is nil.
-template <class T, objc::Text name>
-T ifAnswered(NSObject object, objc::Selector<name> selector) {
+/// What `object` returns to a message that it may not know; zero when it does not, or is nil.
+template <class T, objc::Literal name>
+T ifKnown(NSObject object, objc::Selector<name> selector) {
     return object.respondsToSelector(selector) ? objc::send<T()>(object, selector) : T();
 }
 
 // What a container holds, as a number; 0 or NO when it is neither a number nor a text of one.
 inline NSInteger integerOf(NSObject object) {
-    return ifAnswered<NSInteger>(object, "integerValue"_sel);
+    return ifKnown<NSInteger>(object, "integerValue"_sel);
 }
-inline int32_t intOf(NSObject object) { return ifAnswered<int32_t>(object, "intValue"_sel); }
-inline float floatOf(NSObject object) { return ifAnswered<float>(object, "floatValue"_sel); }
-inline bool boolOf(NSObject object) { return ifAnswered<bool>(object, "boolValue"_sel); }
+inline int32_t intOf(NSObject object) { return ifKnown<int32_t>(object, "intValue"_sel); }
+inline float floatOf(NSObject object) { return ifKnown<float>(object, "floatValue"_sel); }
+inline bool boolOf(NSObject object) { return ifKnown<bool>(object, "boolValue"_sel); }
 
 class NSNumber : public NSObject {
   public:
@@ -181,6 +182,33 @@ class NSArray : public NSObject {
     }
 };
 
+/// An array whose elements are all of one type, as its source vouches for. Walked with `for`: the
+/// elements that it has when the walk begins, which it holds. Where it may change on the way, walk
+/// a copy. T is a handle; it may still be incomplete where only the name ArrayOf<T> is used.
+template <class T>
+class ArrayOf : public NSArray {
+  public:
+    using NSArray::NSArray;
+
+    class Iterator {
+      public:
+        Iterator(NSArray array, NSUInteger index) : array_(array), index_(index) {}
+        T operator*() const { return array_.objectAtIndex(index_).template as<T>(); }
+        Iterator &operator++() {
+            ++index_;
+            return *this;
+        }
+        bool operator!=(const Iterator &other) const { return index_ != other.index_; }
+
+      private:
+        NSArray array_;
+        NSUInteger index_;
+    };
+
+    Iterator begin() const { return {*this, 0}; }
+    Iterator end() const { return {*this, count()}; }
+};
+
 class NSDate : public NSObject {
   public:
     using NSObject::NSObject;
@@ -237,7 +265,7 @@ class NSBundle : public NSObject {
 namespace objc {
 
 /// A text constant: "标记"_ns is one immutable NSString, made on first use and never released.
-template <Text utf8>
+template <Literal utf8>
 NSString constantString() {
     static constinit std::atomic<id> g_made{nullptr};
     id string = g_made.load(std::memory_order_acquire);
@@ -253,7 +281,7 @@ NSString constantString() {
 
 }  // namespace objc
 
-template <objc::Text utf8>
+template <objc::Literal utf8>
 NSString operator""_ns() {
     return objc::constantString<utf8>();
 }

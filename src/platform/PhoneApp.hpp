@@ -48,13 +48,8 @@ class InCallController : public NSObject {
     using NSObject::NSObject;
 };
 
+/// One of a display's two lines: the name or number, and the number's label or the running time.
 class TPLCDTextView : public UIView {
-  public:
-    using UIView::UIView;
-};
-
-/// The line that shows the number's label or the running time.
-class TPLCDLabelView : public UIView {
   public:
     using UIView::UIView;
     NSString text() const { return objc::read<NSString>(*this, "_text"_ivar); }
@@ -72,9 +67,7 @@ class InCallDisplay : public UIView {
   public:
     using UIView::UIView;
     TPLCDTextView textView() const { return objc::read<TPLCDTextView>(*this, "_textView"_ivar); }
-    TPLCDLabelView labelView() const {
-        return objc::read<TPLCDLabelView>(*this, "_labelView"_ivar);
-    }
+    TPLCDTextView labelView() const { return objc::read<TPLCDTextView>(*this, "_labelView"_ivar); }
     /// The contact's picture.
     UIView imageView() const { return objc::read<UIView>(*this, "_imageView"_ivar); }
 };

@@ -63,6 +63,7 @@ class UIView : public NSObject {
     void setFrame(CGRect frame) const { send<void(CGRect)>("setFrame:"_sel, frame); }
     CGRect bounds() const { return send<CGRect()>("bounds"_sel); }
     CGSize intrinsicContentSize() const { return send<CGSize()>("intrinsicContentSize"_sel); }
+    bool isHidden() const { return send<bool()>("isHidden"_sel); }
     void setHidden(bool hidden) const { send<void(bool)>("setHidden:"_sel, hidden); }
     NSInteger tag() const { return send<NSInteger()>("tag"_sel); }
     void setTag(NSInteger tag) const { send<void(NSInteger)>("setTag:"_sel, tag); }
@@ -70,7 +71,7 @@ class UIView : public NSObject {
         send<void(UIColor)>("setBackgroundColor:"_sel, color);
     }
 
-    NSArray subviews() const { return send<NSArray()>("subviews"_sel); }
+    ArrayOf<UIView> subviews() const { return send<ArrayOf<UIView>()>("subviews"_sel); }
     UIView superview() const { return send<UIView()>("superview"_sel); }
     /// The first view of that tag in the whole tree below, this view included; nil when none.
     UIView viewWithTag(NSInteger tag) const {
@@ -113,6 +114,14 @@ class UILabel : public UIView {
         send<void(NSInteger)>("setTextAlignment:"_sel, alignment);
     }
 };
+
+/// A label that is given a text has itself laid out again, so it gets none that it already has.
+inline void setTextIfNew(UILabel label, NSString text) {
+    const NSString shown = label.text();
+    if (text ? !text.isEqualToString(shown) : shown) {
+        label.setText(text);
+    }
+}
 
 /// NSTextAlignmentCenter as iOS numbers it.
 inline constexpr NSInteger kTextAlignmentCenter = 1;

@@ -29,10 +29,10 @@ struct FormatArgument {
 };
 
 /// `utf8` in UTF-16 units, at compile time.
-template <Text utf8>
+template <Literal utf8>
 constexpr auto utf16() {
     struct Units {
-        std::array<char16_t, Text(utf8).length() + 1> chars{};
+        std::array<char16_t, Literal(utf8).length() + 1> chars{};
         size_t length = 0;
     } units;
     for (size_t i = 0; i < utf8.length();) {
@@ -54,11 +54,11 @@ constexpr auto utf16() {
     return units;
 }
 
-template <Text text>
+template <Literal text>
 inline constexpr auto kUtf16 = utf16<text>();
 
 /// Whether the conversions of `text` are those that Args can fill, in number and in kind.
-template <Text text, class... Args>
+template <Literal text, class... Args>
 constexpr bool formatFits() {
     constexpr char kinds[] = {(std::convertible_to<Args, NSObject> ? '@'
                                : std::same_as<Args, int32_t>       ? 'd'
@@ -88,7 +88,7 @@ NSString formatUnits(std::span<const char16_t> text, std::span<const FormatArgum
 }  // namespace objc
 
 /// A new autoreleased string.
-template <objc::Text text, class... Args>
+template <objc::Literal text, class... Args>
 NSString format(Args... args) {
     static_assert(objc::formatFits<text, Args...>(),
                   "the format's conversions and the arguments disagree in number or in kind");

@@ -1,7 +1,7 @@
 // The buttons of the detail header.
 #include "recents/GroupButton.hpp"
 
-#include "identity/utilities.hpp"
+#include "companion/utilities.hpp"
 #include "platform/format.hpp"
 
 using recents::RowPart;

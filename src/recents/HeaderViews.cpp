@@ -1,8 +1,7 @@
 // The views of the detail header.
 #include "recents/HeaderViews.hpp"
 
-#include "identity/companion.hpp"
-#include "recents/detail_header.hpp"
+#include "companion/companion.hpp"
 
 namespace recents {
 namespace {
@@ -57,7 +56,18 @@ void showButton(ZQGroupButton button, const HeaderButton &place, UIImage icon, N
     button.setIcon(icon, title);
 }
 
+// Holds a reference; an Owned here would ask for code at load.
+constinit UIImage g_recordIconImage;
+
 }  // namespace
+
+UIImage recordIcon() {
+    if (!g_recordIconImage) {
+        const UIImage loaded = resourceImage("icon_zqrLogo_in_systemCallHistoryDetailsView.png"_ns);
+        g_recordIconImage = objc::Owned<UIImage>::share(loaded).leak();
+    }
+    return g_recordIconImage;
+}
 
 HeaderViews HeaderViews::find(UIView header) {
     HeaderViews views;
@@ -87,9 +97,10 @@ HeaderViews HeaderViews::create(UIView header, bool from80) {
 }
 
 void HeaderViews::remove(UIView header) {
-    const NSArray subviews = header.subviews();
-    for (NSUInteger i = subviews.count(); i > 0; --i) {  // backwards: the array may be the header's
-        const auto view = subviews.objectAtIndex(i - 1).as<UIView>();
+    // A copy, since the array may be the header's own.
+    const auto subviews = objc::Owned<ArrayOf<UIView>>::adopt(
+        objc::send<ArrayOf<UIView>()>(header.subviews(), "copy"_sel));
+    for (const UIView view : subviews.get()) {
         const bool isTagged = view.tag() >= kDescriptionTag && view.tag() <= kWarningTag;
         if (isTagged || view.isKindOfClass(ZQGroupButton::classObject())) {
             view.removeFromSuperview();
@@ -99,7 +110,7 @@ void HeaderViews::remove(UIView header) {
 
 void HeaderViews::showButtons(OfferedActions offered, const HeaderPlaces &places) const {
     if (!correct_ && !mark_ && !search_) {
-        return;  // the pictures need not be loaded for nobody
+        return;  // no button to put a picture on
     }
     correct_.setHidden(!offered.correct);
     mark_.setHidden(!offered.mark);

@@ -9,6 +9,9 @@
 
 namespace recents {
 
+/// The companion's logo; nil as long as its file is missing.
+UIImage recordIcon();
+
 class HeaderViews {
   public:
     /// Those that `header` holds; false when it has none yet.

@@ -1,7 +1,7 @@
 // The recent calls' accessors as class messages.
 #include "recents/ZQSystemCallHistoryClassHelper.hpp"
 
-#include "recents/recent_call.hpp"
+#include "recents/RecentCall.hpp"
 
 using recents::RecentCall;
 

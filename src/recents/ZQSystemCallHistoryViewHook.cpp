@@ -1,22 +1,34 @@
-// The recents screen's hook object: the cache of its rows, and the class's messages.
+// The recents screen's hook class.
 #include "recents/ZQSystemCallHistoryViewHook.hpp"
 
-#include "objc/silently.hpp"
+#include "recents/HeaderViews.hpp"
 #include "recents/actions.hpp"
+#include "recents/address_book.hpp"
+#include "recents/cell.hpp"
+#include "recents/detail_header.hpp"
 #include "recents/history_description.hpp"
 #include "recents/lookup.hpp"
 #include "recents/lookup_context.hpp"
-
-using recents::RecentCall;
+#include "recents/swipe_menu.hpp"
 
 namespace {
 
-constexpr auto kReloadHandler = "onReloadCacheNotification:"_sel;
+using namespace recents;
 
-NSAttributedString attributedString(NSString text) { return recents::twoToned(text).leak(); }
+// Results go to the innermost pool, as callers of a message expect.
+
+NSString rowText(RowTexts *texts, RecentCall call) { return texts->textOf(call).autorelease(); }
+ZQNumberIdentity identity(NSString number) { return identityOf(number).autorelease(); }
+ZQCallRecord record(NSString number, NSDate date) { return callRecord(number, date).autorelease(); }
+NSString description(NSString number, ZQNumberIdentity identity) {
+    return detailLine(number, identity).autorelease();
+}
+
+/// The exception: the caller owns the result, in spite of the message's name.
+NSAttributedString attributedString(NSString text) { return twoToned(text).leak(); }
 
 void showButtons(id *showsCorrect, id *showsMark, ZQNumberIdentity identity) {
-    const recents::OfferedActions offered = recents::offeredActions(identity);
+    const OfferedActions offered = offeredActions(phonePureNumber(), identity);
     if (showsCorrect) {
         *showsCorrect = NSNumber::withBool(offered.correct);
     }
@@ -27,74 +39,45 @@ void showButtons(id *showsCorrect, id *showsMark, ZQNumberIdentity identity) {
 
 }  // namespace
 
-objc::ClassBuilder<ZQSystemCallHistoryViewHook> ZQSystemCallHistoryViewHook::define() {
-    using Self = ZQSystemCallHistoryViewHook;
+objc::ClassBuilder<RowTexts> ZQSystemCallHistoryViewHook::define() {
     using objc::function;
     using objc::member;
-    return objc::ClassBuilder<Self>("ZQSystemCallHistoryViewHook", "NSObject")
-        .ivar<&Self::_cache>("numberInfoAndCallCacheDict")
-        .classMethod("currentHook"_sel, function<&Self::currentHook>)
-        .method("init"_sel, member<&Self::init>)
-        .method("numberInfoAndCallCacheDict"_sel, member<&Self::numberInfoAndCallCacheDict>)
-        .method("setNumberInfoAndCallCacheDict:"_sel, member<&Self::setNumberInfoAndCallCacheDict>)
-        .method(kReloadHandler, member<&Self::onReloadCacheNotification>)
-        .method("getInfoWithRecentCall:"_sel, member<&Self::getInfo>)
-        .classMethod("getNumberIdentityWithNumber:"_sel, function<&recents::identityOf>)
-        .classMethod("callRecordInfoOfNumber:sysDate:"_sel, function<&recents::callRecord>)
-        .classMethod("setCurrentRecordDate:"_sel, function<&recents::setCurrentRecordDate>)
-        .classMethod("setPhonePureNumber:"_sel, function<&recents::setPhonePureNumber>)
-        .classMethod("isTypeSearch:"_sel, function<&recents::isSearchResult>)
-        .classMethod("isTypeCloudMark:"_sel, function<&recents::isCloudMark>)
-        .classMethod("isTypeBrand:"_sel, function<&recents::isBrand>)
-        .classMethod("getNumberInfo:identity:"_sel, function<&recents::detailLine>)
-        .classMethod("parseNumberInfoWithNumber:identity:"_sel,
-                     function<&recents::twoPartDescription>)
-        .classMethod("mergeDesc:diagnose:"_sel, function<&recents::merged>)
+    return objc::ClassBuilder<RowTexts>("ZQSystemCallHistoryViewHook", "NSObject")
+        .ivar<&RowTexts::_entries>("numberInfoAndCallCacheDict")
+        .classMethod("currentHook"_sel, function<&RowTexts::shared>)
+        .method("init"_sel, member<&RowTexts::init>)
+        .method("numberInfoAndCallCacheDict"_sel, member<&RowTexts::entries>)
+        .method("setNumberInfoAndCallCacheDict:"_sel, member<&RowTexts::setEntries>)
+        .method("onReloadCacheNotification:"_sel, member<&RowTexts::forgetAll>)
+        .method("getInfoWithRecentCall:"_sel, objc::receiving<&rowText>)
+        // Lookups
+        .classMethod("getNumberIdentityWithNumber:"_sel, function<&identity>)
+        .classMethod("callRecordInfoOfNumber:sysDate:"_sel, function<&record>)
+        .classMethod("setCurrentRecordDate:"_sel, function<&setCurrentRecordDate>)
+        .classMethod("setPhonePureNumber:"_sel, function<&setPhonePureNumber>)
+        // Rules
+        .classMethod("isTypeSearch:"_sel, function<&isSearchResult>)
+        .classMethod("isTypeCloudMark:"_sel, function<&isCloudMark>)
+        .classMethod("isTypeBrand:"_sel, function<&isBrand>)
+        .classMethod("getNumberInfo:identity:"_sel, function<&description>)
+        .classMethod("parseNumberInfoWithNumber:identity:"_sel, function<&twoPartDescription>)
+        .classMethod("mergeDesc:diagnose:"_sel, function<&merged>)
         .classMethod("getAttributedString:"_sel, function<&attributedString>)
         .classMethod("showCorrectButton:showMarkButton:withNumberIdentity:"_sel,
                      function<&showButtons>)
-        .classMethod("correctButtonPressed"_sel, function<&recents::openCorrectLink>)
-        .classMethod("markButtonPressed"_sel, function<&recents::openMarkLink>)
-        .classMethod("searchNumBtnPressed"_sel, function<&recents::openSearchLink>);
-}
-
-ZQSystemCallHistoryViewHook *ZQSystemCallHistoryViewHook::currentHook() {
-    static auto *const g_hook = [] {
-        auto *const hook = objc::make<ZQSystemCallHistoryViewHook>();
-        if (hook) {
-            objc::silently([&] {
-                ZQIPCService::addObserver(*hook, kReloadHandler, reloadAllNumbersMessage());
-            });
-        }
-        return hook;
-    }();
-    return g_hook;
-}
-
-NSObject ZQSystemCallHistoryViewHook::init() {
-    const auto self = objc::sendSuper<ZQSystemCallHistoryViewHook, NSObject()>(this, "init"_sel);
-    if (self) {
-        _cache.replace(objc::create<NSMutableDictionary>());
-    }
-    return self;
-}
-
-void ZQSystemCallHistoryViewHook::onReloadCacheNotification(NSObject /*message*/) {
-    const objc::Monitor monitor(*this);
-    _cache.clear();
-}
-
-NSString ZQSystemCallHistoryViewHook::getInfo(RecentCall call) const {
-    const double seconds = call.date().secondsSince1970();
-    const NSString number = call.ownNumber();
-    if (!number) {
-        return nullptr;
-    }
-    const auto key = recents::rowKey(number, seconds);
-    if (const NSString known = _cache.find(key)) {
-        return known;
-    }
-    const NSString text = recents::describe(call);
-    _cache.keep(text.length() != 0 ? text : ""_ns, key);
-    return text;
+        .classMethod("isContactHasMoreThanOneNumber:"_sel, function<&contactHasMoreThanOneNumber>)
+        .classMethod("isTargetABPersonTableViewDataSource:"_sel, function<&isPersonTableDataSource>)
+        .classMethod("getNumberFromDataSource:"_sel, function<&firstNumberIn>)
+        // The buttons' actions
+        .classMethod("correctButtonPressed"_sel, function<&openCorrectLink>)
+        .classMethod("markButtonPressed"_sel, function<&openMarkLink>)
+        .classMethod("searchNumBtnPressed"_sel, function<&openSearchLink>)
+        // Views
+        .classMethod("getSubviewOfView:WithTag:"_sel, function<&subviewWithTag>)
+        .classMethod("addButtonMenuToCell:"_sel, function<&addButtonMenu>)
+        .classMethod("setTableStatus:"_sel, function<&setTableStatus>)
+        .classMethod("updatePhoneNumberFromContact:"_sel, function<&updatePhoneNumberFromContact>)
+        .classMethod("getHeaderViewHeight"_sel, function<&headerViewHeight>)
+        .classMethod("addNumberInfoToHeaderView:withContact:"_sel, function<&addNumberInfo>)
+        .classMethod("getRecordIcon"_sel, function<&recordIcon>);
 }

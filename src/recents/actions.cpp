@@ -9,7 +9,6 @@
 #include "platform/format.hpp"
 #include "recents/history_description.hpp"
 #include "recents/lookup_context.hpp"
-#include "recents/recent_call.hpp"
 
 // Whoever runs a search service names its host when building.
 #ifndef ZQDIAL_SEARCH_HOST
@@ -23,11 +22,9 @@ namespace {
 bool hasMarkableCall(NSString number) {
     constexpr NSInteger kMostCalls = 100;
     constexpr int32_t kUnmarkable = 1;
-    const NSArray calls =
-        ZQSystemHistoryService::defaultService().getAllCallHistoryByPhoneNumber(number, kMostCalls);
-    const NSUInteger count = calls.count();
-    for (NSUInteger i = 0; i < count; ++i) {
-        if (calls.objectAtIndex(i).as<ZQHistoryRecord>().actionType() != kUnmarkable) {
+    const ZQSystemHistoryService history = ZQSystemHistoryService::defaultService();
+    for (const ZQHistoryRecord call : history.getAllCallHistoryByPhoneNumber(number, kMostCalls)) {
+        if (call.actionType() != kUnmarkable) {
             return true;
         }
     }
@@ -54,8 +51,8 @@ void open(MakeLink makeLink) {
 
 }  // namespace
 
-OfferedActions offeredActions(ZQNumberIdentity identity) {
-    const bool mark = hasMarkableCall(phonePureNumber());
+OfferedActions offeredActions(NSString number, ZQNumberIdentity identity) {
+    const bool mark = hasMarkableCall(number);
     if (!identity) {
         return {.correct = false, .mark = mark};
     }
@@ -69,11 +66,12 @@ OfferedActions offeredActions(ZQNumberIdentity identity) {
 }
 
 NSString correctLink(NSString number) {
-    return number ? format<"zequor://errorCorrect?%@/">(number) : nullptr;
+    return number.length() != 0 ? format<"zequor://errorCorrect?%@/">(number) : nullptr;
 }
 
 NSString markLink(NSString number, double seconds) {
-    return number ? format<"zequor://mark?%@/%d">(number, wholeSeconds(seconds)) : nullptr;
+    return number.length() != 0 ? format<"zequor://mark?%@/%d">(number, wholeSeconds(seconds))
+                                : nullptr;
 }
 
 NSString searchLink(NSString number) {
@@ -96,7 +94,7 @@ void openCorrectLink() {
 }
 
 void openMarkLink() {
-    open([] { return markLink(phonePureNumber(), currentRecordDate().secondsSince1970()); });
+    open([] { return markLink(phonePureNumber(), currentRecordDate()->secondsSince1970()); });
 }
 
 void openSearchLink() {

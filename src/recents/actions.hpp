@@ -2,7 +2,7 @@
 // The swipe menu and the detail header offer the same.
 #pragma once
 
-#include "identity/companion.hpp"
+#include "companion/companion.hpp"
 
 namespace recents {
 
@@ -12,16 +12,16 @@ struct OfferedActions {
     bool operator==(const OfferedActions &) const = default;
 };
 
-/// Of the lookup context's number, whose identity that is, or nil.
-OfferedActions offeredActions(ZQNumberIdentity identity);
+/// Of a pure number, whose identity that is, or nil.
+OfferedActions offeredActions(NSString number, ZQNumberIdentity identity);
 
 // The links that carry an action out: the first two lead into the companion application. Nil
-// without a number.
+// without a number and for an empty one.
 
 NSString correctLink(NSString number);
 /// `seconds` is when the call was, since 1970.
 NSString markLink(NSString number, double seconds);
-/// Nil for an empty number too, and for digits that a link cannot carry.
+/// Nil for digits that a link cannot carry, too.
 NSString searchLink(NSString number);
 
 // For the lookup context's number and call. A link that there is not is not opened, and

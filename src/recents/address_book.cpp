@@ -1,7 +1,7 @@
 // Numbers of the address book's people.
 #include "recents/address_book.hpp"
 
-#include "identity/companion.hpp"
+#include "companion/companion.hpp"
 #include "objc/silently.hpp"
 #include "platform/AddressBook.hpp"
 
@@ -44,9 +44,8 @@ NSString firstNumberOf(const void *person) {
 }  // namespace
 
 bool contactHasMoreThanOneNumber(RecentCall call) {
-    const auto parsed = ZQPhoneNumber::parsed(call.number());
-    const void *const person =
-        ZQContactService::currentService().getPersonWithRecordID(parsed->pureNumber());
+    const void *const person = ZQContactService::currentService().getPersonWithRecordID(
+        ZQPhoneNumber::pureNumberOf(call.number()));
     const AddressBookCopy values = phoneValues(person);
     if (!values || ABMultiValueGetCount(values.get()) < 2) {
         return false;
@@ -66,10 +65,11 @@ bool isPersonTableDataSource(NSObject dataSource) {
 NSString firstNumberIn(NSObject dataSource) {
     NSString number;
     objc::silently([&] {
-        const auto people = valueForKey(dataSource, "people"_ns).as<NSArray>();
-        const NSUInteger count = people.count();
-        for (NSUInteger i = 0; i < count && !number; ++i) {
-            number = firstNumberOf(people.objectAtIndex(i).get());
+        for (const NSObject person : valueForKey(dataSource, "people"_ns).as<ArrayOf<NSObject>>()) {
+            number = firstNumberOf(person.get());
+            if (number) {
+                break;
+            }
         }
     });
     return number;

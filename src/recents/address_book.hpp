@@ -2,7 +2,7 @@
 // own view of it.
 #pragma once
 
-#include "recents/recent_call.hpp"
+#include "recents/RecentCall.hpp"
 
 namespace recents {
 

@@ -1,10 +1,13 @@
 // A recents row with its line about the number.
 #include "recents/cell.hpp"
 
-#include "identity/companion.hpp"
+#include "companion/companion.hpp"
 #include "objc/silently.hpp"
+#include "platform/LayoutPass.hpp"
+#include "platform/PerView.hpp"
+#include "platform/TextWidths.hpp"
 #include "platform/format.hpp"
-#include "recents/ZQSystemCallHistoryViewHook.hpp"
+#include "recents/RowTexts.hpp"
 #include "recents/address_book.hpp"
 #include "recents/geometry.hpp"
 #include "recents/swipe_menu.hpp"
@@ -16,19 +19,19 @@ enum Tag : NSInteger { kIconTag = 2533, kLineTag = 2534 };
 
 /// Of a contact with several numbers: which of them it was, and from where.
 NSString numberWithArea(NSString number) {
-    const auto parsed = ZQPhoneNumber::parsed(number);
-    const NSString area = ZQPhoneNumber::areaNameOfNumber(parsed->pureNumber());
+    const NSString area = ZQPhoneNumber::areaNameOfNumber(ZQPhoneNumber::pureNumberOf(number));
     return format<"%@  %@">(ZQPhoneNumber::getFormattedNumberWithNumber(number),
                             area.length() != 0 ? area : "未知"_ns);
 }
 
-NSString textOf(RecentCall call) {
+objc::Owned<NSString> textOf(RecentCall call) {
     if (!call.isOfContact()) {
-        auto *const hook = ZQSystemCallHistoryViewHook::currentHook();
-        return hook ? hook->getInfo(call) : NSString();
+        RowTexts *const texts = RowTexts::shared();
+        return texts ? texts->textOf(call) : objc::Owned<NSString>();
     }
     // A contact's only number needs no line.
-    return contactHasMoreThanOneNumber(call) ? numberWithArea(call.number()) : nullptr;
+    return objc::Owned<NSString>::share(
+        contactHasMoreThanOneNumber(call) ? numberWithArea(call.number()) : nullptr);
 }
 
 CGFloat widthOfDate(PHRecentsDateLabel label) {
@@ -36,7 +39,7 @@ CGFloat widthOfDate(PHRecentsDateLabel label) {
     if (const NSString designator = label.timeDesignator(); designator.length() != 0) {
         text = format<"%@ %@">(designator, text);
     }
-    return ZQMathUtil::getCeilCGFloat(lineSize(text, label.font()).width);
+    return ZQMathUtil::getCeilCGFloat(rememberedLineWidth(text, label.font()));
 }
 
 struct Places {
@@ -45,21 +48,58 @@ struct Places {
 
 Places placesOf(NSString text, PHRecentsDateLabel date, UIFont font) {
     const CGRect line = rowLine(rowLineWidth(widthOfDate(date)));
-    const CGFloat width =
-        boundingWidth(text, font, line.size, kUsesLineFragmentOrigin | kTruncatesLastVisibleLine);
+    const CGFloat width = rememberedBoundingWidth(
+        text, font, line.size, kUsesLineFragmentOrigin | kTruncatesLastVisibleLine);
     return {.line = line, .icon = rowIcon(ZQMathUtil::getCeilCGFloat(width))};
 }
 
-UILabel addLine(UIView content, UILabel model) {
-    const UILabel line = withFrame<UILabel>({}).autorelease();
-    line.setBackgroundColor(UIColor::clearColor());
-    line.setFont(model.font());
-    line.setTextColor(model.textColor());
-    addTagged(content, line, kLineTag);
-    return line;
+/// The label's text that our line took the place of. The Phone application may write it only once,
+/// when the row gets its call, so it is kept for when our line goes again.
+struct Replaced {
+    id call = nullptr;  // compared, never used
+    objc::Owned<NSString> text;
+};
+
+/// By our line: a new line means a new row, where nothing was replaced yet.
+auto &replacedTexts() {
+    static auto &g_texts = *new PerView<Replaced, 32>;
+    return g_texts;
 }
 
-UIView addIcon(UIView content) {
+void emptyLabel(UILabel label, UIView line, RecentCall call) {
+    if (const NSString text = label.text(); text.length() != 0) {
+        replacedTexts().remember(line, {.call = call, .text = text.copy()});
+        label.setText(nullptr);
+    }
+}
+
+void refillLabel(UILabel label, UIView line, RecentCall call) {
+    const Replaced *const replaced = replacedTexts().find(line);
+    if (replaced && replaced->call == call.get() && label.text().length() == 0) {
+        label.setText(replaced->text);
+    }
+    replacedTexts().forget(line);
+}
+
+/// The row's line, added where it is missing; nil where the content view does not keep it.
+UILabel findLine(UIView content, UILabel model) {
+    if (const UIView found = content.viewWithTag(kLineTag)) {
+        return found.as<UILabel>();
+    }
+    const auto line = withFrame<UILabel>({});
+    line->setBackgroundColor(UIColor::clearColor());
+    line->setFont(model.font());
+    line->setTextColor(model.textColor());
+    replacedTexts().forget(line);
+    addTagged(content, line, kLineTag);
+    return content.viewWithTag(kLineTag).as<UILabel>();
+}
+
+/// The whole cell is searched for it.
+UIView findIcon(PHRecentsCell cell, UIView content) {
+    if (const UIView found = cell.viewWithTag(kIconTag)) {
+        return found;
+    }
     const UIImageView icon = withFrame<UIImageView>({}).autorelease();
     icon.setImage(resourceImage("record_icon.png"_ns));
     addTagged(content, icon, kIconTag);
@@ -75,48 +115,48 @@ void show(UIView view, UIView content, CGRect frame) {
 }  // namespace
 
 void layOutCell(PHRecentsCell cell) {
-    const UILabel callerLabel = cell.callerLabel();
-    const RecentCall call(cell.call());
-    if (ZQPhoneUtil::isEalierThanIOSVersion(7.1, false)) {
+    // The row may be given another call while the companion is asked.
+    const auto call = objc::Owned<RecentCall>::share(RecentCall(cell.call()));
+    if (ios::isBefore(7.1)) {
         objc::silently([&] { addButtonMenu(cell); });  // the line needs no menu
     }
     const objc::AutoreleasePool pool;
-    const UIView content = cell.contentView();
-    const NSString text = textOf(call);
-    const bool hasText = text.length() != 0;
-    const Places places = hasText ? placesOf(text, cell.dateLabel(), callerLabel.font()) : Places{};
-
-    auto line = content.viewWithTag(kLineTag).as<UILabel>();
-    if (!line) {
-        line = addLine(content, callerLabel);
-    }
-    // The whole cell is searched for the icon.
-    UIView icon = cell.viewWithTag(kIconTag);
-    if (!icon) {
-        icon = addIcon(content);
-    }
-    if (!hasText) {
-        line.setHidden(true);
-        icon.setHidden(true);
+    const auto text = textOf(call);
+    if (LayoutPass::isOvertaken(cell)) {
         return;
     }
+    const UILabel callerLabel = cell.callerLabel();
+    const UIView content = cell.contentView();
+    const UILabel line = findLine(content, callerLabel);
+    if (!line) {  // no place for it
+        restoreCell(cell);
+        return;
+    }
+    const UIView icon = findIcon(cell, content);
+    if (text->length() == 0) {
+        line.setHidden(true);
+        icon.setHidden(true);
+        refillLabel(callerLabel, line, call);
+        return;
+    }
+    const Places places = placesOf(text, cell.dateLabel(), callerLabel.font());
     show(line, content, places.line);
-    line.setText(text);
+    setTextIfNew(line, text);
     show(icon, content, places.icon);
-    // Last, so that whatever raises before leaves the row as the Phone application made it.
-    callerLabel.setText(nullptr);
+    // Last, so that whatever raises before leaves the Phone application's line.
+    emptyLabel(callerLabel, line, call);
 }
 
-void hideLine(PHRecentsCell cell) {
-    for (const Tag tag : {kLineTag, kIconTag}) {
-        cell.viewWithTag(tag).setHidden(true);
-    }
+void restoreCell(PHRecentsCell cell) {
+    const UIView line = cell.viewWithTag(kLineTag);
+    line.setHidden(true);
+    cell.viewWithTag(kIconTag).setHidden(true);
+    refillLabel(cell.callerLabel(), line, RecentCall(cell.call()));
 }
 
 UIView subviewWithTag(UIView view, NSInteger tag) {
-    const NSArray subviews = view.subviews();
-    for (NSUInteger i = 0, count = subviews.count(); i < count; ++i) {
-        if (const UIView found = subviews.objectAtIndex(i).as<UIView>().viewWithTag(tag)) {
+    for (const UIView subview : view.subviews()) {
+        if (const UIView found = subview.viewWithTag(tag)) {
             return found;
         }
     }

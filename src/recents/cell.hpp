@@ -9,8 +9,8 @@ namespace recents {
 /// name, or neither.
 void layOutCell(PHRecentsCell cell);
 
-/// Neither, so that the Phone application's own row stands.
-void hideLine(PHRecentsCell cell);
+/// Neither, so that the Phone application's own row stands, its label's text included.
+void restoreCell(PHRecentsCell cell);
 
 /// The first view of that tag below `view`, not `view` itself; nil when there is none.
 UIView subviewWithTag(UIView view, NSInteger tag);

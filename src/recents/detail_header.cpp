@@ -1,8 +1,9 @@
 // The header of a call's details.
 #include "recents/detail_header.hpp"
 
-#include "identity/companion.hpp"
+#include "companion/companion.hpp"
 #include "objc/silently.hpp"
+#include "platform/PerView.hpp"
 #include "platform/format.hpp"
 #include "recents/HeaderViews.hpp"
 #include "recents/actions.hpp"
@@ -15,13 +16,6 @@ namespace recents {
 namespace {
 
 constinit bool g_isInternationalNumber = false;
-// Holds a reference; an Owned here would ask for code at load.
-constinit UIImage g_recordIconImage;
-
-bool isFrom80() { return ZQPhoneUtil::isLaterThanIOSVersion(8.0, true); }
-
-bool isForeign(ZQNumberIdentity identity) { return identity.type() == IdentityKind::Foreign; }
-
 NSString firstNumber(ABContact contact) {
     const NSArray numbers = contact.phoneNumbers();
     if (numbers.count() == 0) {
@@ -31,63 +25,127 @@ NSString firstNumber(ABContact contact) {
     return objc::send<NSString()>(value, "formattedStringValue"_sel);
 }
 
-/// What stands above the buttons, and in which form.
-struct HeaderText {
-    NSString info;
-    NSString tagline;  // the Phone application's own; nil where it is not to be repeated
+/// The lookup context's number and what is known of it.
+struct KnownNumber {
+    objc::Owned<NSString> number;
+    objc::Owned<ZQNumberIdentity> identity;
+    objc::Owned<NSString> info;
+    bool isForeign = false;
 };
 
-void showText(const HeaderText &text, bool inTwoTones, UILabel label) {
+KnownNumber lookUp(objc::Owned<NSString> number) {
+    auto identity = identityOf(number);
+    auto info = detailLine(number, identity);
+    const bool isForeign = identity->type() == IdentityKind::Foreign;
+    return {std::move(number), std::move(identity), std::move(info), isForeign};
+}
+
+objc::Owned<NSString> taglineToRepeat(UILabel label, bool from80) {
+    const bool isWanted = !from80 || g_isInternationalNumber;
+    auto tagline = objc::Owned<NSString>::share(isWanted ? label.text() : nullptr);
+    return tagline->length() != 0 ? std::move(tagline) : objc::Owned<NSString>();
+}
+
+void showText(NSString tagline, const KnownNumber &known, UILabel label) {
     label.setHidden(false);
-    label.setText(text.tagline ? format<"%@  %@">(text.tagline, text.info) : text.info);
+    label.setText(tagline ? format<"%@  %@">(tagline, known.info.get()) : known.info.get());
     // A foreign number's warning has a label of its own.
-    if (inTwoTones) {
-        if (const auto attributed = twoToned(text.info)) {
+    if (!known.isForeign) {
+        if (const auto attributed = twoToned(known.info)) {
             label.setAttributedText(attributed.get());
         }
     }
 }
 
-NSString taglineToRepeat(UILabel label, bool from80) {
-    if (from80 && !g_isInternationalNumber) {
-        return nullptr;
-    }
-    const NSString tagline = label.text();
-    return tagline.length() != 0 ? tagline : nullptr;
+void moveTo(UIView view, CGRect frame, CGFloat y) {
+    frame.origin.y = y;
+    view.setFrame(frame);
 }
 
-/// What is known of the number, if there is one, into the header's views and below them.
-void fill(ABContactHeaderView header, const HeaderViews &views, bool from80) {
-    if (phonePureNumber().length() == 0) {
-        return;
-    }
-    const ZQNumberIdentity identity = identityOf(phonePureNumber());
-    const NSString info = detailLine(phonePureNumber(), identity);
-    const OfferedActions offered = offeredActions(identity);
-    const HeaderText text{.info = info, .tagline = taglineToRepeat(header.taglineLabel(), from80)};
+/// What is known of the number into the header's views and below them.
+void fill(ABContactHeaderView header, const HeaderViews &views, const KnownNumber &known,
+          bool from80) {
+    const auto tagline = taglineToRepeat(header.taglineLabel(), from80);
+    const OfferedActions offered = offeredActions(known.number, known.identity);
     const HeaderPlaces places = place(Header{
         .from80 = from80,
         .screenWidth = UIScreen::mainScreen().bounds().size.width,
         .productHeight = views.product().frame().size.height,
-        .hasInfo = static_cast<bool>(info),
-        .isForeign = isForeign(identity),
-        .hasTagline = static_cast<bool>(text.tagline),
+        .hasInfo = static_cast<bool>(known.info),
+        .isForeign = known.isForeign,
+        .hasTagline = static_cast<bool>(tagline),
         .hasCorrect = offered.correct,
         .hasMark = offered.mark,
     });
-    showText(text, !isForeign(identity), views.description());
+    showText(tagline, known, views.description());
     views.description().setFrame(places.description);
-    if (isForeign(identity)) {
+    if (known.isForeign) {
         views.warning().setFrame(places.warning);
         views.warning().setHidden(false);
     }
     views.showButtons(offered, places);
-
-    // Last, when nothing can fail any more.
     const UIView person = header.personHeaderView();
-    CGRect personFrame = person.frame();
-    personFrame.origin.y = places.personY;
-    person.setFrame(personFrame);
+    moveTo(person, person.frame(), places.personY);
+}
+
+struct Placed {
+    CGRect name, person, ourName, ourPerson;
+};
+
+/// Of the headers that were laid out last.
+auto &placed() {
+    static auto &g_placed = *new PerView<Placed, 8>;
+    return g_placed;
+}
+
+/// The Phone application's own parts of a header, as it places them: what stands where we put it
+/// last has not been placed anew since.
+class TheirParts {
+  public:
+    explicit TheirParts(ABContactHeaderView header)
+        : header_(header),
+          name_(header.nameLabel().frame()),
+          person_(header.personHeaderView().frame()) {
+        if (const Placed *const before = placed().find(header)) {
+            name_ = name_ == before->ourName ? before->name : name_;
+            person_ = person_ == before->ourPerson ? before->person : person_;
+        }
+    }
+
+    void rememberOurs() const {
+        placed().remember(header_, {.name = name_,
+                                    .person = person_,
+                                    .ourName = header_.nameLabel().frame(),
+                                    .ourPerson = header_.personHeaderView().frame()});
+    }
+
+    void restore() const {
+        header_.taglineLabel().setHidden(false);
+        header_.nameLabel().setFrame(name_);
+        header_.personHeaderView().setFrame(person_);
+        placed().forget(header_);
+    }
+
+  private:
+    ABContactHeaderView header_;
+    CGRect name_, person_;
+};
+
+void showInfo(ABContactHeaderView header) {
+    const bool from80 = ios::isFrom(8.0);
+    auto number = phonePureNumber();
+    const bool hasNumber = number->length() != 0;
+    const KnownNumber known = hasNumber ? lookUp(std::move(number)) : KnownNumber();
+    header.taglineLabel().setHidden(true);
+    const UILabel name = header.nameLabel();
+    moveTo(name, name.frame(), 53);
+    HeaderViews views = HeaderViews::find(header);
+    if (!views) {
+        views = HeaderViews::create(header, from80);
+    }
+    if (hasNumber) {
+        fill(header, views, known, from80);
+    }
 }
 
 }  // namespace
@@ -114,9 +172,8 @@ void updatePhoneNumberFromContact(ABContact contact) {
 }
 
 CGFloat headerViewHeight() {
-    const ZQNumberIdentity identity = identityOf(phonePureNumber());
-    const NSString info = detailLine(phonePureNumber(), identity);
-    return headerHeight(info.length() != 0, isForeign(identity), isFrom80());
+    const KnownNumber known = lookUp(phonePureNumber());
+    return headerHeight(known.info->length() != 0, known.isForeign, ios::isFrom(8.0));
 }
 
 UIView makeHeaderSpacer() {
@@ -126,7 +183,7 @@ UIView makeHeaderSpacer() {
     return spacer;
 }
 
-void layOutHeader(ABContactHeaderView header) {
+void layOutHeader(ABContactHeaderView header, bool isOutermostPass) {
     if (header.isEditing()) {
         return;
     }
@@ -135,37 +192,22 @@ void layOutHeader(ABContactHeaderView header) {
         return;
     }
     addNumberInfo(header, contact);
-    header.layoutSublayers();
+    // The layers lay the header out again. Without this, Auto Layout on iOS 7 complains of the
+    // views that came after its pass; from within that second pass it would never end.
+    if (isOutermostPass) {
+        header.layoutSublayers();
+    }
 }
 
 void addNumberInfo(ABContactHeaderView header, ABContact /*contact*/) {
-    const bool from80 = isFrom80();
-    const UILabel tagline = header.taglineLabel();
-    tagline.setHidden(true);
-    const UILabel name = header.nameLabel();
-    const CGRect systemsFrame = name.frame();
-    CGRect nameFrame = systemsFrame;
-    nameFrame.origin.y = 53;
-    name.setFrame(nameFrame);
-
-    if (const HeaderViews views = HeaderViews::find(header)) {
-        fill(header, views, from80);
+    const TheirParts theirs(header);
+    if (objc::silently([&] { showInfo(header); })) {
+        theirs.rememberOurs();
         return;
     }
-    // A first pass that fails is undone, for no later one would reach its buttons.
-    if (!objc::silently([&] { fill(header, HeaderViews::create(header, from80), from80); })) {
-        HeaderViews::remove(header);
-        tagline.setHidden(false);
-        name.setFrame(systemsFrame);
-    }
-}
-
-UIImage recordIcon() {
-    if (!g_recordIconImage) {
-        const UIImage loaded = resourceImage("icon_zqrLogo_in_systemCallHistoryDetailsView.png"_ns);
-        g_recordIconImage = objc::Owned<UIImage>::share(loaded).leak();
-    }
-    return g_recordIconImage;
+    // All or nothing. The next pass makes the views anew: it could not reach the old buttons.
+    objc::silently([&] { HeaderViews::remove(header); });
+    objc::silently([&] { theirs.restore(); });
 }
 
 }  // namespace recents

@@ -20,12 +20,11 @@ CGFloat headerViewHeight();
 UIView makeHeaderSpacer();
 
 /// After the Phone application's own layout: adds the header's views in the first pass and brings
-/// them up to date in each. Other headers than strangers' stay as they are.
-void layOutHeader(ABContactHeaderView header);
-/// The same for any header; the contact is not read.
+/// them up to date in each. Other headers than strangers' stay as they are. Passes may run within
+/// each other; the outermost one of a header has its layers laid out, too.
+void layOutHeader(ABContactHeaderView header, bool isOutermostPass);
+/// Adds the views to any header and brings them up to date, or leaves the header as the Phone
+/// application made it; the contact is not read.
 void addNumberInfo(ABContactHeaderView header, ABContact contact);
-
-/// The companion's logo; nil as long as its file is missing.
-UIImage recordIcon();
 
 }  // namespace recents

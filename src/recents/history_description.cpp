@@ -36,8 +36,7 @@ NSString regionOf(ZQNumberIdentity identity) {
 }
 
 NSString regionOf(NSString number) {
-    const auto parsed = ZQPhoneNumber::parsed(number);
-    return ZQPhoneNumber::descriptionOfNumber(parsed->pureNumber());
+    return ZQPhoneNumber::descriptionOfNumber(ZQPhoneNumber::pureNumberOf(number));
 }
 
 NSString labelOrRegion(ZQNumberIdentity identity) {
@@ -64,6 +63,34 @@ NSString shortened(NSString text, NSUInteger separatorIndex) {
     // A second part that takes all the room leaves nothing of the first.
     const NSUInteger room = tail.length() < kKept ? kKept - tail.length() : 0;
     return format<"%@... %@">(text.substringToIndex(room), tail);
+}
+
+NSString lineOf(NSString number, ZQNumberIdentity identity) {
+    if (!identity) {
+        return ZQPhoneNumber::descriptionOfNumber(number);
+    }
+    switch (identity.type()) {
+    case Region:
+    case RegionAndLabel:
+    case Foreign:
+        return regionOf(identity);
+    case OwnMark:
+        return format<"%@ | %@">(identity.identity(), ownMarkText());
+    case Brand:
+        // The key's name itself, not what the companion's constant of that name says.
+        return asText(identity.brandInfo().objectForKey("kZQBrandServiceBrandNameKey"_ns));
+    case UserMark:
+    case UserMarkToo:
+    case FreshCloudAnswer:
+    case StoredCloudAnswer:
+    case OtherCloudData: {
+        const int32_t marks = identity.numOfMark();
+        return isWorthShowing(marks) ? format<"%@ | %d位用户标记">(identity.identity(), marks)
+                                     : identity.identity();
+    }
+    default:
+        return labelOrRegion(identity);
+    }
 }
 
 }  // namespace
@@ -101,35 +128,9 @@ bool isBrand(ZQNumberIdentity identity) {
     }
 }
 
-NSString detailLine(NSString number, ZQNumberIdentity identity) {
-    if (!number) {
-        return nullptr;
-    }
-    if (!identity) {
-        return ZQPhoneNumber::descriptionOfNumber(number);
-    }
-    switch (identity.type()) {
-    case Region:
-    case RegionAndLabel:
-    case Foreign:
-        return regionOf(identity);
-    case OwnMark:
-        return format<"%@ | %@">(identity.identity(), ownMarkText());
-    case Brand:
-        // The key's name itself, not what the companion's constant of that name says.
-        return asText(identity.brandInfo().objectForKey("kZQBrandServiceBrandNameKey"_ns));
-    case UserMark:
-    case UserMarkToo:
-    case FreshCloudAnswer:
-    case StoredCloudAnswer:
-    case OtherCloudData: {
-        const int32_t marks = identity.numOfMark();
-        return isWorthShowing(marks) ? format<"%@ | %d位用户标记">(identity.identity(), marks)
-                                     : identity.identity();
-    }
-    default:
-        return labelOrRegion(identity);
-    }
+objc::Owned<NSString> detailLine(NSString number, ZQNumberIdentity identity) {
+    // Held at once: the text may be the identity's own.
+    return objc::Owned<NSString>::share(number ? lineOf(number, identity) : nullptr);
 }
 
 NSDictionary twoPartDescription(NSString number, ZQNumberIdentity identity) {

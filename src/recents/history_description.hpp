@@ -2,7 +2,7 @@
 // Pure rules; a nil identity has no kind.
 #pragma once
 
-#include "identity/companion.hpp"
+#include "companion/companion.hpp"
 
 namespace recents {
 
@@ -14,9 +14,9 @@ bool isCloudMark(ZQNumberIdentity identity);
 /// all counts as a business, while an empty source does not.
 bool isBrand(ZQNumberIdentity identity);
 
-/// The detail header's line; nil for nil, and when nothing is known. Of a number that has no
+/// The detail header's line; empty for nil, and when nothing is known. Of a number that has no
 /// identity it is the region.
-NSString detailLine(NSString number, ZQNumberIdentity identity);
+objc::Owned<NSString> detailLine(NSString number, ZQNumberIdentity identity);
 
 /// The main text under "numberinfo", beside it what the user's or other users' marks add, under
 /// "zqrinfo". Without a main text there is neither.

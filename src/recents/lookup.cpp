@@ -3,14 +3,15 @@
 
 #include "recents/lookup_context.hpp"
 
+using objc::Owned;
+
 namespace recents {
 namespace {
 
-// The companion tells its callers apart by this number.
-constexpr int32_t kDisplayType = 2;
-
-constexpr ZQNumberIdentityService::Query kLocalQuery{
-    .ignoreDiagnose = false, .onlyLocal = true, .delegate = nullptr, .displayType = kDisplayType};
+constexpr ZQNumberIdentityService::Query kLocalQuery{.ignoreDiagnose = false,
+                                                     .onlyLocal = true,
+                                                     .delegate = nullptr,
+                                                     .displayType = DisplayType::Call};
 
 ZQCallRecord newRecord(NSString pureNumber) {
     const ZQCallRecord record = objc::create<ZQCallRecord>().autorelease();
@@ -20,38 +21,34 @@ ZQCallRecord newRecord(NSString pureNumber) {
 
 }  // namespace
 
-NSString describe(RecentCall call) {
+Owned<NSString> describe(RecentCall call) {
     const NSString number = call.number();
     if (!number) {
-        return nullptr;
+        return {};
     }
     const NSInteger direction = call.isIncoming() ? 0 : 1;
     setCurrentRecordDate(call.date());
-    const ZQNumberIdentity identity = identityOf(number);
-    return identity ? ZQNumberIdentityService::getFormattedInfo(identity, kDisplayType, direction,
-                                                                nullptr)
-                    : ZQPhoneNumber::descriptionOfNumber(number);
+    const auto identity = identityOf(number);
+    return Owned<NSString>::share(identity ? ZQNumberIdentityService::getFormattedInfo(
+                                                 identity, DisplayType::Call, direction, nullptr)
+                                           : ZQPhoneNumber::descriptionOfNumber(number));
 }
 
-ZQNumberIdentity identityOf(NSString number) {
+Owned<ZQNumberIdentity> identityOf(NSString number) {
     if (!number) {
-        return nullptr;
+        return {};
     }
-    // It may be the lookup context's own, which is about to be replaced.
-    const auto held = objc::Owned<NSString>::share(number);
-    const auto parsed = ZQPhoneNumber::parsed(number);
-    const NSString pure = parsed->pureNumber();
+    const auto pure = ZQPhoneNumber::pureNumberOf(number);
     setPhonePureNumber(pure);
-    const ZQCallRecord stored = callRecord(number, currentRecordDate());
-    return ZQNumberIdentityService::getIdentityOfRecord(stored ? stored : newRecord(pure),
-                                                        kLocalQuery);
+    const auto stored = callRecord(number, currentRecordDate());
+    return Owned<ZQNumberIdentity>::share(ZQNumberIdentityService::getIdentityOfRecord(
+        stored ? stored.get() : newRecord(pure), kLocalQuery));
 }
 
-ZQCallRecord callRecord(NSString number, NSDate date) {
+Owned<ZQCallRecord> callRecord(NSString number, NSDate date) {
     const auto service = objc::create<ZQCallRecordService>();
     // The service goes at the end of this scope, whoever else holds the record.
-    return objc::Owned<ZQCallRecord>::share(service->getRecordForNumber(number, date))
-        .autorelease();
+    return Owned<ZQCallRecord>::share(service->getRecordForNumber(number, date));
 }
 
 }  // namespace recents

@@ -19,10 +19,10 @@ void keepCopy(T &variable, T value) {
 
 }  // namespace
 
-NSDate currentRecordDate() { return g_currentRecordDate; }
+objc::Owned<NSDate> currentRecordDate() { return objc::Owned<NSDate>::share(g_currentRecordDate); }
 void setCurrentRecordDate(NSDate date) { keepCopy(g_currentRecordDate, date); }
 
-NSString phonePureNumber() { return g_phonePureNumber; }
+objc::Owned<NSString> phonePureNumber() { return objc::Owned<NSString>::share(g_phonePureNumber); }
 void setPhonePureNumber(NSString number) { keepCopy(g_phonePureNumber, number); }
 
 }  // namespace recents

@@ -6,15 +6,14 @@
 
 namespace recents {
 
-/// The date of the call; nil when none was set.
-NSDate currentRecordDate();
+/// The date of the call; empty when none was set.
+objc::Owned<NSDate> currentRecordDate();
 /// Keeps a copy, nil too.
 void setCurrentRecordDate(NSDate date);
 
-/// The number in the companion's form, digits alone; nil when none was set.
-NSString phonePureNumber();
-/// Keeps a copy, nil too. The string that phonePureNumber() answered before goes away, unless it
-/// is the same.
+/// The number in the companion's form, digits alone; empty when none was set.
+objc::Owned<NSString> phonePureNumber();
+/// Keeps a copy, nil too.
 void setPhonePureNumber(NSString number);
 
 }  // namespace recents

@@ -1,12 +1,13 @@
 // The replaced methods of the recents list, the detail header and the swipe menu.
 #include "recents/replacements.hpp"
 
-#include "identity/companion.hpp"
+#include "companion/companion.hpp"
 #include "objc/silently.hpp"
+#include "platform/LayoutPass.hpp"
+#include "recents/RecentCall.hpp"
 #include "recents/cell.hpp"
 #include "recents/detail_header.hpp"
 #include "recents/lookup_context.hpp"
-#include "recents/recent_call.hpp"
 #include "recents/swipe_menu.hpp"
 
 namespace {
@@ -19,15 +20,17 @@ void reload(UITableView table) {
 }
 
 /// A row whose content has left its place shows what lies behind.
-void addMenuWhileOpening(UITableViewCellScrollView scrollView, CGPoint offset) {
+void followSwipe(UITableViewCellScrollView scrollView, CGPoint offset) {
     constexpr CGFloat kAtRest = 1;
-    if (!(offset.x > kAtRest)) {
+    const Class cellClass = "PHRecentsCell"_cls;
+    const auto cell = scrollView.superview().as<PHRecentsCell>();
+    if (!cellClass || !cell.isKindOfClass(cellClass)) {
         return;
     }
-    const Class cellClass = "PHRecentsCell"_cls;
-    const UIView cell = scrollView.superview();
-    if (cellClass && cell.isKindOfClass(cellClass)) {
-        recents::addButtonMenu(cell.as<PHRecentsCell>());
+    if (offset.x > kAtRest) {
+        recents::addButtonMenu(cell);
+    } else {
+        recents::menuIsShut(cell);
     }
 }
 
@@ -51,20 +54,21 @@ void settle(UIScrollView scrollView, CGPoint *target) {
 
 void replace_PHRecentsViewController_viewWillAppear_(PHRecentsViewController self, SEL selector,
                                                      BOOL animated) {
-    saved_PHRecentsViewController_viewWillAppear_(self, selector, animated);
+    objc::saved<&replace_PHRecentsViewController_viewWillAppear_>(self, selector, animated);
     reload(self.table());
 }
 
 void replace_PhoneViewController_viewWillAppear_(PhoneViewController self, SEL selector,
                                                  BOOL animated) {
-    saved_PhoneViewController_viewWillAppear_(self, selector, animated);
+    objc::saved<&replace_PhoneViewController_viewWillAppear_>(self, selector, animated);
     reload(self.table());
 }
 
 void replace_PHRecentsCell_layoutSubviews(PHRecentsCell self, SEL selector) {
-    saved_PHRecentsCell_layoutSubviews(self, selector);
+    const LayoutPass pass(self);
+    objc::saved<&replace_PHRecentsCell_layoutSubviews>(self, selector);
     if (!silently([&] { recents::layOutCell(self); })) {
-        silently([&] { recents::hideLine(self); });
+        silently([&] { recents::restoreCell(self); });
     }
 }
 
@@ -72,7 +76,8 @@ id replace_PHRecentsViewController_showCallDetail_animate_(PHRecentsViewControll
                                                            SEL selector, NSObject call,
                                                            BOOL animate) {
     silently([&] { recents::setCurrentRecordDate(recents::RecentCall(call).date()); });
-    return saved_PHRecentsViewController_showCallDetail_animate_(self, selector, call, animate);
+    return objc::saved<&replace_PHRecentsViewController_showCallDetail_animate_>(self, selector,
+                                                                                 call, animate);
 }
 
 CGFloat replace_ABContactViewController_tableView_heightForHeaderInSection_(
@@ -86,9 +91,10 @@ CGFloat replace_ABContactViewController_tableView_heightForHeaderInSection_(
             isOurs = true;
         }
     });
-    return isOurs ? height
-                  : saved_ABContactViewController_tableView_heightForHeaderInSection_(
-                        self, selector, tableView, section);
+    return isOurs
+               ? height
+               : objc::saved<&replace_ABContactViewController_tableView_heightForHeaderInSection_>(
+                     self, selector, tableView, section);
 }
 
 id replace_ABContactViewController_tableView_viewForHeaderInSection_(ABContactViewController self,
@@ -101,18 +107,19 @@ id replace_ABContactViewController_tableView_viewForHeaderInSection_(ABContactVi
         }
     });
     return spacer ? spacer.get()
-                  : saved_ABContactViewController_tableView_viewForHeaderInSection_(
+                  : objc::saved<&replace_ABContactViewController_tableView_viewForHeaderInSection_>(
                         self, selector, tableView, section);
 }
 
 void replace_ABContactHeaderView_layoutSubviews(ABContactHeaderView self, SEL selector) {
-    saved_ABContactHeaderView_layoutSubviews(self, selector);
-    silently([&] { recents::layOutHeader(self); });
+    const LayoutPass pass(self);
+    objc::saved<&replace_ABContactHeaderView_layoutSubviews>(self, selector);
+    silently([&] { recents::layOutHeader(self, pass.isOutermost()); });
 }
 
 void replace_PHRecentsCell_setEditing_animated_(PHRecentsCell self, SEL selector, BOOL editing,
                                                 BOOL animated) {
-    saved_PHRecentsCell_setEditing_animated_(self, selector, editing, animated);
+    objc::saved<&replace_PHRecentsCell_setEditing_animated_>(self, selector, editing, animated);
     if (editing && !recents::isListEditing()) {
         silently([&] { recents::rememberCall(self); });
     }
@@ -129,24 +136,25 @@ void replace_PHRecentsViewController_setEditing_animated_(PHRecentsViewControlle
             "ZQSystemCallHistoryViewHook"_cls, "performSelector:withObject:afterDelay:"_sel,
             "setTableStatus:"_sel, NSNumber::withBool(editing != 0), kDelay);
     });
-    saved_PHRecentsViewController_setEditing_animated_(self, selector, editing, animated);
+    objc::saved<&replace_PHRecentsViewController_setEditing_animated_>(self, selector, editing,
+                                                                       animated);
 }
 
 void replace_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_(
     PHRecentsCell self, SEL selector, UIView scrollView, CGPoint velocity, CGPoint *target) {
     silently([&] { settle(scrollView.as<UIScrollView>(), target); });
-    saved_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_(
+    objc::saved<&replace_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_>(
         self, selector, scrollView, velocity, target);
 }
 
 void replace_UITableViewCellScrollView_setContentOffset_(UITableViewCellScrollView self,
                                                          SEL selector, CGPoint offset) {
     silently([&] {
-        if (ZQPhoneUtil::isLaterThanIOSVersion(7.1, true)) {
-            addMenuWhileOpening(self, offset);
+        if (ios::isFrom(7.1)) {
+            followSwipe(self, offset);
         }
     });
-    saved_UITableViewCellScrollView_setContentOffset_(self, selector, offset);
+    objc::saved<&replace_UITableViewCellScrollView_setContentOffset_>(self, selector, offset);
 }
 
 void replace_ABContactHeaderDisplayView__taglineStringForContact_() { __builtin_trap(); }

@@ -2,7 +2,7 @@
 // what they replaced.
 #pragma once
 
-#include "objc/saved.hpp"
+#include "objc/replacement.hpp"
 #include "platform/PhoneApp.hpp"
 #include "platform/Substrate.hpp"
 
@@ -31,29 +31,3 @@ ZQ_EXPORT void replace_UITableViewCellScrollView_setContentOffset_(UITableViewCe
 
 /// Never to be installed: calling it is a mistake, and it traps.
 ZQ_EXPORT void replace_ABContactHeaderDisplayView__taglineStringForContact_();
-
-inline constinit objc::Saved<decltype(replace_PHRecentsViewController_viewWillAppear_)>
-    saved_PHRecentsViewController_viewWillAppear_;
-inline constinit objc::Saved<decltype(replace_PhoneViewController_viewWillAppear_)>
-    saved_PhoneViewController_viewWillAppear_;
-inline constinit objc::Saved<decltype(replace_PHRecentsCell_layoutSubviews)>
-    saved_PHRecentsCell_layoutSubviews;
-inline constinit objc::Saved<decltype(replace_PHRecentsViewController_showCallDetail_animate_)>
-    saved_PHRecentsViewController_showCallDetail_animate_;
-inline constinit objc::Saved<
-    decltype(replace_ABContactViewController_tableView_heightForHeaderInSection_)>
-    saved_ABContactViewController_tableView_heightForHeaderInSection_;
-inline constinit objc::Saved<
-    decltype(replace_ABContactViewController_tableView_viewForHeaderInSection_)>
-    saved_ABContactViewController_tableView_viewForHeaderInSection_;
-inline constinit objc::Saved<decltype(replace_ABContactHeaderView_layoutSubviews)>
-    saved_ABContactHeaderView_layoutSubviews;
-inline constinit objc::Saved<decltype(replace_PHRecentsCell_setEditing_animated_)>
-    saved_PHRecentsCell_setEditing_animated_;
-inline constinit objc::Saved<decltype(replace_PHRecentsViewController_setEditing_animated_)>
-    saved_PHRecentsViewController_setEditing_animated_;
-inline constinit objc::Saved<
-    decltype(replace_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_)>
-    saved_PHRecentsCell_scrollViewWillEndDragging_withVelocity_targetContentOffset_;
-inline constinit objc::Saved<decltype(replace_UITableViewCellScrollView_setContentOffset_)>
-    saved_UITableViewCellScrollView_setContentOffset_;

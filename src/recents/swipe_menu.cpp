@@ -1,7 +1,8 @@
 // The swipe menu of a recents row.
 #include "recents/swipe_menu.hpp"
 
-#include "identity/companion.hpp"
+#include "companion/companion.hpp"
+#include "objc/silently.hpp"
 #include "recents/actions.hpp"
 #include "recents/lookup.hpp"
 #include "recents/lookup_context.hpp"
@@ -9,30 +10,32 @@
 namespace recents {
 namespace {
 
-enum Tag : NSInteger { kCorrectTag = 1012, kMarkTag = 1013 };
+enum Tag : NSInteger {
+    kCorrectTag = 1012,
+    kMarkTag = 1013,
+    // The confirmation view itself, once it was asked for. A new one at the same address has none.
+    kAskedTag = 1014,
+};
+
+/// The opening of a menu that was asked for last; compared, never used.
+struct Opening {
+    id cell, call, confirmation;
+    bool operator==(const Opening &) const = default;
+};
+
+constinit Opening g_opening{};
 
 constinit bool g_isListEditing = false;
 constinit int32_t g_menuButtonCount = 0;
 
-/// Goes through the subviews as long as `visit` answers true.
-template <class Visit>
-void whileVisiting(UIView view, Visit visit) {
-    const NSArray subviews = view.subviews();
-    const NSUInteger count = subviews.count();
-    for (NSUInteger i = 0; i < count && visit(subviews.objectAtIndex(i).as<UIView>()); ++i) {
-    }
-}
-
 /// A class that the running system lacks has no views.
 UIView firstSubview(UIView view, Class cls) {
-    UIView found;
-    whileVisiting(view, [&](UIView subview) {
+    for (const UIView subview : view.subviews()) {
         if (cls && subview.isKindOfClass(cls)) {
-            found = subview;
+            return subview;
         }
-        return !found;
-    });
-    return found;
+    }
+    return nullptr;
 }
 
 CGFloat byte(int component) { return static_cast<CGFloat>(component) / 255; }
@@ -52,7 +55,7 @@ UIButton makeButton(NSString title, UIColor background, SEL action, Tag tag, CGF
 /// Text messages come from addresses, which nobody marks.
 bool isUsable(NSString number) { return number.length() != 0 && !number.contains("@"_ns); }
 
-/// The offered buttons from the left; answers how many slots they and the delete button take.
+/// The offered buttons from the left; returns how many slots they and the delete button take.
 int32_t addButtons(UIView confirmation, OfferedActions offered, CGFloat height) {
     const UIButton correct =
         makeButton("纠错"_ns, UIColor::withRGB(byte(210), byte(210), byte(210), 1),
@@ -71,23 +74,52 @@ int32_t addButtons(UIView confirmation, OfferedActions offered, CGFloat height) 
     return slots + 1;
 }
 
+/// Asks what the row's call allows and adds the buttons; returns the slots of the whole menu.
+int32_t addOfferedButtons(PHRecentsCell cell, RecentCall call, UIView confirmation) {
+    const NSString number = call.number();
+    const OfferedActions offered = [&] {
+        const auto identity = identityOf(number);
+        return offeredActions(phonePureNumber(), identity);
+    }();
+    const CGFloat height = cell.frame().size.height - CGFloat(0.5);
+    const bool hasButtons = !call.isOfContact() && isUsable(number);
+    return hasButtons ? addButtons(confirmation, offered, height) : 1;
+}
+
+void removeButtons(UIView confirmation) {
+    for (const Tag tag : {kCorrectTag, kMarkTag}) {
+        confirmation.viewWithTag(tag).removeFromSuperview();
+    }
+}
+
 /// The delete button goes to the last slot, its label as large as the others.
 void placeDeleteButton(UIView button, int32_t slots) {
     CGRect frame = button.frame();
     frame.origin.x = menuWidth(slots - 1);
     frame.size.width = kSlotWidth;
     button.setFrame(frame);
-    whileVisiting(button, [](UIView subview) {
+    for (const UIView subview : button.subviews()) {
         if (subview.isKindOfClass(UILabel::classObject())) {
             subview.as<UILabel>().setFont(UIFont::systemFontOfSize(14));
         }
-        return true;
-    });
+    }
 }
 
 bool isAdjusted(UIView confirmation, UIView deleteButton) {
     return confirmation.viewWithTag(kCorrectTag) || confirmation.viewWithTag(kMarkTag) ||
            (deleteButton && deleteButton.frame().size.width == kSlotWidth);
+}
+
+/// Whether the companion was asked already since the menu opened. UIKit may reset what the add-on
+/// adjusted at every step of the finger, but what the number allows stays the same.
+bool wasAskedFor(PHRecentsCell cell, RecentCall call, UIView confirmation) {
+    const Opening opening{cell, call, confirmation};
+    if (g_opening == opening && confirmation.tag() == kAskedTag) {
+        return true;
+    }
+    g_opening = opening;
+    confirmation.setTag(kAskedTag);
+    return false;
 }
 
 }  // namespace
@@ -103,18 +135,25 @@ void addButtonMenu(PHRecentsCell cell) {
     const UIView scrollView = firstSubview(cell, "UITableViewCellScrollView"_cls);
     const UIView confirmation =
         firstSubview(scrollView, "UITableViewCellDeleteConfirmationView"_cls);
-    const UIView deleteButton =
-        firstSubview(confirmation, "UITableViewCellDeleteConfirmationButton"_cls);
-    if (!confirmation || isAdjusted(confirmation, deleteButton)) {
+    if (!confirmation) {
+        menuIsShut(cell);
         return;
     }
-    const RecentCall call(cell.call());
-    const NSString number = call.number();
-    const OfferedActions offered = offeredActions(identityOf(number));
-    const CGFloat height = cell.frame().size.height - CGFloat(0.5);
-    const bool hasButtons = !call.isOfContact() && isUsable(number);
-    g_menuButtonCount = hasButtons ? addButtons(confirmation, offered, height) : 1;
-
+    const UIView deleteButton =
+        firstSubview(confirmation, "UITableViewCellDeleteConfirmationButton"_cls);
+    if (isAdjusted(confirmation, deleteButton)) {
+        return;
+    }
+    const auto call = objc::Owned<RecentCall>::share(RecentCall(cell.call()));
+    if (!wasAskedFor(cell, call, confirmation)) {
+        // The system's button alone, until more are there.
+        g_menuButtonCount = 1;
+        const bool isDone = objc::silently(
+            [&] { g_menuButtonCount = addOfferedButtons(cell, call, confirmation); });
+        if (!isDone) {
+            removeButtons(confirmation);
+        }
+    }
     CGRect frame = confirmation.frame();
     frame.size.width = menuWidth(g_menuButtonCount);
     confirmation.setFrame(frame);
@@ -123,11 +162,16 @@ void addButtonMenu(PHRecentsCell cell) {
     }
 }
 
+void menuIsShut(PHRecentsCell cell) {
+    if (g_opening.cell == cell.get()) {
+        g_opening = {};
+    }
+}
+
 void rememberCall(PHRecentsCell cell) {
-    const RecentCall call(cell.call());
-    const auto parsed = ZQPhoneNumber::parsed(call.number());
-    setPhonePureNumber(parsed->pureNumber());
-    setCurrentRecordDate(call.date());
+    const auto call = objc::Owned<RecentCall>::share(RecentCall(cell.call()));
+    setPhonePureNumber(ZQPhoneNumber::pureNumberOf(call->number()));
+    setCurrentRecordDate(call->date());
 }
 
 Settling settleSwipe(UIScrollView scrollView) {

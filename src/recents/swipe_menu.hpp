@@ -16,6 +16,9 @@ void setTableStatus(NSObject isEditing);
 /// nothing happens where there is none.
 void addButtonMenu(PHRecentsCell cell);
 
+/// The row's menu is shut: when it opens again, it is asked for anew.
+void menuIsShut(PHRecentsCell cell);
+
 /// Takes note of the call whose row is swiped, for the menu's buttons.
 void rememberCall(PHRecentsCell cell);
 

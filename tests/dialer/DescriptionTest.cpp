@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "dialer/description.hpp"
+#include "dialer/older_hint.hpp"
 #include "support/StubCompanion.hpp"
 
 namespace {
@@ -59,7 +60,7 @@ TEST_F(DialerDescription, AsksForLocalDataOnlyAndNotAtAllForANamedNumber) {
 }
 
 TEST_F(DialerDescription, OutlivesTheParserThatGaveIt) {
-    const NSString area = dialer::describeTypedNumber("13800138000"_ns, nullptr, nullptr);
+    const auto area = dialer::describeTypedNumber("13800138000"_ns, nullptr, nullptr);
     EXPECT_EQ(utf8(area), "北京 移动");
     EXPECT_EQ(stub.parsedNumbers, 2);
 }

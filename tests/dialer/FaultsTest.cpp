@@ -1,7 +1,7 @@
 // The dialer's row when something is missing: the Phone application's own line is what stays.
 #include <gtest/gtest.h>
 
-#include "dialer/ZQDialNumberInputUIHook.hpp"
+#include "dialer/hint.hpp"
 #include "dialer/replacements.hpp"
 #include "hook/installation.hpp"
 #include "phone/Parts.hpp"
@@ -98,8 +98,7 @@ TEST_F(DialerFaults, ADisplayWithoutANameLineIsLeftAsItIs) {
         .finish();
     const id made = send<id()>("TestBareDisplay"_cls, "new"_sel);
     const auto bare = objc::Owned<UIView>::adopt(UIView(made));
-    ZQDialNumberInputUIHook::shared()->layoutNumInfoIfNeeded(
-        bare.get().as<PHHandsetDialerLCDView>(), "02012345678"_ns, nullptr, nullptr);
+    dialer::layOutHint(bare.get().as<PHHandsetDialerLCDView>(), "02012345678"_ns, nullptr, nullptr);
     EXPECT_EQ(send<NSArray()>(bare, "subviews"_sel).count(), 0U);
 }
 

@@ -22,7 +22,7 @@ class OlderHint : public testing::Test {
         stub.descriptions = {{"13800138000", "北京 移动"}};
         hook::registerClasses();
         objc::ClassBuilder<LCDField>("DialerLCDField", "UIView").finish();
-        hook = objc::Owned<NSObject>::adopt(NSObject(*objc::make<ZQDialNumberInputUIHook>()));
+        hook = objc::make<ZQDialNumberInputUIHook>().as<NSObject>();
         controller = objc::create<UIViewController>();
         field = objc::create<DialerLCDField>();
         field->setFrame(rect(0, 20, 320, 74));

@@ -26,13 +26,13 @@ TEST_F(Entry, InitialisesPreferencesBeforeAnyHook) {
     bool classBefore = true;
     stub.onInitializePreferences = [&] {
         hooksBefore = substrate::hookLog().size();
-        classBefore = ZQDialNumberInputUIHook::shared() != nullptr;
+        classBefore = objc::Shared<ZQDialNumberInputUIHook>::get() != nullptr;
     };
     stage::setMainBundleIdentifier("com.apple.mobilephone");
     ZQDialMain();
     EXPECT_EQ(hooksBefore, 0U);
     EXPECT_FALSE(classBefore);
-    EXPECT_NE(ZQDialNumberInputUIHook::shared(), nullptr);
+    EXPECT_NE(objc::Shared<ZQDialNumberInputUIHook>::get(), nullptr);
     EXPECT_FALSE(substrate::hookLog().empty());
 }
 
@@ -68,7 +68,7 @@ TEST_F(Entry, MakesTheDialersInstanceWhereNoneOfItsRowsBelong) {
     hook::registerClasses();
     hook::initializeDialerHook();
     EXPECT_TRUE(substrate::hookLog().empty());
-    EXPECT_NE(ZQDialNumberInputUIHook::shared(), nullptr);
+    EXPECT_NE(objc::Shared<ZQDialNumberInputUIHook>::get(), nullptr);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // Which call the in-call screen is about, driven by the telephony layer's own messages.
 #include <gtest/gtest.h>
 
-#include "identity/ZQDialCloudQueryService.hpp"
+#include "companion/ZQDialCloudQueryService.hpp"
 #include "incall/replacements.hpp"
 #include "substrate/RuntimeMethods.hpp"
 #include "support/InCall.hpp"

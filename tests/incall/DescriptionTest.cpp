@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "identity/ZQDialCloudQueryService.hpp"
+#include "companion/ZQDialCloudQueryService.hpp"
 #include "incall/description.hpp"
 #include "support/InCall.hpp"
 
@@ -158,16 +158,17 @@ TEST_F(InCallDescription, ABrandIsKnownByItsKindOrItsSource) {
     for (const auto &[facts, expected] : cases) {
         stub.identities["10001"] = facts;
         service->forcelyResetData();
-        EXPECT_EQ(hook().isTypeBrand(service->getNumberIdentity("10001"_ns, false)), expected)
+        EXPECT_EQ(incall::isBrand(service->getNumberIdentity("10001"_ns, false)), expected)
             << static_cast<int>(facts.type);
     }
-    EXPECT_FALSE(hook().isTypeBrand(nullptr));
+    EXPECT_FALSE(incall::isBrand(nullptr));
 }
 
 /// The attributed text and, behind a slash, how many units of it are bright; the rest is dim.
 std::string toned(NSString text) {
-    const auto attributed = objc::Owned<NSAttributedString>::adopt(
-        ZQDialWaitUIHook::shared()->getAttributedString(text));
+    const auto attributed =
+        objc::Owned<NSAttributedString>::adopt(objc::send<NSAttributedString(NSString)>(
+            *objc::Shared<ZQDialWaitUIHook>::get(), "getAttributedString:"_sel, text));
     if (!attributed) {
         return "(nil)";
     }

@@ -202,7 +202,7 @@ TEST_F(InCallScreen, AContactsRegionStandsInTheLabelSince71) {
     // The Phone application writes its own label in two sizes.
     for (const auto &[display, points] : {std::pair{lcd().as<InCallDisplay>(), CGFloat{16}},
                                           {field().as<InCallDisplay>(), CGFloat{14}}}) {
-        const TPLCDLabelView label = display.labelView();
+        const TPLCDTextView label = display.labelView();
         send<void(NSString)>(label, "setText:"_sel, "手机"_ns);
         const auto call = begin({"10001", false, 4});
         layOut(display);
@@ -237,7 +237,7 @@ TEST_F(InCallScreen, AContactsRegionStandsInTheLabelSince71) {
 
 TEST_F(InCallScreen, ATextFromTheLeftMovesBehindTheRegionsIcon) {
     start(7.1);
-    const TPLCDLabelView label = lcd().labelView();
+    const TPLCDTextView label = lcd().labelView();
     send<void(bool)>(label, "setCenterText:"_sel, false);
     send<void(NSString)>(label, "setText:"_sel, "手机"_ns);
     label.setFrame(rect(20, 45, 130, 21));
@@ -295,7 +295,8 @@ void recordFont(id, SEL, UIFont font) { g_points = font.pointSize(); }
 
 TEST_F(InCallScreen, OneCallIsCentredAndTwoAsTheCallerSays) {
     start(7.0);
-    *saved_TPLCDTextView_setCenterText_.slot() = reinterpret_cast<IMP>(&recordCentring);
+    *objc::saved<&replace_TPLCDTextView_setCenterText_>.slot() =
+        reinterpret_cast<IMP>(&recordCentring);
     const auto center = [&](bool centred) {
         send<void(bool)>(lcd().textView(), "setCenterText:"_sel, centred);
         return g_centred;
@@ -311,7 +312,8 @@ TEST_F(InCallScreen, OneCallIsCentredAndTwoAsTheCallerSays) {
 
 TEST_F(InCallScreen, AStrangersSmallNumberIsSmallerOnAShortScreen) {
     start(7.1, false);
-    *saved_TPLCDTextView_setLCDTextFont_.slot() = reinterpret_cast<IMP>(&recordFont);
+    *objc::saved<&replace_TPLCDTextView_setLCDTextFont_>.slot() =
+        reinterpret_cast<IMP>(&recordFont);
     struct Case {
         int contact;
         CGFloat points, shown;

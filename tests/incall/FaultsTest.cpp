@@ -93,7 +93,7 @@ TEST_F(InCallFaults, ARegionNeedsALabel) {
 TEST_F(InCallFaults, ACompanionThatKnowsNothingShowsNothing) {
     stub.knowsNothing = true;
     for (const int contact : {-1, 4}) {
-        if (!ZQDialWaitUIHook::shared()) {
+        if (!objc::Shared<ZQDialWaitUIHook>::get()) {
             start(7.0);
         }
         const auto call = begin({"10001", true, contact});

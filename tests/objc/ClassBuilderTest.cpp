@@ -139,11 +139,10 @@ TEST_F(DefinedClass, KeepsMembersThatHaveNoName) {
                           .ivar<&Unnamed::_shown>("_shown")
                           .finish();
     ASSERT_NE(cls, nullptr);
-    auto *const object = objc::make<Unnamed>();
+    const auto object = objc::make<Unnamed>();
     EXPECT_EQ(objc::read<double>(*object, "_shown"_ivar), 2.5);
     EXPECT_EQ(object->_hidden, 7);
     EXPECT_EQ(object->text.size(), 50U);
-    send<void()>(*object, "release"_sel);
 }
 
 class UnnamedToo : public Unnamed {
@@ -155,9 +154,8 @@ TEST_F(DefinedClass, MayHaveNamelessMembersAtEveryLevel) {
     objc::ClassBuilder<Unnamed>("TestUnnamedBase", "NSObject").finish();
     ASSERT_NE(objc::ClassBuilder<UnnamedToo>("TestUnnamedDerived", "TestUnnamedBase").finish(),
               nullptr);
-    auto *const object = objc::make<UnnamedToo>();
+    const auto object = objc::make<UnnamedToo>();
     EXPECT_EQ(object->text.size() + object->more.size(), 106U);
-    send<void()>(*object, "release"_sel);
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 
 #include "objc/ivar.hpp"
 #include "objc/owned.hpp"
-#include "objc/saved.hpp"
+#include "objc/replacement.hpp"
 #include "objc/silently.hpp"
 #include "platform/Foundation.hpp"
 #include "support/Probe.hpp"

@@ -97,7 +97,7 @@ static bool isSearchFor(NSString *keyword, NSString *url) {
 void checkLinks() {
     NSString *manyDigits = [@"" stringByPaddingToLength:10000 withString:@"7" startingAtIndex:0];
     for (id pure :
-         {(id) @"", (id) @"%@%n%d%s", (id) @"/ ?#&%00\n", (id) @"中文\"", (id)manyDigits}) {
+         {(id) @"%@%n%d%s", (id) @"/ ?#&%00\n", (id) @"中文\"", (id)manyDigits}) {
         [hook() setPhonePureNumber:pure];
         [hook() setCurrentRecordDate:dateAt(-1.9)];
         check(isText(correctLink(), [NSString stringWithFormat:@"zequor://errorCorrect?%@/", pure]),

@@ -21,7 +21,7 @@ class Dialer : public testing::Test {
         sim::TextMeasurer::setCurrent(std::make_unique<sim::FixedAdvanceMeasurer>());
         phone::ContactBook::shared().add({"林小满", {{"138 0013 0011", "手机"}}});
         window_ = phone::makeView<SimWindow>(rect(0, 0, 320, height));
-        owner_ = objc::Owned<NSObject>::adopt(NSObject(*objc::make<phone::DialerController>()));
+        owner_ = objc::make<phone::DialerController>().as<NSObject>();
         dialer_ = objc::Wire<phone::DialerController *>::from(owner_.get().get());
         objc::send<void(NSObject)>(window_.get(), "setRootViewController:"_sel, owner_.get());
     }

@@ -45,8 +45,8 @@ class Hooking : public testing::Test {
                           .finish();
         ASSERT_TRUE(parentClass_);
         ASSERT_TRUE(childClass_);
-        parent_ = objc::Owned<NSObject>::adopt(NSObject(*objc::make<Parent>()));
-        child_ = objc::Owned<NSObject>::adopt(NSObject(*objc::make<Child>()));
+        parent_ = objc::make<Parent>().as<NSObject>();
+        child_ = objc::make<Child>().as<NSObject>();
     }
 
     static const HookEntry &hook(Class cls, SEL selector) {
@@ -105,7 +105,7 @@ TEST_F(Hooking, NothingHappensWithoutMethodOrClass) {
     MSHookMessageEx(parentClass_, "ownOnly"_sel, reinterpret_cast<IMP>(&replacement), &slot);
     EXPECT_EQ(slot, untouched) << "a subclass's method is not the class's";
     EXPECT_EQ(substrate::hookLog().back().outcome, HookEntry::Outcome::MissingMethod);
-    EXPECT_FALSE(class_respondsToSelector(parentClass_, "ownOnly"_sel));
+    EXPECT_EQ(class_getInstanceMethod(parentClass_, "ownOnly"_sel), nullptr);
     MSHookMessageEx(nullptr, "greet"_sel, reinterpret_cast<IMP>(&replacement), &slot);
     EXPECT_EQ(slot, untouched);
 }

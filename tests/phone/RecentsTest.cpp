@@ -55,8 +55,7 @@ class Recents : public testing::Test {
 
     objc::AutoreleasePool pool_;
     objc::Owned<UIView> window_ = phone::makeView<SimWindow>(rect(0, 0, 320, 568));
-    objc::Owned<NSObject> owner_ =
-        objc::Owned<NSObject>::adopt(NSObject(*objc::make<phone::PHRecentsViewController>()));
+    objc::Owned<NSObject> owner_ = objc::make<phone::PHRecentsViewController>().as<NSObject>();
     phone::PHRecentsViewController *list_ = sim::instance<phone::PHRecentsViewController>(owner_);
 };
 

@@ -28,7 +28,7 @@ class RecentsLookup : public test::Recents {
     static test::MaybeText look(const objc::Owned<NSObject> &call) {
         return maybeText(send<NSString(NSObject)>(hook(), "getInfoWithRecentCall:"_sel, call));
     }
-    static NSUInteger cached() { return hook().numberInfoAndCallCacheDict().count(); }
+    static NSUInteger cached() { return cache().count(); }
 };
 
 TEST_F(RecentsLookup, ReadsWhatACallOfEitherSystemAnswers) {
@@ -82,15 +82,10 @@ TEST_F(RecentsLookup, AMissAsksTheCompanionAndAHitNobody) {
     EXPECT_EQ(stub.recordQueries, (std::vector<test::RecordQuery>{{"100-01", 1400000000.6}}));
     EXPECT_EQ(stub.rowTextQueries, (std::vector<test::RowTextQuery>{{"推销", 2, 1, false}}));
     EXPECT_EQ(maybeText(recents::phonePureNumber()), "10001");
-    EXPECT_EQ(recents::currentRecordDate().secondsSince1970(), 1400000000.6);
-    EXPECT_EQ(maybeText(hook()
-                            .numberInfoAndCallCacheDict()
-                            .objectForKey("100-01_1400000001"_ns)
-                            .as<NSString>()),
-              "四川 推销");
+    EXPECT_EQ(recents::currentRecordDate()->secondsSince1970(), 1400000000.6);
+    EXPECT_EQ(maybeText(cache().objectForKey("100-01_1400000001"_ns).as<NSString>()), "四川 推销");
 
-    EXPECT_EQ(objc::read<NSObject>(hook(), "numberInfoAndCallCacheDict"_ivar).get(),
-              hook().numberInfoAndCallCacheDict().get());
+    EXPECT_EQ(objc::read<NSObject>(hook(), "numberInfoAndCallCacheDict"_ivar).get(), cache().get());
 
     recents::setPhonePureNumber("7"_ns);
     EXPECT_EQ(look(call), "四川 推销");
@@ -116,7 +111,7 @@ TEST_F(RecentsLookup, ANumberNobodyKnowsIsRememberedAsWell) {
     EXPECT_EQ(cached(), 0U);
     look(unknown);
     EXPECT_EQ(stub.queries.size(), 3U);
-    hook().setNumberInfoAndCallCacheDict(nullptr);
+    send<void(NSObject)>(hook(), "setNumberInfoAndCallCacheDict:"_sel, nullptr);
     EXPECT_EQ(look(unknown), std::nullopt) << "without a dictionary nothing is kept";
 }
 
@@ -173,7 +168,7 @@ TEST_F(RecentsLookup, RowsAreLookedUpWhileAnotherThreadEmptiesTheCache) {
     std::thread emptying([&] {
         for (; !done; ++emptied) {
             const objc::AutoreleasePool pool;
-            hook().onReloadCacheNotification(nullptr);
+            send<void(NSObject)>(hook(), "onReloadCacheNotification:"_sel, nullptr);
         }
     });
     for (int round = 0; round < kTimes || emptied < kTimes; ++round) {

@@ -123,7 +123,7 @@ TEST_F(RecentsSwipe, ButtonsActOnTheSwipedCall) {
     recents::setCurrentRecordDate(nullptr);
     ASSERT_TRUE(list().swipeOpen(0));
     EXPECT_EQ(maybeText(recents::phonePureNumber()), "3");
-    EXPECT_EQ(recents::currentRecordDate().secondsSince1970(), kNoon + 0.9);
+    EXPECT_EQ(recents::currentRecordDate()->secondsSince1970(), kNoon + 0.9);
     sim::tap(sim::instance<SimView>(button(0, 1012)));
     sim::tap(sim::instance<SimView>(button(0, 1013)));
     EXPECT_EQ(stub.openedLinks,
@@ -154,7 +154,7 @@ TEST_F(RecentsSwipe, ACompanionThatRaisesLeavesTheDeleteButton) {
     start("7.1");
     stub.raisesAt = "pureNumber";
     ASSERT_TRUE(list().swipe(0, 72));
-    EXPECT_EQ(menu(0), "删除 82");
+    EXPECT_EQ(menu(0), "删除 48");
     ASSERT_TRUE(list().releaseSwipe());
     list().closeSwipe();
     stub.raisesAt = {};

@@ -24,7 +24,7 @@ class InCall : public testing::Test {
     static void setStatus(NSObject call, int32_t status);
     static void layOut(UIView display) { test::layOut(display); }
 
-    static ZQDialWaitUIHook &hook() { return *ZQDialWaitUIHook::shared(); }
+    static ZQDialWaitUIHook &hook() { return *objc::Shared<ZQDialWaitUIHook>::get(); }
     InCallLCDView lcd() const { return lcd_.get().as<InCallLCDView>(); }
     InCallLCDField field() const { return field_.get().as<InCallLCDField>(); }
 

@@ -44,12 +44,12 @@ Class DerivedProbe::registered() {
 
 objc::Owned<NSObject> newProbe() {
     Probe::registered();
-    return objc::Owned<NSObject>::adopt(NSObject(*objc::make<Probe>()));
+    return objc::make<Probe>().as<NSObject>();
 }
 
 objc::Owned<NSObject> newDerivedProbe() {
     DerivedProbe::registered();
-    return objc::Owned<NSObject>::adopt(NSObject(*objc::make<DerivedProbe>()));
+    return objc::make<DerivedProbe>().as<NSObject>();
 }
 
 }  // namespace test

@@ -1,12 +1,10 @@
 // Recent calls as the Phone application hands them around.
 #include "support/RecentCalls.hpp"
 
-#include "companion/classes/Property.hpp"
+#include "objc/class_builder.hpp"
 
 namespace test {
 namespace {
-
-using companion::getter;
 
 struct StubCall : objc::Instance {
     objc::Owned<NSString> _number;
@@ -21,39 +19,39 @@ struct StubCallBare : StubCall {};
 
 template <class T>
 objc::ClassBuilder<T> define(const char *name) {
-    return objc::ClassBuilder<T>(name, "NSObject").method("date"_sel, getter<&StubCall::_date>);
+    return objc::ClassBuilder<T>(name, "NSObject").template getter<&StubCall::_date>("date");
 }
 
 void registerClasses() {
     define<StubCallIos7>("StubCallIos7")
-        .method("destination"_sel, getter<&StubCall::_number>)
-        .method("type"_sel, getter<&StubCall::_status>)
-        .method("addressBookRecord"_sel, getter<&StubCall::_contact>)
+        .getter<&StubCall::_number>("destination")
+        .getter<&StubCall::_status>("type")
+        .getter<&StubCall::_contact>("addressBookRecord")
         .finish();
     define<StubCallAddressBookless>("StubCallAddressBookless")
-        .method("destination"_sel, getter<&StubCall::_number>)
-        .method("addressBookDestination"_sel, getter<&StubCall::_contact>)
+        .getter<&StubCall::_number>("destination")
+        .getter<&StubCall::_contact>("addressBookDestination")
         .finish();
     define<StubCallIos8>("StubCallIos8")
-        .method("callerId"_sel, getter<&StubCall::_number>)
-        .method("callStatus"_sel, getter<&StubCall::_status>)
-        .method("addressBookRecordId"_sel, getter<&StubCall::_contactId>)
+        .getter<&StubCall::_number>("callerId")
+        .getter<&StubCall::_status>("callStatus")
+        .getter<&StubCall::_contactId>("addressBookRecordId")
         .finish();
     define<StubCallBare>("StubCallBare").finish();
 }
 
-StubCall *makeCall(CallKind kind) {
+objc::Owned<StubCall *> makeCall(CallKind kind) {
     switch (kind) {
     case CallKind::Ios7:
-        return objc::make<StubCallIos7>();
+        return objc::make<StubCallIos7>().as<StubCall *>();
     case CallKind::AddressBookless:
-        return objc::make<StubCallAddressBookless>();
+        return objc::make<StubCallAddressBookless>().as<StubCall *>();
     case CallKind::Ios8:
-        return objc::make<StubCallIos8>();
+        return objc::make<StubCallIos8>().as<StubCall *>();
     case CallKind::Bare:
-        return objc::make<StubCallBare>();
+        return objc::make<StubCallBare>().as<StubCall *>();
     }
-    return nullptr;
+    return {};
 }
 
 }  // namespace
@@ -62,7 +60,7 @@ objc::Owned<NSObject> recentCall(CallKind kind, const RecentCallFacts &facts) {
     if (!objc::findClass("StubCallBare")) {
         registerClasses();
     }
-    StubCall *const call = makeCall(kind);
+    auto call = makeCall(kind);
     if (facts.number) {
         call->_number = objc::Owned<NSString>::adopt(
             objc::send<NSString()>(NSString::withUTF8String(facts.number), "mutableCopy"_sel));
@@ -76,7 +74,7 @@ objc::Owned<NSObject> recentCall(CallKind kind, const RecentCallFacts &facts) {
     }
     call->_status = facts.status;
     call->_contactId = facts.contact;
-    return objc::Owned<NSObject>::adopt(NSObject(*call));
+    return std::move(call).as<NSObject>();
 }
 
 recents::RecentCall asCall(const objc::Owned<NSObject> &call) {

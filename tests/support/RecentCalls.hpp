@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "recents/recent_call.hpp"
+#include "recents/RecentCall.hpp"
 
 namespace test {
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "hook/installation.hpp"
-#include "recents/ZQSystemCallHistoryViewHook.hpp"
+#include "recents/RowTexts.hpp"
 #include "recents/lookup.hpp"
 #include "recents/lookup_context.hpp"
 #include "support/StubCompanion.hpp"
@@ -19,8 +19,12 @@ class Recents : public testing::Test {
         hook::registerClasses();
     }
 
-    static ZQSystemCallHistoryViewHook &hook() {
-        return *ZQSystemCallHistoryViewHook::currentHook();
+    /// The hook object, as other code in the process knows it.
+    static NSObject hook() {
+        return objc::send<NSObject()>("ZQSystemCallHistoryViewHook"_cls, "currentHook"_sel);
+    }
+    static NSMutableDictionary cache() {
+        return objc::send<NSMutableDictionary()>(hook(), "numberInfoAndCallCacheDict"_sel);
     }
 
     objc::AutoreleasePool pool_;

@@ -20,7 +20,7 @@ void RecentsScreen::start(const char *version, const std::vector<phone::RecentCa
         objects.push_back(phone::PHRecentCall::create(facts));
     }
     window_ = phone::makeView<SimWindow>(rect(0, 0, 320, 568));
-    owner_ = objc::Owned<NSObject>::adopt(NSObject(*objc::make<phone::PHRecentsViewController>()));
+    owner_ = objc::make<phone::PHRecentsViewController>().as<NSObject>();
     sim::instance<SimWindow>(window_)->setRootViewController(&list());
     list().setCalls(sim::array(objects));
     layOut();

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "identity/numbers.hpp"
+#include "companion/numbers.hpp"
 #include "platform/UIKit.hpp"
 
 namespace test {

@@ -31,7 +31,7 @@ NSObject autoreleased(T *object) {
 /// The object that a shared-instance message answers.
 template <class T>
 NSObject onlyOne() {
-    static auto *const instance = objc::make<T>();
+    static auto *const instance = objc::make<T>().leak();
     return NSObject(*instance);
 }
 

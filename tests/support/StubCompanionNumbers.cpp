@@ -1,7 +1,6 @@
 // The stub companion's knowledge of numbers: parsing, identities and the queries for them.
 #include <algorithm>
 
-#include "companion/classes/Property.hpp"
 #include "support/StubCompanionClasses.hpp"
 
 extern "C" {
@@ -12,8 +11,6 @@ const id kZQBrandServiceBrandLogoPathKey = "stub.brandLogoPath"_ns;
 namespace test {
 namespace {
 
-using companion::getter;
-using companion::setter;
 using objc::function;
 using objc::member;
 
@@ -92,7 +89,7 @@ NSObject identityWith(const IdentityFacts &facts) {
     const auto text = [](const MaybeText &value) {
         return objc::Owned<NSString>::share(string(value));
     };
-    auto *const identity = objc::make<NumberIdentity>();
+    auto *const identity = objc::make<NumberIdentity>().autorelease();
     identity->_number = text(facts.number);
     identity->_identity = text(facts.label);
     identity->_source = text(facts.source);
@@ -103,7 +100,7 @@ NSObject identityWith(const IdentityFacts &facts) {
     if (facts.brandName || facts.brandLogoPath) {
         identity->_brandInfo = brandInfo(facts);
     }
-    return autoreleased(identity);
+    return NSObject(*identity);
 }
 
 NSObject identityOfRecord(NSObject record, bool ignoreDiagnose, bool onlyLocal, NSObject delegate,
@@ -147,7 +144,8 @@ IdentityFacts factsOf(ZQNumberIdentity identity) {
             .numOfMark = identity.numOfMark(),
             .rating = identity.rating(),
             .cloudDataType = identity.cloudDataType(),
-            .markText = maybe(objc::send<NSString()>(identity.attriNumInfo(), "string"_sel)),
+            .markText = maybe(objc::send<NSString()>(
+                objc::send<NSAttributedString()>(identity, "attriNumInfo"_sel), "string"_sel)),
             .brandName = brandText(kZQBrandServiceBrandNameKey),
             .brandLogoPath = brandText(kZQBrandServiceBrandLogoPathKey)};
 }
@@ -169,29 +167,19 @@ void registerNumberClasses() {
         .classMethod("trimLeading86:"_sel, function<&trimLeading86>)
         .finish();
     objc::ClassBuilder<CallRecord>("ZQCallRecord", "NSObject")
-        .method("phoneNumber"_sel, getter<&CallRecord::_phoneNumber>)
-        .method("setPhoneNumber:"_sel, setter<&CallRecord::_phoneNumber>)
+        .property<&CallRecord::_phoneNumber, objc::Keeping::Copied>("phoneNumber")
         .finish();
     using Identity = NumberIdentity;
     objc::ClassBuilder<Identity>("ZQNumberIdentity", "NSObject")
-        .method("number"_sel, getter<&Identity::_number>)
-        .method("setNumber:"_sel, setter<&Identity::_number>)
-        .method("identity"_sel, getter<&Identity::_identity>)
-        .method("setIdentity:"_sel, setter<&Identity::_identity>)
-        .method("source"_sel, getter<&Identity::_source>)
-        .method("setSource:"_sel, setter<&Identity::_source>)
-        .method("type"_sel, getter<&Identity::_type>)
-        .method("setType:"_sel, setter<&Identity::_type>)
-        .method("numOfMark"_sel, getter<&Identity::_numOfMark>)
-        .method("setNumOfMark:"_sel, setter<&Identity::_numOfMark>)
-        .method("rating"_sel, getter<&Identity::_rating>)
-        .method("setRating:"_sel, setter<&Identity::_rating>)
-        .method("cloudDataType"_sel, getter<&Identity::_cloudDataType>)
-        .method("setCloudDataType:"_sel, setter<&Identity::_cloudDataType>)
-        .method("attriNumInfo"_sel, getter<&Identity::_attriNumInfo>)
-        .method("setAttriNumInfo:"_sel, setter<&Identity::_attriNumInfo>)
-        .method("brandInfo"_sel, getter<&Identity::_brandInfo>)
-        .method("setBrandInfo:"_sel, setter<&Identity::_brandInfo>)
+        .property<&Identity::_number, objc::Keeping::Copied>("number")
+        .property<&Identity::_identity, objc::Keeping::Copied>("identity")
+        .property<&Identity::_source, objc::Keeping::Copied>("source")
+        .property<&Identity::_type>("type")
+        .property<&Identity::_numOfMark>("numOfMark")
+        .property<&Identity::_rating>("rating")
+        .property<&Identity::_cloudDataType>("cloudDataType")
+        .property<&Identity::_attriNumInfo>("attriNumInfo")
+        .property<&Identity::_brandInfo>("brandInfo")
         .finish();
     objc::ClassBuilder<Namespace<1>>("ZQNumberIdentityService", "NSObject")
         .classMethod(

@@ -1,12 +1,9 @@
 // The stub companion's partner businesses: those it knows, those it is given, and their logos.
-#include "companion/classes/Property.hpp"
 #include "support/StubCompanionClasses.hpp"
 
 namespace test {
 namespace {
 
-using companion::getter;
-using companion::setter;
 using objc::function;
 using objc::member;
 
@@ -20,13 +17,13 @@ class PartnerItem : public objc::Instance {
         const auto text = [](const MaybeText &value) {
             return objc::Owned<NSString>::share(string(value));
         };
-        auto *const item = objc::make<PartnerItem>();
+        auto *const item = objc::make<PartnerItem>().autorelease();
         item->_id = facts.id;
         item->_name = text(facts.name);
         item->_icon = text(facts.icon);
         item->_source = text(facts.source);
         item->_path = text(facts.iconImagePath);
-        return autoreleased(item);
+        return NSObject(*item);
     }
 
     PartnerFacts facts() const {
@@ -67,17 +64,12 @@ class PartnerManager : public objc::Instance {
 
 void registerPartnerClasses() {
     objc::ClassBuilder<PartnerItem>("ZQPartnerItem", "NSObject")
-        .method("Id"_sel, getter<&PartnerItem::_id>)
-        .method("setId:"_sel, setter<&PartnerItem::_id>)
-        .method("name"_sel, getter<&PartnerItem::_name>)
-        .method("setName:"_sel, setter<&PartnerItem::_name>)
-        .method("icon"_sel, getter<&PartnerItem::_icon>)
-        .method("setIcon:"_sel, setter<&PartnerItem::_icon>)
-        .method("source"_sel, getter<&PartnerItem::_source>)
-        .method("setSource:"_sel, setter<&PartnerItem::_source>)
-        .method("ads"_sel, getter<&PartnerItem::_ads>)
-        .method("setAds:"_sel, setter<&PartnerItem::_ads>)
-        .method("getIconImagePath"_sel, getter<&PartnerItem::_path>)
+        .property<&PartnerItem::_id>("Id")
+        .property<&PartnerItem::_name, objc::Keeping::Copied>("name")
+        .property<&PartnerItem::_icon, objc::Keeping::Copied>("icon")
+        .property<&PartnerItem::_source, objc::Keeping::Copied>("source")
+        .property<&PartnerItem::_ads>("ads")
+        .getter<&PartnerItem::_path>("getIconImagePath")
         .finish();
     objc::ClassBuilder<PartnerManager>("ZQPartnerManager", "NSObject")
         .method("getPartnerItemById:"_sel, member<&PartnerManager::partnerItem>)

@@ -1,14 +1,11 @@
 // The stub companion's services: contacts, stores, preferences, statistics and messages.
 #include <algorithm>
 
-#include "companion/classes/Property.hpp"
 #include "support/StubCompanionClasses.hpp"
 
 namespace test {
 namespace {
 
-using companion::getter;
-using companion::setter;
 using objc::function;
 using objc::member;
 
@@ -91,9 +88,9 @@ class HistoryService : public objc::Instance {
         }
         const auto records = objc::send<NSArray()>("NSMutableArray"_cls, "array"_sel);
         for (const int action : known->second) {
-            auto *const record = objc::make<HistoryRecord>();
+            const auto record = objc::make<HistoryRecord>();
             record->_actionType = action;
-            objc::send<void(NSObject)>(records, "addObject:"_sel, autoreleased(record));
+            objc::send<void(NSObject)>(records, "addObject:"_sel, NSObject(*record));
         }
         return records;
     }
@@ -124,10 +121,10 @@ class WeiboService : public objc::Instance {
         const auto found = stub().profiles.find(digitsOf(number));
         if (asked("getWeiboInfoWithNumber:outProfile:outContent:") &&
             found != stub().profiles.end()) {
-            auto *const made = objc::make<WeiboProfile>();
+            auto *const made = objc::make<WeiboProfile>().autorelease();
             made->_avatarType = found->second.avatarType;
             made->_boundType = found->second.boundType;
-            *profile = autoreleased(made);
+            *profile = *made;
         }
     }
 };
@@ -171,7 +168,7 @@ void registerServiceClasses() {
         .method("getRecordForNumber:atSysDate:"_sel, member<&CallRecordService::record>)
         .finish();
     objc::ClassBuilder<HistoryRecord>("ZQSystemHistoryRecord", "NSObject")
-        .method("actionType"_sel, getter<&HistoryRecord::_actionType>)
+        .getter<&HistoryRecord::_actionType>("actionType")
         .finish();
     objc::ClassBuilder<HistoryService>("ZQSystemHistoryService", "NSObject")
         .method("getAllCallHistoryByPhoneNumber:fromRecentCalls:"_sel,
@@ -183,8 +180,8 @@ void registerServiceClasses() {
         .classMethod("currentService"_sel, function<&onlyOneIfAny<PingBackService>>)
         .finish();
     objc::ClassBuilder<WeiboProfile>("ZQWeiboProfile", "NSObject")
-        .method("avatarType"_sel, getter<&WeiboProfile::_avatarType>)
-        .method("boundType"_sel, getter<&WeiboProfile::_boundType>)
+        .getter<&WeiboProfile::_avatarType>("avatarType")
+        .getter<&WeiboProfile::_boundType>("boundType")
         .finish();
     objc::ClassBuilder<WeiboService>("ZQWeiboService", "NSObject")
         .method("getWeiboInfoWithNumber:outProfile:outContent:"_sel, member<&WeiboService::info>)

@@ -115,8 +115,7 @@ TEST_F(Views, AreOwnedByTheirSuperviewAlone) {
         EXPECT_EQ(send<NSUInteger()>(asId(middle), "retainCount"_sel), 3U) << "pool, root, array";
     }
     EXPECT_EQ(CountingView::alive, 0);
-    const UIView orphan =
-        objc::Owned<UIView>::adopt(sim::handle<UIView>(objc::make<CountingView>())).autorelease();
+    const UIView orphan = objc::make<CountingView>().as<UIView>().autorelease();
     {
         const objc::AutoreleasePool inner;
         view<SimView>("UIView"_cls, {})->addSubview(sim::instance<SimView>(orphan));

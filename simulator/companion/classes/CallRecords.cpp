@@ -2,17 +2,15 @@
 #include "companion/classes/CallRecords.hpp"
 
 #include "companion/classes/Conversions.hpp"
-#include "companion/classes/Property.hpp"
+#include "objc/class_builder.hpp"
 
 namespace companion {
 
 Class ZQCallRecord::define() {
     using Self = ZQCallRecord;
     return objc::ClassBuilder<Self>("ZQCallRecord", "NSObject")
-        .method("phoneNumber"_sel, getter<&Self::_phoneNumber>)
-        .method("setPhoneNumber:"_sel, setter<&Self::_phoneNumber>)
-        .method("date"_sel, getter<&Self::_date>)
-        .method("setDate:"_sel, setter<&Self::_date>)
+        .property<&Self::_phoneNumber, objc::Keeping::Copied>("phoneNumber")
+        .property<&Self::_date>("date")
         .finish();
 }
 
@@ -26,9 +24,9 @@ ZQCallRecord *ZQCallRecord::withRecord(const StoredCall &call) {
 Class ZQSystemHistoryRecord::define() {
     using Self = ZQSystemHistoryRecord;
     return objc::ClassBuilder<Self>("ZQSystemHistoryRecord", "NSObject")
-        .method("phoneNumber"_sel, getter<&Self::_phoneNumber>)
-        .method("date"_sel, getter<&Self::_date>)
-        .method("actionType"_sel, getter<&Self::_actionType>)
+        .getter<&Self::_phoneNumber>("phoneNumber")
+        .getter<&Self::_date>("date")
+        .getter<&Self::_actionType>("actionType")
         .finish();
 }
 

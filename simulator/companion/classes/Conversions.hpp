@@ -32,9 +32,7 @@ std::string jsonFromObject(NSObject object, std::string_view fallback);
 /// An autoreleased instance of a C++ class of ours.
 template <class T>
 T *autoreleased() {
-    T *const made = objc::make<T>();
-    objc::send<id()>(*made, "autorelease"_sel);
-    return made;
+    return objc::make<T>().autorelease();
 }
 
 /// A nullable pointer to one of our objects, as a handle.

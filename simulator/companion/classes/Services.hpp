@@ -39,7 +39,7 @@ class ZQPreference : public objc::Instance {
 /// The one object of a service, made on first use and never released.
 template <class Service>
 Service *shared() {
-    static auto *const instance = objc::make<Service>();
+    static auto *const instance = objc::make<Service>().leak();
     return instance;
 }
 

@@ -5,7 +5,7 @@
 
 #include "companion/Companion.hpp"
 #include "companion/classes/Conversions.hpp"
-#include "companion/classes/Property.hpp"
+#include "objc/class_builder.hpp"
 
 namespace companion {
 
@@ -29,24 +29,15 @@ NSDictionary brandInfoOf(const Identity &record) {
 Class ZQNumberIdentity::define() {
     using Self = ZQNumberIdentity;
     return objc::ClassBuilder<Self>("ZQNumberIdentity", "NSObject")
-        .method("number"_sel, getter<&Self::_number>)
-        .method("setNumber:"_sel, setter<&Self::_number>)
-        .method("identity"_sel, getter<&Self::_identity>)
-        .method("setIdentity:"_sel, setter<&Self::_identity>)
-        .method("type"_sel, getter<&Self::_type>)
-        .method("setType:"_sel, setter<&Self::_type>)
-        .method("source"_sel, getter<&Self::_source>)
-        .method("setSource:"_sel, setter<&Self::_source>)
-        .method("numOfMark"_sel, getter<&Self::_numOfMark>)
-        .method("setNumOfMark:"_sel, setter<&Self::_numOfMark>)
-        .method("attriNumInfo"_sel, getter<&Self::_attriNumInfo>)
-        .method("setAttriNumInfo:"_sel, setter<&Self::_attriNumInfo>)
-        .method("rating"_sel, getter<&Self::_rating>)
-        .method("setRating:"_sel, setter<&Self::_rating>)
-        .method("cloudDataType"_sel, getter<&Self::_cloudDataType>)
-        .method("setCloudDataType:"_sel, setter<&Self::_cloudDataType>)
-        .method("brandInfo"_sel, getter<&Self::_brandInfo>)
-        .method("setBrandInfo:"_sel, setter<&Self::_brandInfo>)
+        .property<&Self::_number, objc::Keeping::Copied>("number")
+        .property<&Self::_identity, objc::Keeping::Copied>("identity")
+        .property<&Self::_type>("type")
+        .property<&Self::_source, objc::Keeping::Copied>("source")
+        .property<&Self::_numOfMark>("numOfMark")
+        .property<&Self::_attriNumInfo>("attriNumInfo")
+        .property<&Self::_rating>("rating")
+        .property<&Self::_cloudDataType>("cloudDataType")
+        .property<&Self::_brandInfo>("brandInfo")
         .finish();
 }
 

@@ -3,23 +3,18 @@
 
 #include "companion/Companion.hpp"
 #include "companion/classes/Conversions.hpp"
-#include "companion/classes/Property.hpp"
+#include "objc/class_builder.hpp"
 
 namespace companion {
 
 Class ZQPartnerItem::define() {
     using Self = ZQPartnerItem;
     return objc::ClassBuilder<Self>("ZQPartnerItem", "NSObject")
-        .method("Id"_sel, getter<&Self::_id>)
-        .method("setId:"_sel, setter<&Self::_id>)
-        .method("name"_sel, getter<&Self::_name>)
-        .method("setName:"_sel, setter<&Self::_name>)
-        .method("icon"_sel, getter<&Self::_icon>)
-        .method("setIcon:"_sel, setter<&Self::_icon>)
-        .method("source"_sel, getter<&Self::_source>)
-        .method("setSource:"_sel, setter<&Self::_source>)
-        .method("ads"_sel, getter<&Self::_ads>)
-        .method("setAds:"_sel, setter<&Self::_ads>)
+        .property<&Self::_id>("Id")
+        .property<&Self::_name, objc::Keeping::Copied>("name")
+        .property<&Self::_icon, objc::Keeping::Copied>("icon")
+        .property<&Self::_source, objc::Keeping::Copied>("source")
+        .property<&Self::_ads>("ads")
         .method("getIconImagePath"_sel, objc::member<&Self::iconImagePath>)
         .finish();
 }

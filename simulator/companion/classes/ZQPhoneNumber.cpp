@@ -2,9 +2,9 @@
 #include "companion/classes/ZQPhoneNumber.hpp"
 
 #include "companion/classes/Conversions.hpp"
-#include "companion/classes/Property.hpp"
 #include "companion/numbers/NumberText.hpp"
 #include "companion/numbers/Numbers.hpp"
+#include "objc/class_builder.hpp"
 
 namespace companion {
 
@@ -33,10 +33,10 @@ Class ZQPhoneNumber::define() {
     return objc::ClassBuilder<Self>("ZQPhoneNumber", "NSObject")
         .method("initWithOriginNumber:"_sel, objc::member<&Self::initWithOriginNumber>)
         .method("parse"_sel, objc::member<&Self::parse>)
-        .method("originNumber"_sel, getter<&Self::_originNumber>)
-        .method("pureNumber"_sel, getter<&Self::_pureNumber>)
-        .method("areaName"_sel, getter<&Self::_areaName>)
-        .method("type"_sel, getter<&Self::_type>)
+        .getter<&Self::_originNumber>("originNumber")
+        .getter<&Self::_pureNumber>("pureNumber")
+        .getter<&Self::_areaName>("areaName")
+        .getter<&Self::_type>("type")
         .classMethod("descriptionOfNumber:"_sel, objc::function<&descriptionOfNumber>)
         .classMethod("areaNameOfNumber:"_sel, objc::function<&areaNameOfNumber>)
         .classMethod("getMobileNumberFromNumber:"_sel, objc::function<&mobileNumberFrom>)
@@ -46,7 +46,7 @@ Class ZQPhoneNumber::define() {
 
 id ZQPhoneNumber::initWithOriginNumber(NSString text) {
     const id self = objc::sendSuper<ZQPhoneNumber, id()>(this, "init"_sel);
-    Property<&ZQPhoneNumber::_originNumber>::set(this, text);
+    _originNumber = text.copy();
     return self;
 }
 

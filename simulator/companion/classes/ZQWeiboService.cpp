@@ -4,15 +4,15 @@
 #include "companion/Companion.hpp"
 #include "companion/classes/Conversions.hpp"
 #include "companion/classes/Pictures.hpp"
-#include "companion/classes/Property.hpp"
+#include "objc/class_builder.hpp"
 
 namespace companion {
 
 Class ZQWeiboProfile::define() {
     return objc::ClassBuilder<ZQWeiboProfile>("ZQWeiboProfile", "NSObject")
-        .method("name"_sel, getter<&ZQWeiboProfile::_name>)
-        .method("avatarType"_sel, getter<&ZQWeiboProfile::_avatarType>)
-        .method("boundType"_sel, getter<&ZQWeiboProfile::_boundType>)
+        .getter<&ZQWeiboProfile::_name>("name")
+        .getter<&ZQWeiboProfile::_avatarType>("avatarType")
+        .getter<&ZQWeiboProfile::_boundType>("boundType")
         .finish();
 }
 

@@ -17,11 +17,6 @@ class PhoneNumberValue : public objc::Instance {
     objc::Owned<NSString> formatted_;
 };
 
-template <class T>
-objc::Owned<NSObject> owned(T *made) {
-    return objc::Owned<NSObject>::adopt(NSObject(*made));
-}
-
 }  // namespace
 
 void ABContactNumber::define() {
@@ -38,12 +33,12 @@ void ABContactNumber::define() {
 }
 
 objc::Owned<NSObject> ABContactNumber::make(NSString label, NSString formatted) {
-    auto *const value = objc::make<PhoneNumberValue>();
+    auto value = objc::make<PhoneNumberValue>();
     value->setFormatted(formatted);
-    auto *const number = objc::make<ABContactNumber>();
+    auto number = objc::make<ABContactNumber>();
     number->label_ = sim::copied(label);
-    number->value_ = owned(value);
-    return owned(number);
+    number->value_ = std::move(value).as<NSObject>();
+    return std::move(number).as<NSObject>();
 }
 
 void ABContact::define() {
@@ -58,12 +53,12 @@ void ABContact::define() {
 }
 
 objc::Owned<NSObject> ABContact::make(const Facts &facts) {
-    auto *const contact = objc::make<ABContact>();
+    auto contact = objc::make<ABContact>();
     contact->recordId_ = facts.recordId;
     contact->name_ = sim::copied(facts.name);
     contact->tagline_ = sim::copied(facts.tagline);
     contact->phoneNumbers_ = objc::Owned<NSArray>::share(facts.phoneNumbers);
-    return owned(contact);
+    return std::move(contact).as<NSObject>();
 }
 
 }  // namespace phone

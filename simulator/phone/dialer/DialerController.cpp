@@ -109,7 +109,7 @@ void DialerController::showNumber() {
 }
 
 void DialerController::dialerLCDViewDidTapAddToContacts(NSObject) {
-    newPerson_ = objc::Owned<NSObject>::adopt(NSObject(*objc::make<ABNewPersonViewController>()));
+    newPerson_ = objc::make<ABNewPersonViewController>().as<NSObject>();
     newPersonController()->open(NSObject(*this), typedNumber());
     asView(*dialerView()).addSubview(newPersonView());
 }

@@ -24,12 +24,11 @@ void CallClock::define() {
 
 void CallClock::start(std::function<void()> onTick) {
     stop();
-    auto *const tick = objc::make<CallTick>();
+    const auto tick = objc::make<CallTick>();
     tick->onTick_ = std::move(onTick);
-    const auto target = objc::Owned<NSObject>::adopt(NSObject(*tick));
-    timer_ = objc::Owned<NSObject>::share(objc::send<NSObject(double, NSObject, SEL, id, bool)>(
+    timer_ = objc::Owned<NSObject>::share(objc::send<NSObject(double, CallTick *, SEL, id, bool)>(
         "NSTimer"_cls, "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:"_sel,
-        companion::pace(), target.get(), "fire:"_sel, nullptr, true));
+        companion::pace(), tick.get(), "fire:"_sel, nullptr, true));
 }
 
 void CallClock::stop() {

@@ -31,9 +31,9 @@ void InCallController::define() {
 }
 
 objc::Owned<NSObject> InCallController::create(Display display) {
-    auto *const controller = objc::make<InCallController>();
+    auto controller = objc::make<InCallController>();
     controller->display_ = display;
-    return objc::Owned<NSObject>::adopt(NSObject(*controller));
+    return std::move(controller).as<NSObject>();
 }
 
 id InCallController::init() {

@@ -16,8 +16,8 @@ class CallFrom8 : public PHRecentCall {};
 enum Status : int32_t { Answered = 1, Dialled = 2, Missed = 8 };
 
 template <class T>
-PHRecentCall *make() {
-    return objc::make<T>();
+objc::Owned<PHRecentCall *> make() {
+    return objc::make<T>().template as<PHRecentCall *>();
 }
 
 }  // namespace
@@ -48,10 +48,9 @@ objc::Owned<NSObject> PHRecentCall::create(const RecentCallFacts &facts) {
     if (!facts.name.empty() && !facts.number.empty() && book.owner(facts.number) == nullptr) {
         book.add({facts.name, {{facts.number, facts.label}}});
     }
-    PHRecentCall *const call =
-        sim::Device::current().isAtLeast(8, 0) ? make<CallFrom8>() : make<CallBefore8>();
+    auto call = sim::Device::current().isAtLeast(8, 0) ? make<CallFrom8>() : make<CallBefore8>();
     call->facts_ = facts;
-    return objc::Owned<NSObject>::adopt(NSObject(*call));
+    return std::move(call).as<NSObject>();
 }
 
 NSDate PHRecentCall::date() const {

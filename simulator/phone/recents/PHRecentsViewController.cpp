@@ -209,7 +209,7 @@ void PHRecentsViewController::tell(NSObject controller, auto selector) {
 NSObject PHRecentsViewController::showCallDetail(NSObject call, bool) {
     closeSwipe();
     back();
-    detail_ = objc::Owned<NSObject>::adopt(NSObject(*objc::make<ABContactViewController>()));
+    detail_ = objc::make<ABContactViewController>().as<NSObject>();
     const auto &recent = *sim::instance<PHRecentCall>(call);
     detail()->show(contactOf(recent), PHCallInfoView::make(recent));
     detail()->setBackButton({"最近通话"_ns, NSObject(*this), "backPressed:"_sel});

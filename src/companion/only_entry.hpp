@@ -4,7 +4,7 @@
 
 #include "platform/Foundation.hpp"
 
-namespace identity {
+namespace companion {
 
 template <class Container>
 void makeRoom(Container container) {
@@ -27,4 +27,4 @@ inline void keepOnly(NSMutableSet container, NSString entry) {
     container.addObject(entry);
 }
 
-}  // namespace identity
+}  // namespace companion

@@ -1,7 +1,7 @@
 // The companion library's services: contacts, stores, partners, preferences and messages.
 #pragma once
 
-#include "identity/numbers.hpp"
+#include "companion/numbers.hpp"
 #include "platform/UIKit.hpp"
 
 class ZQContactService : public NSObject {
@@ -40,9 +40,10 @@ class ZQSystemHistoryService : public NSObject {
         return objc::send<ZQSystemHistoryService()>("ZQSystemHistoryService"_cls,
                                                     "defaultService"_sel);
     }
-    /// At most `count` ZQHistoryRecords.
-    NSArray getAllCallHistoryByPhoneNumber(NSString number, NSInteger count) const {
-        return send<NSArray(NSString, NSInteger)>(
+    /// At most `count` records.
+    ArrayOf<ZQHistoryRecord> getAllCallHistoryByPhoneNumber(NSString number,
+                                                            NSInteger count) const {
+        return send<ArrayOf<ZQHistoryRecord>(NSString, NSInteger)>(
             "getAllCallHistoryByPhoneNumber:fromRecentCalls:"_sel, number, count);
     }
 };

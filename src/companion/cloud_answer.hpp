@@ -2,9 +2,9 @@
 // not of the expected type counts as nothing, and no value raises.
 #pragma once
 
-#include "identity/numbers.hpp"
+#include "companion/numbers.hpp"
 
-namespace identity {
+namespace companion {
 
 /// What an answer says, as the companion's objects; both go to the innermost pool.
 struct CloudAnswer {
@@ -19,4 +19,4 @@ bool isHit(NSDictionary answer);
 
 CloudAnswer readCloudAnswer(NSString number, NSDictionary answer);
 
-}  // namespace identity
+}  // namespace companion

@@ -1,10 +1,10 @@
 // Reading the cloud's answer about one number.
-#include "identity/cloud_answer.hpp"
+#include "companion/cloud_answer.hpp"
 
-#include "identity/utilities.hpp"
+#include "companion/utilities.hpp"
 #include "platform/format.hpp"
 
-namespace identity {
+namespace companion {
 namespace {
 
 // The answer's "type"
@@ -32,7 +32,7 @@ ZQPartnerItem readPartner(ZQNumberIdentity identity, NSDictionary partner) {
     return item;
 }
 
-/// Answers the partner item, if there is one.
+/// Returns the partner item, if there is one.
 ZQPartnerItem readBusiness(ZQNumberIdentity identity, NSDictionary partner) {
     const NSString brandType = text(partner, "brand_type"_ns);
     if (brandType.isEqualToString("other"_ns)) {
@@ -85,4 +85,4 @@ CloudAnswer readCloudAnswer(NSString number, NSDictionary answer) {
     return read;
 }
 
-}  // namespace identity
+}  // namespace companion

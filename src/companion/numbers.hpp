@@ -6,7 +6,7 @@
 
 #include "platform/Foundation.hpp"
 
-/// What ZQNumberIdentity::type says. The companion may answer other values too.
+/// What ZQNumberIdentity::type says. The companion may return other values too.
 enum class IdentityKind : int32_t {
     Region = 1,
     RegionAndLabel = 2,
@@ -20,6 +20,9 @@ enum class IdentityKind : int32_t {
     Uncounted = 11,
     OtherCloudData = 12,
 };
+
+/// Whom the companion is asked for: it tells its callers apart by this number.
+enum class DisplayType : int32_t { Call = 2, Dialer = 3 };
 
 /// The record of one number.
 class ZQNumberIdentity : public NSObject {
@@ -40,9 +43,6 @@ class ZQNumberIdentity : public NSObject {
     /// How many users marked the number, or a partner's id from 5001 on.
     int32_t numOfMark() const { return send<int32_t()>("numOfMark"_sel); }
     void setNumOfMark(int32_t value) const { send<void(int32_t)>("setNumOfMark:"_sel, value); }
-    NSAttributedString attriNumInfo() const {
-        return send<NSAttributedString()>("attriNumInfo"_sel);
-    }
     void setAttriNumInfo(NSAttributedString value) const {
         send<void(NSAttributedString)>("setAttriNumInfo:"_sel, value);
     }
@@ -104,21 +104,21 @@ class ZQNumberIdentityService : public NSObject {
         // Local data alone; otherwise a cloud query starts, whose answer the delegate gets later.
         bool onlyLocal;
         id delegate;
-        int32_t displayType;
+        DisplayType displayType;
     };
 
     static ZQNumberIdentity getIdentityOfRecord(ZQCallRecord record, Query query) {
         constexpr double kRetryPeriod = 0;  // seconds; nobody asks for a retry
-        return objc::send<ZQNumberIdentity(ZQCallRecord, bool, bool, id, double, int32_t)>(
+        return objc::send<ZQNumberIdentity(ZQCallRecord, bool, bool, id, double, DisplayType)>(
             classObject(),
             "getIdentityOfRecord:ignoreDiagnose:onlyLocal:delegate:retryPeriod:displayType:"_sel,
             record, query.ignoreDiagnose, query.onlyLocal, query.delegate, kRetryPeriod,
             query.displayType);
     }
     /// The one-line description of a recents row; `callDirection` is 0 for an incoming call.
-    static NSString getFormattedInfo(ZQNumberIdentity identity, int32_t displayType,
+    static NSString getFormattedInfo(ZQNumberIdentity identity, DisplayType displayType,
                                      NSInteger callDirection, NSString originalInfo) {
-        return objc::send<NSString(ZQNumberIdentity, int32_t, NSInteger, NSString)>(
+        return objc::send<NSString(ZQNumberIdentity, DisplayType, NSInteger, NSString)>(
             classObject(),
             "getFormattedInfoFromNumIdentity:displayType:callDirection:originalInfo:"_sel, identity,
             displayType, callDirection, originalInfo);
@@ -135,6 +135,11 @@ class ZQPhoneNumber : public NSObject {
         auto number = objc::create<ZQPhoneNumber(NSString)>("initWithOriginNumber:"_sel, text);
         number->parse();
         return number;
+    }
+
+    /// The digits of such a text: what every look-up goes by.
+    static objc::Owned<NSString> pureNumberOf(NSString text) {
+        return objc::Owned<NSString>::share(parsed(text)->pureNumber());
     }
 
     void parse() const { send<void()>("parse"_sel); }

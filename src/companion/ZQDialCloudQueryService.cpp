@@ -1,16 +1,13 @@
 // The in-call screen's cache of identities and driver of cloud queries.
-#include "identity/ZQDialCloudQueryService.hpp"
+#include "companion/ZQDialCloudQueryService.hpp"
 
-#include "identity/cloud_answer.hpp"
-#include "identity/only_entry.hpp"
+#include "companion/cloud_answer.hpp"
+#include "companion/only_entry.hpp"
 #include "objc/silently.hpp"
 
-using identity::keepOnly;
+using companion::keepOnly;
 
 namespace {
-
-// The companion tells its callers apart by this number.
-constexpr int32_t kDisplayType = 2;
 
 NSString selfPostedKey() { return "kDialCloudQuerySelfPosted"_ns; }
 
@@ -34,8 +31,7 @@ objc::ClassBuilder<ZQDialCloudQueryService> ZQDialCloudQueryService::define() {
         .ivar<&Self::_currentCloudQueryingNumber>("_currentCloudQueryingNumber")
         .classMethod("currentService"_sel, objc::function<&Self::currentService>)
         .method("init"_sel, member<&Self::init>)
-        .method("currentCloudQueryingNumber"_sel, member<&Self::currentCloudQueryingNumber>)
-        .method("setCurrentCloudQueryingNumber:"_sel, member<&Self::setCurrentCloudQueryingNumber>)
+        .property<&Self::_currentCloudQueryingNumber>("currentCloudQueryingNumber")
         .method("getNumberIdentityForNumber:isOutgoing:"_sel, member<&Self::getNumberIdentity>)
         .method("forcelyResetData"_sel, member<&Self::forcelyResetData>)
         .method("handleReloadAllNumbers:"_sel, member<&Self::handleReloadAllNumbers>)
@@ -45,8 +41,8 @@ objc::ClassBuilder<ZQDialCloudQueryService> ZQDialCloudQueryService::define() {
 }
 
 ZQDialCloudQueryService *ZQDialCloudQueryService::currentService() {
-    static auto *const g_service = objc::make<ZQDialCloudQueryService>();
-    return g_service;
+    objc::Shared<ZQDialCloudQueryService>::create();
+    return objc::Shared<ZQDialCloudQueryService>::get();
 }
 
 NSObject ZQDialCloudQueryService::init() {
@@ -69,10 +65,6 @@ ZQDialCloudQueryService::~ZQDialCloudQueryService() {
     objc::silently([&] { ZQIPCService::removeObserver(*this, reloadAllNumbersMessage()); });
 }
 
-void ZQDialCloudQueryService::setCurrentCloudQueryingNumber(NSString number) {
-    _currentCloudQueryingNumber = objc::Owned<NSString>::share(number);
-}
-
 ZQNumberIdentity ZQDialCloudQueryService::getNumberIdentity(NSString number, bool isOutgoing) {
     if (!number) {
         return nullptr;
@@ -91,20 +83,24 @@ ZQNumberIdentity ZQDialCloudQueryService::getNumberIdentity(NSString number, boo
 ZQNumberIdentity ZQDialCloudQueryService::lookUp(NSString number, bool startsQuery) {
     if (startsQuery) {
         _isCloudQuerying = true;
-        setCurrentCloudQueryingNumber(number);
+        _currentCloudQueryingNumber = objc::Owned<NSString>::share(number);
     }
+    const ZQNumberIdentityService::Query query{.ignoreDiagnose = true,
+                                               .onlyLocal = !startsQuery,
+                                               .delegate = *this,
+                                               .displayType = DisplayType::Call};
+    const uint32_t asked = _generation;
     ZQNumberIdentity found;
-    const bool answered = objc::silently([&] {
+    const bool hasResult = objc::silently([&] {
         const ZQCallRecord record = objc::create<ZQCallRecord>().autorelease();
         record.setPhoneNumber(number);
-        found = ZQNumberIdentityService::getIdentityOfRecord(record, {.ignoreDiagnose = true,
-                                                                      .onlyLocal = !startsQuery,
-                                                                      .delegate = *this,
-                                                                      .displayType = kDisplayType});
+        found = ZQNumberIdentityService::getIdentityOfRecord(record, query);
     });
-    if (!answered) {
+    if (!hasResult) {
         // Nothing was said of the number, and no answer need come.
         _isCloudQuerying = _isCloudQuerying && !startsQuery;
+    } else if (asked != _generation) {
+        // What was found is older than the news that came meanwhile: the next one asks again.
     } else if (found) {
         keepOnly(_curNumberInfoCache, found, number);
     } else {
@@ -114,6 +110,7 @@ ZQNumberIdentity ZQDialCloudQueryService::lookUp(NSString number, bool startsQue
 }
 
 void ZQDialCloudQueryService::forcelyResetData() {
+    ++_generation;
     _curNumberInfoCache->removeAllObjects();
     _noInfoNumberSet->removeAllObjects();
 }
@@ -135,12 +132,12 @@ void ZQDialCloudQueryService::didGetMarkInfoFromCloud(NSObject /*service*/, NSDi
 
 void ZQDialCloudQueryService::takeAnswer(NSDictionary answer) {
     const auto number = _currentCloudQueryingNumber->copy();
-    if (!identity::isHit(answer)) {
+    if (!companion::isHit(answer)) {
         rememberNoHit(number);
         return;
     }
     ZQPingBackService::currentService().asyncDoPingBackCount("cmkCall_C"_ns, false);
-    const identity::CloudAnswer read = identity::readCloudAnswer(number, answer);
+    const companion::CloudAnswer read = companion::readCloudAnswer(number, answer);
     if (!read.identity) {
         return;
     }

@@ -3,9 +3,9 @@
 
 #include <gmock/gmock.h>
 
+#include "companion/ZQDialCloudQueryService.hpp"
+#include "companion/cloud_answer.hpp"
 #include "hook/installation.hpp"
-#include "identity/ZQDialCloudQueryService.hpp"
-#include "identity/cloud_answer.hpp"
 #include "objc/ivar.hpp"
 #include "support/StubCompanion.hpp"
 
@@ -27,7 +27,7 @@ class CloudQuery : public testing::Test {
         stub.identities = {{"100", {.label = "快递"}},
                            {"200", {.label = "我的", .type = IdentityKind::OwnMark}}};
         hook::registerClasses();
-        service = objc::Owned<NSObject>::adopt(NSObject(*objc::make<ZQDialCloudQueryService>()));
+        service = objc::make<ZQDialCloudQueryService>().as<NSObject>();
     }
 
     // Sent as the in-call screen does.
@@ -201,7 +201,7 @@ TEST_F(CloudQuery, IsOneInstancesWork) {
 
 TEST_F(CloudQuery, StoresCachesAndAnnouncesItsAnswer) {
     const auto expected = stored({.source = "", .numOfMark = 37, .markText = "标签 x 37"});
-    EXPECT_EQ(identity::readCloudAnswer("300"_ns, json(kMarked)).identity.type(),
+    EXPECT_EQ(companion::readCloudAnswer("300"_ns, json(kMarked)).identity.type(),
               IdentityKind::FreshCloudAnswer);
     answer(kMarked);
     EXPECT_THAT(stub.pingBacks, ElementsAre(test::PingBack{"cmkCall_C", false}));

@@ -3,7 +3,7 @@
 // arrives on the main thread.
 #pragma once
 
-#include "identity/companion.hpp"
+#include "companion/companion.hpp"
 #include "objc/class_builder.hpp"
 
 class ZQDialCloudQueryService : public objc::Instance {
@@ -11,19 +11,16 @@ class ZQDialCloudQueryService : public objc::Instance {
     static objc::ClassBuilder<ZQDialCloudQueryService> define();
 
     /// The shared instance, made at the first call and never released; null where the class could
-    /// not be defined.
+    /// not be defined, and while the instance is being made.
     static ZQDialCloudQueryService *currentService();
 
     NSObject init();
     ~ZQDialCloudQueryService();
 
-    /// The number of the cloud query under way, or of the last one.
-    NSString currentCloudQueryingNumber() const { return _currentCloudQueryingNumber; }
-    void setCurrentCloudQueryingNumber(NSString number);
-
     /// The record of a pure number, or nil: for a nil number, and when nothing is known yet. An
     /// outgoing call's number starts a cloud query, unless one is under way. The record belongs to
-    /// the cache: it lives until another number's takes its place or the cache is emptied.
+    /// the cache: it lives until another number's takes its place or the cache is emptied. What is
+    /// found while the cache is emptied is returned, but not kept.
     ZQNumberIdentity getNumberIdentity(NSString number, bool isOutgoing);
     /// Forgets everything that was looked up: a new call starts with fresh information.
     void forcelyResetData();
@@ -43,5 +40,8 @@ class ZQDialCloudQueryService : public objc::Instance {
     bool _isCloudQuerying = false;
     objc::Owned<NSMutableDictionary> _curNumberInfoCache;
     objc::Owned<NSMutableSet> _noInfoNumberSet;
+    // The number of the cloud query under way, or of the last one.
     objc::Owned<NSString> _currentCloudQueryingNumber;
+    // How often everything was forgotten.
+    uint32_t _generation = 0;
 };

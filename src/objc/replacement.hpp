@@ -1,5 +1,5 @@
-// The slot that keeps the implementation a replacement took the place of. Slot and replacement
-// share one function type, so a pair that disagrees does not compile.
+// What a replacement took the place of. The slot follows from the replacement itself, so the two
+// cannot disagree: objc::saved<&replace_X>(self, selector) calls what X was before.
 #pragma once
 
 #include "objc/send.hpp"
@@ -12,10 +12,12 @@ class Saved;
 template <class R, class Receiver, class... Args>
 class Saved<R(Receiver, SEL, Args...)> {
   public:
+    static constexpr auto arity = sizeof...(Args);
+
     /// Where the hooking framework writes the previous implementation.
     IMP *slot() { return &implementation_; }
 
-    /// Calls the previous implementation; a slot that was never filled answers zero.
+    /// Calls the previous implementation; a slot that was never filled returns zero.
     R operator()(Receiver self, SEL selector, Args... args) const {
         return implementation_ ? Message<R(Args...)>::call(implementation_, self, selector, args...)
                                : R();
@@ -24,5 +26,9 @@ class Saved<R(Receiver, SEL, Args...)> {
   private:
     IMP implementation_ = nullptr;
 };
+
+/// The slot of one replacement, a function of receiver, selector and the method's arguments.
+template <auto replacement>
+inline constinit Saved<std::remove_pointer_t<decltype(replacement)>> saved;
 
 }  // namespace objc

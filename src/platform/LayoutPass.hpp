@@ -1,0 +1,52 @@
+// Layout passes that run within each other. Whatever we ask or set in a pass may come back and lay
+// the same view out again: UIKit's own layoutSublayersOfLayer: sends layoutSubviews, a label that
+// takes a text may, and so may the companion while it is asked.
+#pragma once
+
+#include "objc/runtime.hpp"
+
+/// One run of a replaced layoutSubviews over one view, for as long as it lives. Main thread only.
+class LayoutPass {
+  public:
+    explicit LayoutPass(id view) : view_(view), outer_(g_innermost) { g_innermost = this; }
+    LayoutPass(const LayoutPass &) = delete;
+    LayoutPass &operator=(const LayoutPass &) = delete;
+    ~LayoutPass() {
+        g_innermost = outer_;
+        if (LayoutPass *const interrupted = innermost(view_)) {
+            interrupted->isOvertaken_ = true;
+        }
+    }
+
+    /// No other pass over the view is under way.
+    bool isOutermost() const {
+        for (const LayoutPass *pass = outer_; pass; pass = pass->outer_) {
+            if (pass->view_ == view_) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    /// Whether the pass over `view` that is under way was interrupted by another one, which has
+    /// laid the view out as a whole and knew more: what is left of the interrupted pass is stale.
+    static bool isOvertaken(id view) {
+        const LayoutPass *const pass = innermost(view);
+        return pass && pass->isOvertaken_;
+    }
+
+  private:
+    static LayoutPass *innermost(id view) {
+        LayoutPass *pass = g_innermost;
+        while (pass && pass->view_ != view) {
+            pass = pass->outer_;
+        }
+        return pass;
+    }
+
+    static inline constinit LayoutPass *g_innermost = nullptr;
+
+    id view_;  // of whoever laid it out
+    LayoutPass *outer_;
+    bool isOvertaken_ = false;
+};
