@@ -72,8 +72,9 @@ void requiredSends(PHHandsetDialerLCDView lcd, bool from71) {
     const auto number = ZQPhoneNumber::parsed(typed);
     const auto record = objc::create<ZQCallRecord>();
     record->setPhoneNumber(number->pureNumber());
-    const NSString description =
-        ZQNumberIdentityService::getIdentityOfRecord(record, {true, true, nullptr, DisplayType::Dialer}).identity();
+    const NSString description = ZQNumberIdentityService::getIdentityOfRecord(
+                                     record, {true, true, nullptr, DisplayType::Dialer})
+                                     .identity();
     description.length();
     // The row.
     const UIView nameLine = lcd.nameAndLabelView();

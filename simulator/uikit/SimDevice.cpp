@@ -10,8 +10,13 @@ SimDevice *SimDevice::current() {
     return g_device;
 }
 
-NSString SimDevice::systemVersion() const {
-    return sim::string(std::string_view(sim::Device::current().systemVersion));
+NSString SimDevice::systemVersion() {
+    const std::string &version = sim::Device::current().systemVersion;
+    if (!versionText_ || version_ != version) {
+        version_ = version;
+        versionText_ = objc::Owned<NSString>::share(sim::string(std::string_view(version)));
+    }
+    return versionText_;
 }
 
 void SimDevice::define() {

@@ -125,6 +125,8 @@ class ZQNumberIdentityService : public NSObject {
     }
 };
 
+class PureNumber;
+
 class ZQPhoneNumber : public NSObject {
   public:
     using NSObject::NSObject;
@@ -138,9 +140,7 @@ class ZQPhoneNumber : public NSObject {
     }
 
     /// The digits of such a text: what every look-up goes by.
-    static objc::Owned<NSString> pureNumberOf(NSString text) {
-        return objc::Owned<NSString>::share(parsed(text)->pureNumber());
-    }
+    static PureNumber pureNumberOf(NSString text);
 
     void parse() const { send<void()>("parse"_sel); }
     NSString pureNumber() const { return send<NSString()>("pureNumber"_sel); }
@@ -164,6 +164,21 @@ class ZQPhoneNumber : public NSObject {
                                               text);
     }
 };
+
+/// A number's digits together with the parser that they belong to.
+class PureNumber {
+  public:
+    explicit PureNumber(objc::Owned<ZQPhoneNumber> parser)
+        : parser_(std::move(parser)), digits_(parser_->pureNumber()) {}
+    // Implicit: it may be used wherever its text is asked for
+    operator NSString() const { return digits_; }
+
+  private:
+    objc::Owned<ZQPhoneNumber> parser_;
+    NSString digits_;
+};
+
+inline PureNumber ZQPhoneNumber::pureNumberOf(NSString text) { return PureNumber(parsed(text)); }
 
 class ZQPhoneNumberHelper : public NSObject {
   public:

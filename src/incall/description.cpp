@@ -31,17 +31,17 @@ Description partnerDescription(int32_t partnerId, NSString label) {
 /// the number stands for.
 Description markDescription(ZQNumberIdentity identity) {
     constexpr int32_t kFirstPartnerId = 5001;
-    const auto label = held(identity.identity());
+    const NSString label = identity.identity();
     const int32_t marks = identity.numOfMark();
     if (marks == 0 || marks == 1) {
-        return {.text = held(format<"%@">(label.get()))};
+        return {.text = held(format<"%@">(label))};
     }
     if (marks < kFirstPartnerId) {
-        return {.text = held(format<"%@ | %d人标记">(label.get(), marks))};
+        return {.text = held(format<"%@ | %d人标记">(label, marks))};
     }
     const NSString source = identity.source();
     if (source.length() != 0 && !marksPartner(source)) {
-        return {.text = held(format<"%@">(label.get()))};
+        return {.text = held(format<"%@">(label))};
     }
     return partnerDescription(marks, label);
 }
@@ -53,13 +53,13 @@ Description brandDescription(NSDictionary brand) {
 }
 
 Description identityDescription(ZQNumberIdentity identity) {
-    auto region = held(ZQPhoneNumber::descriptionOfNumber(held(identity.number())));
+    const NSString region = ZQPhoneNumber::descriptionOfNumber(identity.number());
     switch (identity.type()) {
     case IdentityKind::Region:
     case IdentityKind::RegionAndLabel:
-        return {.text = std::move(region)};
+        return {.text = held(region)};
     case IdentityKind::Foreign:
-        return {.text = held(format<"%@ | %@">(region.get(), "若非国外亲友，请警惕诈骗"_ns))};
+        return {.text = held(format<"%@ | %@">(region, "若非国外亲友，请警惕诈骗"_ns))};
     case IdentityKind::Brand:
         return brandDescription(identity.brandInfo());
     case IdentityKind::UserMark:
@@ -71,8 +71,8 @@ Description identityDescription(ZQNumberIdentity identity) {
     default:
         break;
     }
-    auto label = held(identity.identity());
-    return {.text = std::move(label->length() != 0 ? label : region)};
+    const NSString label = identity.identity();
+    return {.text = held(label.length() != 0 ? label : region)};
 }
 
 /// The first part keeps only its beginning where the second leaves it no room.

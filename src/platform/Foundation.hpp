@@ -44,7 +44,6 @@ class NSString : public NSObject {
     static Class classObject() { return "NSString"_cls; }
 
     NSUInteger length() const { return send<NSUInteger()>("length"_sel); }
-    NSUInteger hash() const { return send<NSUInteger()>("hash"_sel); }
     bool isEqualToString(NSString other) const {
         return send<bool(NSString)>("isEqualToString:"_sel, other);
     }
@@ -85,6 +84,10 @@ class NSString : public NSObject {
             classObject(), "stringWithCharacters:length:"_sel, units, length);
     }
 };
+
+/// Whether both are the same text, unit by unit, or both nil. For texts that are mostly the same
+/// object, or else short.
+bool isSameText(NSString a, NSString b);
 
 /// What a container holds, as a text; nil when it holds something else.
 inline NSString asText(NSObject object) {

@@ -1,57 +1,72 @@
 // Measuring text, remembered.
 #include "platform/TextWidths.hpp"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace {
 
-/// How a text is measured; a font is the same as long as it is the same object, which is held.
+constexpr NSUInteger kLongest = 64;  // UTF-16 units; longer texts are measured each time
+
+/// What was measured, and how.
 struct Measuring {
-    id font;
+    std::array<char16_t, kLongest> units;
+    NSUInteger length;
+    id font;  // the same font is the same object
     CGSize room;
     NSInteger options;
-    bool operator==(const Measuring &) const = default;
+
+    bool operator==(const Measuring &other) const {
+        return length == other.length && font == other.font && room == other.room &&
+               options == other.options &&
+               std::equal(units.begin(), units.begin() + length, other.units.begin());
+    }
+
+    /// Fowler, Noll and Vo's hash of the text and the font.
+    size_t hash() const {
+        constexpr uint32_t kPrime = 16777619;
+        uint32_t hash = 2166136261 ^ static_cast<uint32_t>(reinterpret_cast<uintptr_t>(font) >> 4U);
+        for (NSUInteger i = 0; i < length; ++i) {
+            hash = (hash ^ units[i]) * kPrime;
+        }
+        return hash;
+    }
 };
 
 struct Known {
-    objc::Owned<NSString> text;
-    objc::Owned<UIFont> font;
     Measuring how{};
+    objc::Owned<UIFont> font;  // held, so that no other one gets its address
     CGFloat width = 0;
+    bool isKnown = false;
 };
 
-constexpr CGSize kOneLine{-1, -1};
-
-/// Where a result has its place, if it is remembered at all.
-Known &placeOf(NSString text, const Measuring &how) {
-    static auto &g_known = *new std::array<Known, 128>;
-    const auto font = reinterpret_cast<uintptr_t>(how.font) >> 4U;
-    return g_known[(text.hash() ^ font ^ static_cast<NSUInteger>(how.options)) % g_known.size()];
-}
-
 template <class Measure>
-CGFloat remembered(NSString text, UIFont font, const Measuring &how, Measure measure) {
-    if (!text) {
-        return 0;
+CGFloat remembered(NSString text, UIFont font, CGSize room, NSInteger options, Measure measure) {
+    static auto &g_known = *new std::array<Known, 128>;
+    const NSUInteger length = text.length();
+    if (length > kLongest) {
+        return measure();
     }
-    Known &known = placeOf(text, how);
-    if (known.how == how && known.text && known.text->isEqualToString(text)) {
-        return known.width;
+    Measuring how{.units = {}, .length = length, .font = font, .room = room, .options = options};
+    text.getCharacters(how.units.data(), {0, length});
+    Known &known = g_known[how.hash() % g_known.size()];
+    if (!known.isKnown || known.how != how) {
+        const CGFloat width = measure();
+        known = {
+            .how = how, .font = objc::Owned<UIFont>::share(font), .width = width, .isKnown = true};
     }
-    const CGFloat width = measure();
-    known = {
-        .text = text.copy(), .font = objc::Owned<UIFont>::share(font), .how = how, .width = width};
-    return width;
+    return known.width;
 }
 
 }  // namespace
 
 CGFloat rememberedBoundingWidth(NSString text, UIFont font, CGSize room, NSInteger options) {
-    return remembered(text, font, {.font = font, .room = room, .options = options},
+    return remembered(text, font, room, options,
                       [&] { return boundingWidth(text, font, room, options); });
 }
 
 CGFloat rememberedLineWidth(NSString text, UIFont font) {
-    return remembered(text, font, {.font = font, .room = kOneLine, .options = 0},
-                      [&] { return lineSize(text, font).width; });
+    constexpr CGSize kNoRoom{-1, -1};
+    return remembered(text, font, kNoRoom, 0, [&] { return lineSize(text, font).width; });
 }

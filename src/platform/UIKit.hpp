@@ -117,8 +117,7 @@ class UILabel : public UIView {
 
 /// A label that is given a text has itself laid out again, so it gets none that it already has.
 inline void setTextIfNew(UILabel label, NSString text) {
-    const NSString shown = label.text();
-    if (text ? !text.isEqualToString(shown) : shown) {
+    if (!isSameText(text, label.text())) {
         label.setText(text);
     }
 }

@@ -55,9 +55,9 @@ NSObject RowTexts::init() {
     return self;
 }
 
-Owned<NSString> RowTexts::textOf(RecentCall call) {
+Owned<NSString> RowTexts::textOf(RecentCall call, bool from80) {
     const double seconds = call.date().secondsSince1970();
-    const auto number = Owned<NSString>::share(call.ownNumber());
+    const NSString number = call.ownNumber(from80);
     if (!number) {
         return {};
     }
@@ -65,6 +65,7 @@ Owned<NSString> RowTexts::textOf(RecentCall call) {
     if (auto known = find(key)) {
         return known;
     }
+    const auto held = Owned<RecentCall>::share(call);  // the row may be given another one meanwhile
     const uint32_t asked = generation();
     auto text = describe(call);
     keep(text->length() != 0 ? text.get() : ""_ns, key, asked);

@@ -19,7 +19,7 @@ class RowTexts : public objc::Instance {
 
     /// The row's text: empty for nil and for a call without a number, and when there is nothing to
     /// say, which is remembered too.
-    objc::Owned<NSString> textOf(RecentCall call);
+    objc::Owned<NSString> textOf(RecentCall call, bool from80 = ios::isFrom(8.0));
 
     /// The entries themselves, for other code in the process; nil until there are any.
     NSMutableDictionary entries() const { return _entries; }

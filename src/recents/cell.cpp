@@ -25,13 +25,15 @@ NSString numberWithArea(NSString number) {
 }
 
 objc::Owned<NSString> textOf(RecentCall call) {
-    if (!call.isOfContact()) {
+    const bool from80 = ios::isFrom(8.0);
+    if (!call.isOfContact(from80)) {
         RowTexts *const texts = RowTexts::shared();
-        return texts ? texts->textOf(call) : objc::Owned<NSString>();
+        return texts ? texts->textOf(call, from80) : objc::Owned<NSString>();
     }
+    const auto held = objc::Owned<RecentCall>::share(call);  // the row may be given another one
     // A contact's only number needs no line.
     return objc::Owned<NSString>::share(
-        contactHasMoreThanOneNumber(call) ? numberWithArea(call.number()) : nullptr);
+        contactHasMoreThanOneNumber(call) ? numberWithArea(call.number(from80)) : nullptr);
 }
 
 CGFloat widthOfDate(PHRecentsDateLabel label) {
@@ -115,12 +117,11 @@ void show(UIView view, UIView content, CGRect frame) {
 }  // namespace
 
 void layOutCell(PHRecentsCell cell) {
-    // The row may be given another call while the companion is asked.
-    const auto call = objc::Owned<RecentCall>::share(RecentCall(cell.call()));
     if (ios::isBefore(7.1)) {
         objc::silently([&] { addButtonMenu(cell); });  // the line needs no menu
     }
     const objc::AutoreleasePool pool;
+    const RecentCall call(cell.call());
     const auto text = textOf(call);
     if (LayoutPass::isOvertaken(cell)) {
         return;

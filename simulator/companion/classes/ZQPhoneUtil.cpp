@@ -1,5 +1,4 @@
 // The device, its version and screen asked by message, and the small helpers without a home.
-#include <charconv>
 #include <cmath>
 
 #include "companion/Companion.hpp"
@@ -15,15 +14,16 @@ namespace {
 constexpr CGFloat kHeight35Inch = 480;
 constexpr CGFloat kHeightIPhone5 = 568;
 
-/// Major and minor version as one number: "7.1.2" is 7.1; 0 without a device.
+/// Major and minor version as one number: "7.1.2" reads as 7.1; 0 without a device.
 double systemVersion() {
     const id device = objc::send<id()>("UIDevice"_cls, "currentDevice"_sel);
-    const std::string text = utf8(objc::send<NSString()>(device, "systemVersion"_sel));
-    double version = 0;
-    const size_t minor = text.find('.');
-    const size_t end = minor == std::string::npos ? text.size() : text.find('.', minor + 1);
-    std::from_chars(text.data(), text.data() + std::min(end, text.size()), version);
-    return version;
+    const auto text = objc::send<NSString()>(device, "systemVersion"_sel);
+    static auto &g_read = *new std::pair<objc::Owned<NSString>, double>;
+    if (g_read.first.get().get() != text.get()) {
+        g_read = {objc::Owned<NSString>::share(text),
+                  objc::send<double()>(text, "doubleValue"_sel)};
+    }
+    return g_read.second;
 }
 
 bool isEarlierThan(double version, bool include) {

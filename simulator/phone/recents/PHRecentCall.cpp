@@ -50,17 +50,14 @@ objc::Owned<NSObject> PHRecentCall::create(const RecentCallFacts &facts) {
     }
     auto call = sim::Device::current().isAtLeast(8, 0) ? make<CallFrom8>() : make<CallBefore8>();
     call->facts_ = facts;
+    if (facts.date) {
+        call->date_ = objc::Owned<NSDate>::share(objc::send<NSDate(double)>(
+            "NSDate"_cls, "dateWithTimeIntervalSince1970:"_sel, *facts.date));
+    }
+    if (!facts.number.empty()) {
+        call->number_ = sim::string(facts.number).copy();
+    }
     return std::move(call).as<NSObject>();
-}
-
-NSDate PHRecentCall::date() const {
-    return facts_.date ? objc::send<NSDate(double)>(
-                             "NSDate"_cls, "dateWithTimeIntervalSince1970:"_sel, *facts_.date)
-                       : NSDate();
-}
-
-NSString PHRecentCall::number() const {
-    return facts_.number.empty() ? NSString() : sim::string(facts_.number);
 }
 
 int32_t PHRecentCall::status() const {

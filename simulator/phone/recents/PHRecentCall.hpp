@@ -39,9 +39,9 @@ class PHRecentCall : public objc::Instance {
     const Contact *contact() const { return ContactBook::shared().owner(facts_.number); }
 
     /// Nil when unknown.
-    NSDate date() const;
+    NSDate date() const { return date_; }
     /// Nil for a caller who hid it.
-    NSString number() const;
+    NSString number() const { return number_; }
     /// 1 answered, 8 missed, 2 dialled.
     int32_t status() const;
     /// An ABPersonRecord with the contact's name and numbers; nil for a stranger's call.
@@ -51,6 +51,8 @@ class PHRecentCall : public objc::Instance {
 
   private:
     RecentCallFacts facts_;
+    objc::Owned<NSDate> date_;
+    objc::Owned<NSString> number_;
 };
 
 }  // namespace phone

@@ -1,0 +1,23 @@
+// Comparing texts.
+#include "platform/Foundation.hpp"
+
+#include <algorithm>
+
+bool isSameText(NSString a, NSString b) {
+    if (a.get() == b.get()) {
+        return true;
+    }
+    constexpr NSUInteger kShort = 64;
+    const NSUInteger length = a.length();
+    if (!a || !b || length != b.length()) {
+        return false;
+    }
+    if (length > kShort) {
+        return a.isEqualToString(b);
+    }
+    char16_t mine[kShort];
+    char16_t other[kShort];
+    a.getCharacters(mine, {0, length});
+    b.getCharacters(other, {0, length});
+    return std::equal(mine, mine + length, other);
+}
