@@ -1,13 +1,23 @@
-// The companion's classes as other code in the process uses them: by message only.
+// The companion's classes as other code in the process uses them, by message only, and what comes
+// later: cloud answers, logo downloads and messages.
 #include <dlfcn.h>
 #include <gmock/gmock.h>
 
-#include "CompanionRun.hpp"
+#include "companion/Companion.hpp"
+#include "companion/TemporaryFolder.hpp"
+#include "companion/classes/Conversions.hpp"
+#include "objc/class_builder.hpp"
 
 namespace companion {
 namespace {
 
+using objc::send;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
 constexpr std::string_view kWorld = R"({
+  "cloudDelay": 0.02, "downloadDelay": 0.01,
   "contacts": [{"recordId": 2, "name": "周砚", "avatar": "boy.png", "numbers": [
     {"label": "手机", "number": "138-2300-0021"}, {"label": "公司", "number": "0755-01238800"}]}],
   "ownMarks": [{"number": "13100000051", "label": "房产中介"}],
@@ -16,153 +26,293 @@ constexpr std::string_view kWorld = R"({
   "partnerNumbers": [{"number": "021-01065012", "partner": 5012, "label": "食堂"}],
   "marks": [{"number": "17700000061", "label": "诈骗电话", "count": 37},
             {"number": "13300000069", "label": "培训", "count": 0, "kind": 9, "source": null}],
+  "foreign": [{"number": "+1 415 555 0132", "label": "留学"}],
   "blackList": [{"prefix": "1770"}],
-  "microblogs": [{"number": "18600000041", "name": "顾", "avatarType": 1, "boundType": 2}]
+  "microblogs": [{"number": "18600000041", "name": "顾", "avatarType": 1, "boundType": 2}],
+  "cloudAnswers": [
+    {"number": "13000000101", "answer": {"partner": {"rating": 4.5}}},
+    {"number": "13000000108", "error": "no network", "delay": 0},
+    {"number": "13000000109", "cancel": true},
+    {"number": "13000000199", "answer": {}, "delay": 0.1}]
 })";
 
-class Classes : public test::CompanionRun {
-  protected:
-    Classes() : CompanionRun(kWorld) {}
-
-    static std::string info(NSString number, std::int32_t direction) {
-        return text(objc::send<id(id, std::int32_t, std::int32_t, id)>(
-            "ZQNumberIdentityService"_cls,
-            "getFormattedInfoFromNumIdentity:displayType:callDirection:originalInfo:"_sel,
-            identityOf(number), 2, direction, nullptr));
+/// Hears everything that the companion tells a caller, in order.
+class Listener : public objc::Instance {
+  public:
+    static Listener *make() {
+        static const Class g_class =
+            objc::ClassBuilder<Listener>("CompanionTestListener", "NSObject")
+                .method("numberIdentityService:didGetMarkInfoFromCloud:error:"_sel,
+                        objc::member<&Listener::answered>)
+                .method("numberIdentityServicedidCancelCloudQuery"_sel,
+                        objc::member<&Listener::cancelled>)
+                .method("told:"_sel, objc::member<&Listener::told>)
+                .finish();
+        EXPECT_NE(g_class, nullptr);
+        return autoreleased<Listener>();
     }
+
+    void answered(NSObject service, NSObject answer, NSObject error) {
+        EXPECT_TRUE(service.isKindOfClass("ZQNumberIdentityService"_cls));
+        EXPECT_NE(answer == nullptr, error == nullptr);
+        heard.push_back(error ? utf8(send<NSString()>(error, "localizedDescription"_sel))
+                              : jsonFromObject(answer, ""));
+    }
+    void cancelled() { heard.emplace_back("cancelled"); }
+    void told(NSNotification message) {
+        const auto path = message.userInfo().objectForKey("plogopath"_ns).as<NSString>();
+        heard.push_back(utf8(message.name()) + utf8(path));
+    }
+    std::vector<std::string> heard;
+};
+
+class Companion : public testing::Test {
+  protected:
+    Companion() {
+        test::writeFile(folder_ / "world.json", kWorld);
+        std::filesystem::create_directory(folder_ / "pictures");
+        reopen();
+    }
+
+    void reopen() { open({folder_ / "world.json", folder_ / "data", folder_ / "pictures"}); }
+
+    static objc::Owned<NSObject> make(Class cls) {
+        return objc::Owned<NSObject>::adopt(send<NSObject()>(cls, "new"_sel));
+    }
+    static NSObject property(id object, NSString name) {
+        return send<NSObject(NSString)>(object, "valueForKey:"_sel, name);
+    }
+    static std::string text(id object) { return utf8(NSString(object)); }
+    static std::string text(id object, NSString name) { return text(property(object, name)); }
 
     static NSObject parsed(NSString number) {
         const NSObject object =
             objc::Owned<NSObject>::adopt(
-                objc::send<NSObject(NSString)>(objc::send<id()>("ZQPhoneNumber"_cls, "alloc"_sel),
-                                               "initWithOriginNumber:"_sel, number))
+                send<NSObject(NSString)>(send<id()>("ZQPhoneNumber"_cls, "alloc"_sel),
+                                         "initWithOriginNumber:"_sel, number))
                 .autorelease();
-        objc::send<void()>(object, "parse"_sel);
+        send<void()>(object, "parse"_sel);
         return object;
     }
+    static NSObject ask(NSString number, bool onlyLocal, id delegate) {
+        const auto record = make("ZQCallRecord"_cls);
+        send<void(NSString)>(record, "setPhoneNumber:"_sel, number);
+        return send<NSObject(id, bool, bool, id, double, std::int32_t)>(
+            "ZQNumberIdentityService"_cls,
+            "getIdentityOfRecord:ignoreDiagnose:onlyLocal:delegate:retryPeriod:displayType:"_sel,
+            record, true, onlyLocal, delegate, 0.0, 2);
+    }
+    static NSObject identityOf(NSString number) { return ask(number, true, nullptr); }
+
+    /// Waits for an answer that comes after everything that is due; fails when none comes.
+    static void settle() {
+        constexpr int kMostTurns = 500;
+        Listener *const last = Listener::make();
+        ask("13000000199"_ns, false, *last);
+        const id loop = send<id()>("NSRunLoop"_cls, "currentRunLoop"_sel);
+        for (int turn = 0; last->heard.empty(); ++turn) {
+            ASSERT_LT(turn, kMostTurns) << "nothing came from the run loop";
+            const id soon =
+                send<id(double)>("NSDate"_cls, "dateWithTimeIntervalSinceNow:"_sel, 0.02);
+            send<void(id)>(loop, "runUntilDate:"_sel, soon);
+        }
+    }
+
+    static void observe(Listener *listener, NSString message) {
+        send<void(id, SEL, NSString)>("ZQIPCService"_cls, "addObserver:sel:forMsg:"_sel, *listener,
+                                      "told:"_sel, message);
+    }
+
+    static void download(NSString icon, const std::filesystem::path &destination) {
+        send<void(id, id)>(send<id()>("ZQPartnerManager"_cls, "defaultManager"_sel),
+                           "doDownloadPartnerIcon:destPath:"_sel, icon,
+                           string(destination.string()));
+    }
+
+    objc::AutoreleasePool pool_;
+    const test::TemporaryFolder folder_;
+    const std::filesystem::path logos_ = folder_ / "data/logos";
+    Listener *const listener_ = Listener::make();
 };
 
-TEST_F(Classes, ARunThatCannotBeOpenedLeavesTheOneBefore) {
+TEST_F(Companion, ARunThatCannotBeOpenedLeavesTheOneBefore) {
     EXPECT_THROW(open({folder_ / "none.json", {}, {}}), WorldError);
     EXPECT_THROW(open({folder_ / "world.json", folder_ / "world.json", {}}), StoreError);
     EXPECT_NE(identityOf("17700000061"_ns).get(), nullptr);
     EXPECT_EQ(resourceDir(), folder_ / "pictures");
-}
-
-TEST_F(Classes, TheSampleWorldIsThereWhenNoneIsNamed) {
     open({});
-    EXPECT_TRUE(store().identity("13570000063"));
+    EXPECT_TRUE(store().identity("13570000063")) << "the sample world, since none is named";
     EXPECT_TRUE(logoFile(5012).empty());
 }
 
-TEST_F(Classes, IdentitiesCarryTheirRecord) {
+TEST_F(Companion, IdentitiesCarryTheirRecord) {
     const NSObject mark = identityOf("+86 177 0000 0061"_ns);
-    EXPECT_EQ(text(property(mark, "number"_ns)), "17700000061");
-    EXPECT_EQ(text(property(mark, "identity"_ns)), "诈骗电话");
-    EXPECT_EQ(objc::send<std::int32_t()>(mark, "type"_sel), 7);
-    EXPECT_EQ(objc::send<std::int32_t()>(mark, "numOfMark"_sel), 37);
-    EXPECT_EQ(text(property(mark, "source"_ns)), "");
+    EXPECT_EQ(text(mark, "number"_ns), "17700000061");
+    EXPECT_EQ(text(mark, "identity"_ns), "诈骗电话");
+    EXPECT_EQ(send<std::int32_t()>(mark, "type"_sel), 7);
+    EXPECT_EQ(send<std::int32_t()>(mark, "numOfMark"_sel), 37);
     EXPECT_NE(property(mark, "source"_ns).get(), nullptr);
     EXPECT_EQ(property(identityOf("13300000069"_ns), "source"_ns).get(), nullptr);
-    EXPECT_EQ(text(property(identityOf("02101065012"_ns), "source"_ns)), "$$");
+    EXPECT_EQ(text(identityOf("02101065012"_ns), "source"_ns), "$$");
     EXPECT_EQ(identityOf("66668888"_ns).get(), nullptr);
     EXPECT_EQ(identityOf(nullptr).get(), nullptr);
-}
-
-TEST_F(Classes, BrandsHaveTheirNameAndLogoUnderTheExportedKeys) {
-    const auto key = [](const char *symbol) {
-        return *static_cast<id *>(dlsym(RTLD_DEFAULT, symbol));
+    const auto brand = property(identityOf("4002001818"_ns), "brandInfo"_ns).as<NSDictionary>();
+    const auto under = [&](const char *symbol) {
+        const NSObject key(*static_cast<id *>(dlsym(RTLD_DEFAULT, symbol)));
+        return text(brand.objectForKey(key));
     };
-    const auto info = property(identityOf("4002001818"_ns), "brandInfo"_ns).as<NSDictionary>();
-    EXPECT_EQ(text(info.objectForKey(NSObject(key("kZQBrandServiceBrandNameKey")))), "云雀速递");
-    EXPECT_EQ(text(info.objectForKey(NSObject(key("kZQBrandServiceBrandLogoPathKey")))),
-              (folder_ / "pictures/courier.png").string());
+    EXPECT_EQ(under("kZQBrandServiceBrandNameKey"), "云雀速递");
+    EXPECT_EQ(under("kZQBrandServiceBrandLogoPathKey"), folder_ / "pictures/courier.png");
 }
 
-TEST_F(Classes, LinesAreFormattedFromIdentities) {
-    EXPECT_EQ(info("17700000061"_ns, 0), "诈骗电话 | 37人标记");
-    EXPECT_EQ(info("02101065012"_ns, 0), "一碗山食堂");
-    EXPECT_EQ(info("13100000051"_ns, 1), "房产中介 | 我的标记");
-    EXPECT_EQ(info("66668888"_ns, 1), "");
+TEST_F(Companion, LinesAreFormattedFromIdentities) {
+    const struct {
+        NSString number;
+        std::int32_t direction = 0;
+        const char *line = "";
+    } rows[] = {{"17700000061"_ns, 0, "诈骗电话 | 37人标记"},
+                {"02101065012"_ns, 0, "一碗山食堂"},
+                {"13100000051"_ns, 1, "房产中介 | 我的标记"},
+                {"66668888"_ns, 1, ""},
+                {"0014155550132"_ns, 1, "美国，留学"}};
+    for (const auto &[number, direction, line] : rows) {
+        EXPECT_EQ(text(send<id(id, std::int32_t, std::int32_t, id)>(
+                      "ZQNumberIdentityService"_cls,
+                      "getFormattedInfoFromNumIdentity:displayType:callDirection:originalInfo:"_sel,
+                      identityOf(number), 2, direction, nullptr)),
+                  line);
+    }
 }
 
-TEST_F(Classes, StoredAnswersAreFoundAgainAndCounted) {
+TEST_F(Companion, StoredAnswersAreFoundAgainAndCounted) {
     const auto identity = make("ZQNumberIdentity"_cls);
-    objc::send<void(NSString)>(identity, "setNumber:"_sel, "13000000101"_ns);
-    objc::send<void(NSString)>(identity, "setIdentity:"_sel, "装修"_ns);
-    objc::send<void(std::int32_t)>(identity, "setType:"_sel, 10);
-    objc::send<void(float)>(identity, "setRating:"_sel, 4.5F);
+    send<void(NSString)>(identity, "setNumber:"_sel, "13000000101"_ns);
+    send<void(NSString)>(identity, "setIdentity:"_sel, "装修"_ns);
+    send<void(std::int32_t)>(identity, "setType:"_sel, 10);
+    send<void(float)>(identity, "setRating:"_sel, 4.5F);
     const auto service = make("ZQCallRecordService"_cls);
-    objc::send<void(id)>(service, "insertOrUpdateNumberIdentityWithNumber:"_sel, identity);
+    for (const id answer : {identity.get().get(), id()}) {
+        send<void(id)>(service, "insertOrUpdateNumberIdentityWithNumber:"_sel, answer);
+    }
     const NSObject found = identityOf("13000000101"_ns);
-    EXPECT_EQ(text(property(found, "identity"_ns)), "装修");
+    EXPECT_EQ(text(found, "identity"_ns), "装修");
     EXPECT_EQ(property(found, "source"_ns).get(), nullptr);
-    EXPECT_EQ(objc::send<float()>(found, "rating"_sel), 4.5F);
-    objc::send<void(id)>(service, "insertOrUpdateNumberIdentityWithNumber:"_sel, nullptr);
-    objc::send<void(NSString, bool)>(
-        objc::send<id()>("ZQPingBackService"_cls, "currentService"_sel),
-        "asyncDoPingBackCount:immediately:"_sel, "cmkCall_C"_ns, false);
+    EXPECT_EQ(send<float()>(found, "rating"_sel), 4.5F);
+    send<void(NSString, bool)>(send<id()>("ZQPingBackService"_cls, "currentService"_sel),
+                               "asyncDoPingBackCount:immediately:"_sel, "cmkCall_C"_ns, false);
     EXPECT_EQ(store().countOf("cmkCall_C"), 1);
 }
 
-TEST_F(Classes, PhoneNumbersKnowNothingBeforeTheyParse) {
+TEST_F(Companion, PhoneNumbersKnowNothingBeforeTheyParse) {
     const NSObject number = parsed("+86 138-2300-0021"_ns);
-    EXPECT_EQ(text(property(number, "pureNumber"_ns)), "13823000021");
-    EXPECT_EQ(text(property(number, "areaName"_ns)), "广东珠海 移动");
-    EXPECT_EQ(objc::send<std::int32_t()>(number, "type"_sel), 1);
-    EXPECT_EQ(objc::send<std::int32_t()>(parsed("+1 415 555 0132"_ns), "type"_sel), 6);
-    EXPECT_EQ(text(property(parsed(nullptr), "pureNumber"_ns)), "");
-    const NSString smile = string("138😀");
+    EXPECT_EQ(text(number, "pureNumber"_ns), "13823000021");
+    EXPECT_EQ(text(number, "areaName"_ns), "广东珠海 移动");
+    EXPECT_EQ(send<std::int32_t()>(number, "type"_sel), 1);
+    EXPECT_EQ(send<std::int32_t()>(parsed("+1 415 555 0132"_ns), "type"_sel), 6);
+    EXPECT_EQ(text(parsed(nullptr), "pureNumber"_ns), "");
     const auto half =
-        objc::send<NSString(NSUInteger)>(smile, "substringToIndex:"_sel, NSUInteger{4});
-    EXPECT_EQ(text(property(parsed(half), "pureNumber"_ns)), "138");
-    EXPECT_EQ(
-        objc::send<id(NSString)>("ZQPhoneNumber"_cls, "descriptionOfNumber:"_sel, "66668888"_ns),
-        nullptr);
+        send<NSString(NSUInteger)>(string("138😀"), "substringToIndex:"_sel, NSUInteger{4});
+    EXPECT_EQ(text(parsed(half), "pureNumber"_ns), "138");
+    EXPECT_EQ(text(half), "138\xEF\xBF\xBD");
+    EXPECT_EQ(send<id(NSString)>("ZQPhoneNumber"_cls, "descriptionOfNumber:"_sel, "66668888"_ns),
+              nullptr);
     EXPECT_EQ(property(make("ZQPhoneNumber"_cls), "pureNumber"_ns).get(), nullptr);
 }
 
-TEST_F(Classes, ContactsAreFoundAndBecomePersons) {
+TEST_F(Companion, ContactsAreFoundAndBecomePersons) {
     // Named by strings only, so that the linker would drop it.
     ASSERT_NE(dlopen("libAddressBook.so", RTLD_NOW), nullptr) << dlerror();
-    const id service = objc::send<id()>("ZQContactService"_cls, "currentService"_sel);
-    EXPECT_TRUE(objc::send<bool(NSString)>(service, "isInAddressBook:"_sel, "075501238800"_ns));
-    EXPECT_FALSE(objc::send<bool(NSString)>(service, "isInAddressBook:"_sel, "17700000061"_ns));
-    const NSObject person =
-        objc::send<NSObject(NSString)>(service, "getPersonWithRecordID:"_sel, "13823000021"_ns);
-    EXPECT_EQ(text(objc::send<id()>(person, "name"_sel)), "周砚");
-    EXPECT_EQ(objc::send<id(NSString)>(service, "getPersonWithRecordID:"_sel, "110"_ns), nullptr);
+    const id service = send<id()>("ZQContactService"_cls, "currentService"_sel);
+    EXPECT_TRUE(send<bool(NSString)>(service, "isInAddressBook:"_sel, "075501238800"_ns));
+    EXPECT_FALSE(send<bool(NSString)>(service, "isInAddressBook:"_sel, "17700000061"_ns));
+    const auto person = [service](NSString number) {
+        return send<NSObject(NSString)>(service, "getPersonWithRecordID:"_sel, number);
+    };
+    EXPECT_EQ(text(send<id()>(person("13823000021"_ns), "name"_sel)), "周砚");
+    EXPECT_EQ(person("110"_ns).get(), nullptr);
 }
 
-TEST_F(Classes, PreferencesAreThereOnceTheyAreInitialized) {
-    EXPECT_EQ(objc::send<id()>("ZQPreference"_cls, "currentPreference"_sel), nullptr);
-    objc::send<void()>("ZQPreference"_cls, "InitializePreferences"_sel);
-    const id preference = objc::send<id()>("ZQPreference"_cls, "currentPreference"_sel);
-    objc::send<void(bool)>(preference, "setShowNumberArea:"_sel, false);
-    EXPECT_FALSE(objc::send<bool()>(preference, "showNumberArea"_sel));
-}
-
-TEST_F(Classes, BlackListAndMicroblogs) {
+TEST_F(Companion, SettingsBlackListAndMicroblogs) {
+    EXPECT_EQ(send<id()>("ZQPreference"_cls, "currentPreference"_sel), nullptr);
+    send<void()>("ZQPreference"_cls, "InitializePreferences"_sel);
+    const id preference = send<id()>("ZQPreference"_cls, "currentPreference"_sel);
+    send<void(bool)>(preference, "setShowNumberArea:"_sel, false);
+    EXPECT_FALSE(send<bool()>(preference, "showNumberArea"_sel));
     for (const bool isContact : {false, true}) {
-        EXPECT_NE(objc::send<bool(NSString, bool)>("ZQBlackListService"_cls,
-                                                   "isCallHittedBlackList:inAddressBook:"_sel,
-                                                   "17700000061"_ns, isContact),
+        EXPECT_NE(send<bool(NSString, bool)>("ZQBlackListService"_cls,
+                                             "isCallHittedBlackList:inAddressBook:"_sel,
+                                             "17700000061"_ns, isContact),
                   isContact);
     }
     const auto service = make("ZQWeiboService"_cls);
     id profile = nullptr;
     id content = service;
     const auto fill = [&](NSString number) {
-        objc::send<void(NSString, id *, id *)>(service,
-                                               "getWeiboInfoWithNumber:outProfile:outContent:"_sel,
-                                               number, &profile, &content);
+        send<void(NSString, id *, id *)>(service,
+                                         "getWeiboInfoWithNumber:outProfile:outContent:"_sel,
+                                         number, &profile, &content);
     };
     fill("18600000041"_ns);
-    EXPECT_EQ(objc::send<std::int32_t()>(profile, "avatarType"_sel), 1);
-    EXPECT_EQ(objc::send<std::int32_t()>(profile, "boundType"_sel), 2);
+    EXPECT_EQ(send<std::int32_t()>(profile, "avatarType"_sel), 1);
+    EXPECT_EQ(send<std::int32_t()>(profile, "boundType"_sel), 2);
     EXPECT_EQ(content, nullptr);
     fill("110"_ns);
     EXPECT_EQ(profile, nullptr);
+}
+
+TEST_F(Companion, CloudAnswersEveryQueryButTheLocalOnesLater) {
+    for (const NSString number : {"130 0000 0101"_ns, "13000000101"_ns, "13000000108"_ns,
+                                  "13000000109"_ns, "13911112222"_ns}) {
+        EXPECT_EQ(ask(number, false, *listener_).get(), nullptr);
+    }
+    ask("13000000101"_ns, true, *listener_);
+    EXPECT_THAT(listener_->heard, IsEmpty());
+    settle();
+    EXPECT_THAT(listener_->heard, ElementsAre("no network", HasSubstr("4.5"), HasSubstr("4.5"),
+                                              "cancelled", HasSubstr("hit")));
+}
+
+TEST_F(Companion, DownloadsALogoTellsOfItAndForgetsItInTheNextRun) {
+    test::writeFile(folder_ / "pictures/bowl.png", "picture");
+    test::writeFile(folder_ / "pictures/bowl@2x.png", "double picture");
+    observe(listener_, "msgPartnerLogoDownloaded"_ns);
+    const id item = send<id(std::int32_t)>(send<id()>("ZQPartnerManager"_cls, "defaultManager"_sel),
+                                           "getPartnerItemById:"_sel, 5012);
+    const std::string path = text(send<id()>(item, "getIconImagePath"_sel));
+    download(property(item, "icon"_ns).as<NSString>(), path);
+    download("none.png"_ns, logos_ / "x.png");
+    EXPECT_FALSE(std::filesystem::exists(path));
+    testing::internal::CaptureStderr();
+    settle();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(),
+                HasSubstr("the logo none.png cannot be fetched"));
+    EXPECT_THAT(listener_->heard, ElementsAre("msgPartnerLogoDownloaded" + path));
+    EXPECT_EQ(test::readFile(path), "picture");
+    EXPECT_EQ(test::readFile(logos_ / "partner_5012@2x.png"), "double picture");
+    EXPECT_TRUE(journal().downloads[0].finished);
+    EXPECT_FALSE(journal().downloads[1].finished);
+    EXPECT_EQ(awaited(), 0);
+    test::writeFile(logos_ / "mine.png", "picture");
+    reopen();
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(logos_), {}), 1) << "mine alone";
+}
+
+TEST_F(Companion, MessagesReachWhoeverAskedForThem) {
+    const auto post = [] {
+        send<void(NSString, id)>("ZQIPCService"_cls, "postMsg:withInfo:"_sel, "msg"_ns, nullptr);
+    };
+    Listener *const other = Listener::make();
+    observe(listener_, "msg"_ns);
+    observe(listener_, "msg"_ns);
+    observe(other, "other"_ns);
+    post();
+    EXPECT_THAT(listener_->heard, ElementsAre("msg", "msg"));
+    EXPECT_THAT(other->heard, IsEmpty());
+    send<void(id, NSString)>("ZQIPCService"_cls, "removeObserver:forMsg:"_sel, *listener_,
+                             "msg"_ns);
+    post();
+    EXPECT_EQ(listener_->heard.size(), 2U);
+    EXPECT_THAT(journal().messages, ElementsAre("msg", "msg"));
 }
 
 }  // namespace

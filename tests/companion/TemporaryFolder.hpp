@@ -9,12 +9,12 @@
 #include <string_view>
 #include <system_error>
 
-namespace companion::test {
+namespace test {
 
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "companion-XXXXXX").string();
+        std::string name = (std::filesystem::temp_directory_path() / "zqdial-XXXXXX").string();
         if (mkdtemp(name.data()) == nullptr) {
             throw std::system_error(errno, std::generic_category(), name);
         }
@@ -44,4 +44,4 @@ inline std::string readFile(const std::filesystem::path &file) {
     return std::move(text).str();
 }
 
-}  // namespace companion::test
+}  // namespace test

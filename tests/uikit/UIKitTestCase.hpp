@@ -14,12 +14,14 @@ class UIKitTestCase : public testing::Test {
     }
 
     /// A view of a registered class, autoreleased.
-    template <class View>
-    View *view(Class cls, CGRect frame) {
+    template <class View = SimView>
+    View *view(CGRect frame = {}, Class cls = "UIView"_cls) {
         const id made =
             objc::send<id(CGRect)>(objc::send<id()>(cls, "alloc"_sel), "initWithFrame:"_sel, frame);
         return sim::instance<View>(objc::send<id()>(made, "autorelease"_sel));
     }
+
+    static void layOut(SimView *view) { objc::send<void()>(id(*view), "layoutIfNeeded"_sel); }
 
     objc::AutoreleasePool pool_;
 };
