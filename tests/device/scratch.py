@@ -29,6 +29,11 @@ class Scratch(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = Path(folder.name)
 
+    def succeed(self, *command: str | Path) -> None:
+        """The command does not fail."""
+        code, printed = run(*command)
+        self.assertEqual(code, 0, printed)
+
     def refused(self, expected: list[str], *command: str | Path) -> None:
         """The command fails, and its output has all of the expected pieces."""
         code, printed = run(*command)

@@ -3,7 +3,9 @@ import shutil
 import sys
 from pathlib import Path
 
-from scratch import BUILD, ROOT, Scratch, run
+from scratch import BUILD, ROOT, Scratch
+
+TOOLS = ROOT / "device/tools"
 
 
 class BuildFaults(Scratch):
@@ -50,7 +52,7 @@ class BuildFaults(Scratch):
         self.copy_sources()
         line = len((ROOT / self.SOURCE).read_text(encoding="utf-8").splitlines()) + 1
         self.append(self.SOURCE, "int atLoad(); int g_atLoad = atLoad();\n")
-        self.assertEqual(run(*self.configured())[0], 0)
+        self.succeed(*self.configured())
         for slice_name in ("armv7", "arm64"):
             if (BUILD / slice_name).exists():
                 self.refused(
@@ -62,24 +64,18 @@ class BuildFaults(Scratch):
         self.copy_sources()
         self.append(self.SOURCE, 'extern "C" int newer(); int (*use)() = newer;\n')
         self.append("device/imports.txt", "    _nobodyUsesMe\n")
-        self.assertEqual(run(*self.configured())[0], 0)
+        self.succeed(*self.configured())
         shutil.copytree(BUILD / "arm64", self.build() / "arm64", dirs_exist_ok=True)
-        objects = sorted((self.build() / "arm64" / "src").rglob("*.o"))
-        replaced = self.build() / "arm64" / f"{self.SOURCE}.o"
-        code, printed = run("ninja", "-C", self.build(), replaced)
-        self.assertEqual(code, 0, printed)
-        check: list[str | Path] = [
-            *(sys.executable, ROOT / "device/tools/check_imports.py"),
-            *(self.folder / "device/imports.txt", "arm64"),
-            *objects,
-            *("--nm", "llvm-nm-19", "--root", self.build() / "arm64"),
-        ]
+        self.succeed("ninja", "-C", self.build(), self.build() / "arm64" / f"{self.SOURCE}.o")
         self.refused(
             [
                 f"arm64: {self.SOURCE} uses _newer, which device/imports.txt does not list",
                 "device/imports.txt lists _nobodyUsesMe, which no source uses: remove it",
             ],
-            *check,
+            *(sys.executable, TOOLS / "check_imports.py"),
+            *(self.folder / "device/imports.txt", "arm64"),
+            *sorted((self.build() / "arm64" / "src").rglob("*.o")),
+            *("--nm", "llvm-nm-19", "--root", self.build() / "arm64"),
         )
 
     def test_lists_that_are_not_clear(self) -> None:
@@ -89,15 +85,22 @@ class BuildFaults(Scratch):
             (image + "    _strlen mips\n", "list.txt:2: no slice is called 'mips'"),
             (image + "    _strlen\n    _strlen\n", "list.txt:3: _strlen is listed twice"),
             ("# nothing\n", "lists no symbol at all"),
+            (None, "cannot read"),
         ]
         broken = self.folder / "list.txt"
-        make_stubs = ROOT / "device/tools/make_stubs.py"
+        command: list[str | Path] = [
+            sys.executable,
+            TOOLS / "make_stubs.py",
+            broken,
+            "arm64",
+            self.folder,
+        ]
         for text, expected in faults:
             with self.subTest(expected):
-                broken.write_text(text, encoding="utf-8")
-                self.refused([expected], sys.executable, make_stubs, broken, "arm64", self.folder)
-        broken.unlink()
-        self.refused(["cannot read"], sys.executable, make_stubs, broken, "arm64", self.folder)
+                broken.unlink(missing_ok=True)
+                if text is not None:
+                    broken.write_text(text, encoding="utf-8")
+                self.refused([expected], *command)
 
     def test_slices_that_cannot_be_finished(self) -> None:
         slice_name = next(name for name in ("armv7", "arm64") if (BUILD / name).exists())
@@ -115,7 +118,7 @@ class BuildFaults(Scratch):
                 broken.write_bytes(data)
                 self.refused(
                     [f"finish_dylib: {broken}: {fault}"],
-                    *(sys.executable, ROOT / "device/tools/finish_dylib.py", broken),
+                    *(sys.executable, TOOLS / "finish_dylib.py", broken),
                     *(self.folder / "finished.dylib", "--architecture", slice_name),
                     *("--init", "_ZQDialMain", "--identifier", "libZQDial", "--root", ROOT),
                 )

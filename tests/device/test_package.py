@@ -3,7 +3,7 @@ import os
 import sys
 from pathlib import Path
 
-from scratch import BUILD, ROOT, Scratch, run
+from scratch import BUILD, ROOT, Scratch
 
 
 class PackageFaults(Scratch):
@@ -14,25 +14,24 @@ class PackageFaults(Scratch):
             self.skipTest("one slice alone is not packaged")
         self.contents = self.folder / "contents"
         self.package = self.folder / "broken.deb"
-        run("dpkg-deb", "--raw-extract", packages[0], self.contents)
+        self.succeed("dpkg-deb", "--raw-extract", packages[0], self.contents)
         self.version = packages[0].name.split("_")[1]
 
-    def check(self) -> list[str | Path]:
-        return [
+    def repacked(self, fault: str, *options: str) -> None:
+        """Packed again, the contents are a package with a fault."""
+        options = options or ("-Zgzip", "--uniform-compression")
+        pack = ("dpkg-deb", "--root-owner-group", *options, "--build")
+        self.succeed(*pack, self.contents, self.package)
+        self.refused(
+            [fault],
             *(sys.executable, "-m", "checker.check_package", self.package, "--root", ROOT),
             *("--library", BUILD / "libZQDial.dylib", "--version", self.version),
-        ]
-
-    def repack(self, *options: str) -> None:
-        code, printed = run("dpkg-deb", *options, "--build", self.contents, self.package)
-        self.assertEqual(code, 0, printed)
+        )
 
     def test_options_of_packaging(self) -> None:
-        self.repack("--root-owner-group", "-Zxz")
-        self.refused(["its members are debian-binary, control.tar.xz"], *self.check())
+        self.repacked("its members are debian-binary, control.tar.xz", "-Zxz")
         os.chmod(self.contents / "Library", 0o700)
-        self.repack("--root-owner-group", "-Zgzip", "--uniform-compression")
-        self.refused(["./Library is a directory with mode 0700"], *self.check())
+        self.repacked("./Library is a directory with mode 0700")
 
     def test_contents(self) -> None:
         folder = self.contents / "Library/MobileSubstrate/DynamicLibraries"
@@ -47,8 +46,7 @@ class PackageFaults(Scratch):
                 before = file.read_bytes() if file.exists() else None
                 file.write_bytes(data)
                 file.chmod(0o755)
-                self.repack("--root-owner-group", "-Zgzip", "--uniform-compression")
-                self.refused([fault], *self.check())
+                self.repacked(fault)
                 file.unlink() if before is None else file.write_bytes(before)
 
     def test_fields(self) -> None:
@@ -62,5 +60,4 @@ class PackageFaults(Scratch):
         for old, new, fault in faults:
             with self.subTest(fault):
                 control.write_text(sound.replace(old, new), encoding="utf-8")
-                self.repack("--root-owner-group", "-Zgzip", "--uniform-compression")
-                self.refused([fault], *self.check())
+                self.repacked(fault)
