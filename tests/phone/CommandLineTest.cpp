@@ -1,4 +1,6 @@
 // What the command line understands, and what it says otherwise.
+#include <algorithm>
+
 #include <gmock/gmock.h>
 
 #include "stage/Errors.hpp"
@@ -12,81 +14,61 @@ using stage::Request;
 using stage::Step;
 using stage::Task;
 using testing::HasSubstr;
-using Kind = Step::Kind;
 using namespace std::chrono_literals;
 
 Request read(const std::vector<std::string> &words) { return stage::readRequest(words); }
 
-TEST(CommandLine, KeepsTheOrderOfSteps) {
-    const Request request = read({"dialer", "--type", "138", "--png", "a.png", "--ios", "7.1",
-                                  "--delete", "2", "--type=--tree", "--tree", "--touch",
-                                  "add-contact-hold", "--screen", "3.5", "--without-addon"});
-    EXPECT_EQ(request.task, Task::Dialer);
-    EXPECT_EQ(request.model, (stage::Model{"7.1", "3.5"}));
-    EXPECT_FALSE(request.withAddOn);
-    EXPECT_EQ(request.steps, (stage::Steps{{Kind::Type, "138"},
-                                           {Kind::Picture, "a.png"},
-                                           {Kind::Delete, {}, 2},
-                                           {Kind::Type, "--tree"},
-                                           {Kind::Tree},
-                                           {Kind::Hold}}));
-}
-
-TEST(CommandLine, ReadsTheStepsOfCalls) {
-    const Request request =
-        read({"incall",   "--display", "field", "--incoming", "",        "--answer", "--wait",
-              "7.25",     "--second",  "-1",    "--swap",     "--merge", "--end",    "2",
-              "--layout", "--png",     "a.png", "--outgoing", "+44 20",  "--pace",   "0.5"});
-    EXPECT_EQ(request.task, Task::InCall);
-    EXPECT_EQ(request.opening, (stage::Opening{stage::ScreenKind::InCall, phone::Display::Field}));
-    EXPECT_EQ(request.pace, 0.5);
-    EXPECT_EQ(request.steps, (stage::Steps{{Kind::Incoming, ""},
-                                           {Kind::Answer},
-                                           {Kind::Wait, {}, 1, 7250ms},
-                                           {Kind::Second, "-1"},
-                                           {Kind::Swap},
-                                           {Kind::Merge},
-                                           {Kind::End, {}, 2},
-                                           {Kind::Layout},
-                                           {Kind::Picture, "a.png"},
-                                           {Kind::Outgoing, "+44 20"}}));
-}
-
-TEST(CommandLine, ReadsTheStepsOfTheRecents) {
-    const Request request =
-        read({"recents", "--calls", "my.csv", "--scroll", "row:30", "--scroll", "12.5", "--swipe",
-              "30", "--to", "71", "--swipe", "1", "--edit", "on", "--press", "mark"});
-    EXPECT_EQ(request.opening, (stage::Opening{stage::ScreenKind::Recents, {}}));
-    EXPECT_EQ(request.calls, "my.csv");
-    EXPECT_EQ(request.steps, (stage::Steps{{Kind::ScrollToRow, {}, 30},
-                                           {Kind::Scroll, {}, 1, {}, 12.5},
-                                           {Kind::Swipe, {}, 30, {}, 71},
-                                           {Kind::Swipe, {}, 1},
-                                           {Kind::Edit, "on"},
-                                           {Kind::Press, "mark"},
-                                           {Kind::Tree}}));
-}
-
-TEST(CommandLine, TakesTextsAsTheyStand) {
-    const Request request = read({"dialer", "--type", "--png", "--type", "", "--type", "a=b 快递"});
-    EXPECT_EQ(request.steps,
+TEST(CommandLine, KeepsTheStepsInTheirOrderAndTextsAsTheyStand) {
+    using enum Step::Kind;
+    const struct {
+        std::vector<std::string> words;
+        std::vector<Step::Kind> kinds;
+    } rows[] = {
+        {{"dialer", "--type", "1", "--png", "a.png", "--ios", "7.1", "--delete", "2", "--tree",
+          "--touch", "add-contact-hold", "--touch", "add-contact"},
+         {Type, Picture, Delete, Tree, Hold, Touch}},
+        {{"incall", "--incoming", "", "--answer", "--wait", "1", "--second", "2", "--swap",
+          "--merge", "--end", "2", "--layout", "--png", "a.png", "--outgoing", "2"},
+         {Incoming, Answer, Wait, Second, Swap, Merge, End, Layout, Picture, Outgoing}},
+        {{"recents", "--scroll",  "row:30", "--scroll", "12.5",    "--swipe", "1",
+          "--edit",  "on",        "--open", "1",        "--press", "mark",    "--hold",
+          "mark",    "--release", "--back", "--tab",    "away",    "--reload"},
+         {ScrollToRow, Scroll, Swipe, Edit, Open, Press, HoldButton, Release, Back, Tab, Reload,
+          Tree}},
+    };
+    for (const auto &[words, kinds] : rows) {
+        std::vector<Step::Kind> found;
+        std::ranges::transform(read(words).steps, std::back_inserter(found), &Step::kind);
+        EXPECT_EQ(found, kinds) << words[0] << ", which shows the tree when it shows nothing else";
+    }
+    EXPECT_EQ(
+        read({"dialer", "--type", "--png", "--type", "", "--type=--tree", "--delete", "2"}).steps,
+        (stage::Steps{{Type, "--png"}, {Type, ""}, {Type, "--tree"}, {Delete, {}, 2}, {Tree}}));
+    EXPECT_EQ(read({"incall", "--second", "-1", "--wait", "7.25", "--end", "2", "--tree"}).steps,
+              (stage::Steps{{Second, "-1"}, {Wait, {}, 1, 7250ms}, {End, {}, 2}, {Tree}}));
+    EXPECT_EQ(read({"recents", "--scroll", "row:3", "--scroll", "2.5", "--swipe", "3", "--to", "7"})
+                  .steps,
               (stage::Steps{
-                  {Kind::Type, "--png"}, {Kind::Type, ""}, {Kind::Type, "a=b 快递"}, {Kind::Tree}}))
-        << "and shows the tree when nothing else was to be shown";
+                  {ScrollToRow, {}, 3}, {Scroll, {}, 1, {}, 2.5}, {Swipe, {}, 3, {}, 7}, {Tree}}));
 }
 
-TEST(CommandLine, HasDefaults) {
-    const Request request = read({"describe", "10086", "+44"});
-    EXPECT_EQ(request.model, (stage::Model{"7.1", "4"})) << "the system whose row is text alone";
-    EXPECT_EQ(request.numbers, (std::vector<std::string>{"10086", "+44"}));
-    EXPECT_TRUE(request.withAddOn);
-    EXPECT_EQ(read({"dialer"}).model, (stage::Model{"7.0", "4"}));
+TEST(CommandLine, ReadsSettingsAndHasDefaults) {
+    const Request describe = read({"describe", "10086", "+44"});
+    EXPECT_EQ(describe.model, (stage::Model{"7.1", "4"})) << "the system whose row is text alone";
+    EXPECT_EQ(describe.numbers, (std::vector<std::string>{"10086", "+44"}));
+    const Request dialer = read({"dialer"});
+    EXPECT_EQ(dialer.model, (stage::Model{"7.0", "4"}));
+    EXPECT_TRUE(dialer.withAddOn);
+    EXPECT_EQ(dialer.pace, 1);
     EXPECT_EQ(read({"incall"}).opening, (stage::Opening{stage::ScreenKind::InCall, {}}));
-    EXPECT_EQ(read({"incall"}).pace, 1);
-}
-
-TEST(CommandLine, AnswersHelpAndVersionAnywhere) {
-    EXPECT_EQ(read({"--version"}).task, Task::Version);
+    const Request set = read({"incall", "--ios", "7.1", "--screen", "3.5", "--without-addon",
+                              "--display", "field", "--pace", "0.5"});
+    EXPECT_EQ(set.task, Task::InCall);
+    EXPECT_EQ(set.model, (stage::Model{"7.1", "3.5"}));
+    EXPECT_FALSE(set.withAddOn);
+    EXPECT_EQ(set.opening, (stage::Opening{stage::ScreenKind::InCall, phone::Display::Field}));
+    EXPECT_EQ(set.pace, 0.5);
+    EXPECT_EQ(read({"recents", "--calls", "my.csv"}).calls, "my.csv");
     EXPECT_EQ(read({"gallery", "--version"}).task, Task::Version);
     EXPECT_THAT(read({"--help"}).help, HasSubstr("gallery"));
     const std::string help = read({"dialer", "--help"}).help;
@@ -107,34 +89,28 @@ TEST(CommandLine, NamesTheChoicesInOneLine) {
         {{"dialer", "--png"}, "dialer: --png needs a value: FILE"},
         {{"dialer", "--tree=yes"}, "dialer: --tree is a switch and takes no value"},
         {{"dialer", "--delete", "0"}, "--delete takes a whole number from 1 upwards, not '0'"},
-        {{"dialer", "--delete", "2x"}, "--delete takes a whole number from 1 upwards, not '2x'"},
         {{"dialer", "--delete", "99999999999"}, "--delete takes a whole number"},
         {{"dialer", "138"}, "dialer: '138' is out of place"},
         {{"dialer", "--type", "1\xff"}, "the argument '1\xEF\xBF\xBD' is no UTF-8 text"},
-        {{"incall", "--type", "1"}, "incall: there is no option '--type'; choose --ios, "},
         {{"incall", "--outgoing", ""}, "--outgoing takes a number to dial, not ''"},
-        {{"incall", "--end", "0"}, "--end takes a whole number from 1 upwards, not '0'"},
         {{"incall", "--wait", "7200.5"}, "--wait takes a number from 0 to 7200, not '7200.5'"},
-        {{"incall", "--wait", "-1"}, "--wait takes a number from 0 to 7200, not '-1'"},
         {{"incall", "--wait", "nan"}, "--wait takes a number from 0 to 7200, not 'nan'"},
-        {{"incall", "--wait", "2s"}, "--wait takes a number from 0 to 7200, not '2s'"},
         {{"incall", "--pace", "0"}, "--pace takes a number from 0.001 to 10, not '0'"},
         {{"incall", "--display", "lcd"}, "incall: --display takes view or field, not 'lcd'"},
-        {{"dialer", "--wait", "1"}, "dialer: there is no option '--wait'"},
         {{"recents", "--to", "71"}, "recents: --to has its place right behind --swipe ROW"},
         {{"recents", "--scroll", "row:0"}, "--scroll row:N takes a whole number from 1 upwards"},
         {{"recents", "--press", "delete"}, "--press takes correct, mark or search, not 'delete'"},
-        {{"gallery"}, "gallery: --out FOLDER is missing"},
         {{"describe"}, "describe: give at least one NUMBER"},
     };
     for (const auto &[words, complaint] : cases) {
+        std::string message = "accepted";
         try {
             read(words);
-            ADD_FAILURE() << "accepted instead of: " << complaint;
         } catch (const stage::UsageError &error) {
-            EXPECT_THAT(error.what(), HasSubstr(complaint));
-            EXPECT_THAT(error.what(), testing::Not(HasSubstr("\n")));
+            message = error.what();
         }
+        EXPECT_THAT(message, HasSubstr(complaint));
+        EXPECT_THAT(message, testing::Not(HasSubstr("\n")));
     }
 }
 
@@ -147,16 +123,15 @@ TEST(TextTable, AlignsChineseText) {
 
 TEST(GalleryPage, ShowsEachDeviceOfAScene) {
     const std::vector<stage::SceneGroup> groups = {
-        {"first", "Keys & more", {{"one", "A & B", "<note>", {}}}},
-        {"second", "Calls", {{"two", "C", "d", {}}}}};
-    const std::vector<stage::Model> models = {{"7.0", "4"}, {"7.1", "3.5"}};
+        {"first", "Keys & more", {{"one", "A & B", "<note>", {}}}}};
+    const stage::Model models[] = {{"7.0", "4"}, {"7.1", "3.5"}};
     const std::vector<stage::Exhibit> exhibits = {
         {models[0], "one", "p/1.png", "p/2.png", "", "a \"label\""},
         {models[1], "one", "p/3.png", "p/4.png", "", ""},
         {models[1], "another", "p/5.png", "p/6.png", "", ""}};
     const std::string page = stage::galleryPage(groups, models, exhibits);
     for (const char *part :
-         {"Keys &amp; more", "href=\"#second\"", "id=\"second\"", "A &amp; B", "&lt;note&gt;",
+         {"Keys &amp; more", "href=\"#first\"", "id=\"first\"", "A &amp; B", "&lt;note&gt;",
           "p/1.png", "p/4.png", "With it: a &quot;label&quot;", "iOS 7.1, 3.5 inch"}) {
         EXPECT_THAT(page, HasSubstr(part));
     }

@@ -1,103 +1,122 @@
-// The dialer at work, without any add-on.
-#include <gtest/gtest.h>
-
+// The dialer at work, without any add-on, and what it makes of numbers while they are typed.
+#include "PhoneRun.hpp"
 #include "phone/contact/ABNewPersonViewController.hpp"
-#include "phone/dialer/ContactBook.hpp"
 #include "phone/dialer/DialerController.hpp"
 #include "phone/dialer/DialerView.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
-#include "stage/VisibleTexts.hpp"
-#include "uikit/Device.hpp"
-#include "uikit/Finger.hpp"
-#include "uikit/Foundation.hpp"
-#include "uikit/drawing/FixedAdvanceMeasurer.hpp"
+#include "phone/dialer/TypedNumber.hpp"
 
 namespace {
 
-class Dialer : public testing::Test {
+using phone::ContactBook;
+using phone::ContactMatch;
+
+class Dialer : public test::PhoneRun {
   protected:
     void start(const char *version = "7.0", CGFloat height = 568) {
-        sim::Device::setCurrent({version, {320, height}, 2});
-        sim::TextMeasurer::setCurrent(std::make_unique<sim::FixedAdvanceMeasurer>());
-        phone::ContactBook::shared().add({"林小满", {{"138 0013 0011", "手机"}}});
-        window_ = phone::makeView<SimWindow>(rect(0, 0, 320, height));
-        owner_ = objc::make<phone::DialerController>().as<NSObject>();
-        dialer_ = objc::Wire<phone::DialerController *>::from(owner_.get().get());
-        objc::send<void(NSObject)>(window_.get(), "setRootViewController:"_sel, owner_.get());
+        setDevice(version, height);
+        ContactBook::shared().add({"林小满", {{"138 0013 0011", "手机"}}});
+        dialer_ = show<phone::DialerController>(
+            objc::make<phone::DialerController>().as<NSObject>());
     }
-
     void press(const std::string &signs) const {
         for (const char sign : signs) {
-            const UIView key = dialer_->dialerView()->keyWithSign(std::string(1, sign));
+            const UIView key = sign == '<' ? dialer_->dialerView()->deleteKey()
+                               : sign == '>'
+                                   ? dialer_->dialerView()->callKey()
+                                   : dialer_->dialerView()->keyWithSign(std::string(1, sign));
             ASSERT_TRUE(key) << sign;
             tap(key);
         }
     }
-    /// In the middle of the view: what lies there gets it.
-    void tap(UIView view) const { sim::tap(objc::Wire<SimView *>::from(view.get())); }
-
-    phone::PHHandsetDialerLCDView *display() const { return dialer_->dialerView()->display(); }
     std::string typed() const { return sim::utf8(dialer_->typedNumber()); }
-    std::string number() const { return sim::utf8(display()->numberLabel().text()); }
-    std::string below() const {
-        return stage::joinedTexts(UIView(*display()), display()->numberLabel());
-    }
-    SimWindow *window() const { return objc::Wire<SimWindow *>::from(window_.get().get()); }
 
-    objc::AutoreleasePool pool_;
-    objc::Owned<UIView> window_;
-    objc::Owned<NSObject> owner_;
     phone::DialerController *dialer_ = nullptr;
 };
 
 TEST_F(Dialer, KeysOfEveryPhonePutInTheirSigns) {
-    for (const char *const version : {"7.0", "7.1"}) {
+    for (const char *const version : {"7.0", "7.1", "8.0"}) {
         for (const CGFloat height : {480, 568}) {
             start(version, height);
+            press(">");
+            EXPECT_EQ(typed(), "");
             press("1234567890*#");
             EXPECT_EQ(typed(), "1234567890*#") << version << ' ' << height;
-            tap(dialer_->dialerView()->deleteKey());
-            tap(dialer_->dialerView()->deleteKey());
+            press("<<");
             EXPECT_EQ(typed(), "1234567890") << version << ' ' << height;
         }
     }
+    press("><<<<<<<<<<");
+    EXPECT_EQ(typed(), "");
+    press(">");
+    EXPECT_EQ(typed(), "1234567890") << "the last number called";
 }
 
 TEST_F(Dialer, TheOfferAloneOpensTheSheetThatMayBeCancelled) {
     start();
-    const CGRect line = display()->nameAndLabelView().frame();
+    phone::PHHandsetDialerLCDView *const display = dialer_->dialerView()->display();
+    const CGRect line = display->nameAndLabelView().frame();
     const sim::Point onLine{160, 20 + line.origin.y + line.size.height / 2};
-    sim::tap(window(), onLine);
-    EXPECT_FALSE(dialer_->newPersonController()) << "nothing typed";
+    const auto opens = [this](sim::Point at) {
+        sim::tap(window_, at);
+        return bool{dialer_->newPersonController() != nullptr};
+    };
+    EXPECT_FALSE(opens(onLine)) << "nothing typed";
     press("13800130011");
-    sim::tap(window(), onLine);
-    EXPECT_FALSE(dialer_->newPersonController()) << "a contact";
+    EXPECT_FALSE(opens(onLine)) << "a contact";
     press("1");
-    sim::Finger(window(), onLine).cancel();
+    sim::Finger(window_, onLine).cancel();
     EXPECT_FALSE(dialer_->newPersonController()) << "cancelled";
-    sim::tap(window(), {160, 40});
-    EXPECT_FALSE(dialer_->newPersonController()) << "the number itself";
-    sim::tap(window(), onLine);
-    ASSERT_TRUE(dialer_->newPersonController());
+    EXPECT_FALSE(opens({160, 40})) << "the number itself";
+    ASSERT_TRUE(opens(onLine));
     EXPECT_TRUE(dialer_->newPersonView().superview());
     dialer_->newPersonController()->cancel();
     EXPECT_FALSE(dialer_->newPersonController());
-    EXPECT_EQ(below(), "+ 添加到通讯录");
+    EXPECT_EQ(says(UIView(*display), display->numberLabel()), "+ 添加到通讯录");
 }
 
-TEST_F(Dialer, CallKeyBringsTheLastNumberBack) {
-    start("8.0", 480);
-    const UIView call = dialer_->dialerView()->callKey();
-    tap(call);
-    EXPECT_EQ(number(), "");
-    press("123");
-    tap(call);
-    for (int i = 0; i < 3; ++i) {
-        tap(dialer_->dialerView()->deleteKey());
+TEST(TypedNumber, IsGroupedAsItIsTyped) {
+    const std::string endless(10000, '7');
+    const std::pair<std::string, std::string> rows[] = {
+        {"", ""},
+        {"1380013", "138 0013"},
+        {"13800138000", "138 0013 8000"},
+        {"01012345678", "010 1234 5678"},
+        {"+442079460123", "+44 20 7946 0123"},
+        {"*#06#", "*#06#"},
+        {"12,34;5", "12,34;5"},
+        {"1380013８", "1380013８"},
+        {"123456789012345678901", "123456789012345678901"},
+        {endless, endless},
+    };
+    for (const auto &[text, shown] : rows) {
+        EXPECT_EQ(phone::formattedNumber(text), shown);
     }
-    EXPECT_EQ(number(), "");
-    tap(call);
-    EXPECT_EQ(number(), "123");
+}
+
+TEST(TypedNumber, LosesWholeCharacters) {
+    phone::TypedNumber number;
+    number.append("1快📞");
+    for (const char *const left : {"1快", "1", "", ""}) {
+        number.deleteLast();
+        EXPECT_EQ(number.typed(), left);
+    }
+}
+
+TEST(ContactBook, MatchesNumbersHoweverTheyAreWrittenAndNothingElse) {
+    ContactBook book;
+    book.add({"林小满", {{"138 0013 0011", "手机"}, {"(010) 0123-4567", ""}}});
+    book.add({"第二位", {{"13800130011", "工作"}}});
+    book.add({"Ann", {{"+44 20 7946 0018", "home"}}});
+    book.add({"服务", {{"100", ""}, {"", ""}}});
+    for (const char *const written : {"13800130011", "+8613800130011", "0086 138-0013-0011"}) {
+        EXPECT_EQ(book.match(written), (ContactMatch{"林小满", "手机"})) << "the first of two";
+    }
+    EXPECT_EQ(book.match("01001234567"), (ContactMatch{"林小满", ""}));
+    EXPECT_EQ(book.match("+442079460018"), (ContactMatch{"Ann", "home"}));
+    for (const char *const text : {"", "10", "1000", "*100#", "100w", "8610", "abc", "+"}) {
+        EXPECT_EQ(book.match(text), std::nullopt) << text;
+    }
 }
 
 }  // namespace

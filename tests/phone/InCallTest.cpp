@@ -1,13 +1,14 @@
-// The life of calls on the in-call screen.
-#include "phone/InCallRun.hpp"
+// The in-call screen driven by calls, without any add-on.
+#include "PhoneRun.hpp"
+#include "companion/SimulatedTime.hpp"
+#include "objc/ivar.hpp"
+#include "phone/Resources.hpp"
+#include "phone/incall/InCallController.hpp"
 #include "substrate/MSHookMessageEx.hpp"
-#include "uikit/Finger.hpp"
 
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
-using enum phone::CallStatus;
 
 /// What the telephony layer announced, and which calls are gone, in order.
 std::vector<std::string> g_events;
@@ -20,9 +21,9 @@ std::string numberOf(id call) {
 
 void changed(id self, SEL selector, id notification) {
     const NSDictionary info = NSNotification(notification).userInfo();
-    const id call = info.objectForKey("TUCallCenterCall"_ns);
     const NSObject status = info.objectForKey("TUCallCenterCallStatus"_ns);
-    g_events.push_back(numberOf(call) + " " + sim::utf8(status.description()));
+    g_events.push_back(numberOf(info.objectForKey("TUCallCenterCall"_ns)) + " " +
+                       sim::utf8(status.description()));
     g_changed(self, selector, notification);
 }
 
@@ -31,20 +32,61 @@ void deallocated(id self, SEL selector) {
     g_dealloc(self, selector);
 }
 
-class Calls : public test::InCall {
+class InCall : public test::PhoneRun {
   protected:
-    Calls() {
-        MSHookMessageEx(objc::findClass("InCallController"), "_callStatusChangedNotification:"_sel,
-                        reinterpret_cast<IMP>(&changed), reinterpret_cast<IMP *>(&g_changed));
-        MSHookMessageEx(objc::findClass("TUTelephonyCall"), "dealloc"_sel,
-                        reinterpret_cast<IMP>(&deallocated), reinterpret_cast<IMP *>(&g_dealloc));
-        start();
+    InCall() {
+        // A second of this time takes next to none; it stands still but where a test lets it pass.
+        time_.setPace(1e-6);
+        time_.letPass({});
+        const auto file = phone::pictureFolder() / "key_call.png";
+        auto &book = phone::ContactBook::shared();
+        book.add({"林小满", {{"138 0013 0011", "手机"}}, 12});
+        book.add({"外婆", {{"0871-01655432", "家"}}, 13, file});
+        book.add({"闻汐", {{"189 5810 0072", "手机"}}, 14, file, file});
+        setDevice("7.0");
+        start(phone::Display::View);
     }
-    void tap(UIView view) const { sim::tap(sim::instance<SimView>(view)); }
-    int countedCalls() const { return objc::read<int>(owner_.get(), "_currentCallCount"_ivar); }
+
+    void start(phone::Display display) {
+        screen_ = show<phone::InCallController>(phone::InCallController::create(display));
+    }
+
+    void talkTo(NSString number) {
+        screen_->beginIncoming(number);
+        ASSERT_TRUE(screen_->answer());
+    }
+
+    void letPass(int seconds) {
+        const auto end = time_.now() + std::chrono::seconds(seconds);
+        time_.letPass(std::chrono::seconds(seconds));
+        while (time_.now() < end) {
+        }
+        screen_->tick();
+    }
+
+    UIView part(auto variable) const {
+        layOut();
+        return objc::read<UIView>(screen_->displayView(), variable);
+    }
+    UIView image() const { return part("_imageView"_ivar); }
+    UIImage wallpaper() const {
+        return objc::send<UIImage()>(screen_->wallpaperView(), "contactImage"_sel);
+    }
+    CGFloat labelX() const {
+        return objc::send<CGRect()>(part("_labelView"_ivar), "textRect"_sel).origin.x;
+    }
+
+    std::string says() const { return PhoneRun::says(screen_->displayView()); }
+
+    companion::SimulatedTime &time_ = companion::SimulatedTime::shared();
+    phone::InCallController *screen_ = nullptr;
 };
 
-TEST_F(Calls, AreAnnouncedAndGoneOnceTheyHaveEnded) {
+TEST_F(InCall, CallsAreAnnouncedAndGoneOnceTheyHaveEnded) {
+    MSHookMessageEx(objc::findClass("InCallController"), "_callStatusChangedNotification:"_sel,
+                    reinterpret_cast<IMP>(&changed), reinterpret_cast<IMP *>(&g_changed));
+    MSHookMessageEx(objc::findClass("TUTelephonyCall"), "dealloc"_sel,
+                    reinterpret_cast<IMP>(&deallocated), reinterpret_cast<IMP *>(&g_dealloc));
     screen_->beginOutgoing("100"_ns);
     EXPECT_TRUE(screen_->answer());
     EXPECT_TRUE(screen_->end(1));
@@ -52,25 +94,21 @@ TEST_F(Calls, AreAnnouncedAndGoneOnceTheyHaveEnded) {
     EXPECT_TRUE(screen_->end(1));
     EXPECT_THAT(g_events,
                 ElementsAre("100 3", "100 1", "100 5", "100 gone", "200 4", "200 5", "200 gone"));
-    EXPECT_EQ(countedCalls(), 0);
-}
-
-TEST_F(Calls, GoWithTheScreen) {
-    talkTo("100"_ns);
-    talkTo("200"_ns);
-    sim::instance<SimWindow>(window_)->setRootViewController(nullptr);
-    owner_ = {};
-    EXPECT_THAT(g_events, testing::IsSupersetOf({"100 gone", "200 gone"}));
+    EXPECT_EQ(objc::read<int>(NSObject(*screen_), "_currentCallCount"_ivar), 0);
+    talkTo("300"_ns);
+    talkTo("400"_ns);
+    window_->setRootViewController(nullptr);
+    EXPECT_THAT(g_events, testing::IsSupersetOf({"300 gone", "400 gone"}));
     g_events.clear();
     // The clock of a running call has nobody to tell any more.
-    const auto loop = objc::send<NSObject()>("NSRunLoop"_cls, "currentRunLoop"_sel);
-    objc::send<void(NSObject)>(
-        loop, "runUntilDate:"_sel,
-        objc::send<NSObject(double)>("NSDate"_cls, "dateWithTimeIntervalSinceNow:"_sel, 0.01));
-    EXPECT_THAT(g_events, IsEmpty());
+    const auto soon =
+        objc::send<NSObject(double)>("NSDate"_cls, "dateWithTimeIntervalSinceNow:"_sel, 0.01);
+    objc::send<void(NSObject)>(objc::send<id()>("NSRunLoop"_cls, "currentRunLoop"_sel),
+                               "runUntilDate:"_sel, soon);
+    EXPECT_THAT(g_events, testing::IsEmpty());
 }
 
-TEST_F(Calls, KnowWhoIsAtTheOtherEnd) {
+TEST_F(InCall, CallsKnowWhoIsAtTheOtherEnd) {
     const struct {
         const char *number;
         int32_t contact;
@@ -93,40 +131,90 @@ TEST_F(Calls, KnowWhoIsAtTheOtherEnd) {
     EXPECT_EQ(says(), "180 1000 0066 | 正在呼叫…");
 }
 
-TEST_F(Calls, MergedOnesAreHeldAndEndedTogether) {
-    talkTo("100"_ns);
-    talkTo("200"_ns);
-    EXPECT_TRUE(screen_->merge());
-    EXPECT_THAT(statuses(), ElementsAre(Active, Active));
-    talkTo("300"_ns);
-    EXPECT_THAT(statuses(), ElementsAre(Held, Held, Active));
-    EXPECT_TRUE(screen_->swap());
-    EXPECT_THAT(statuses(), ElementsAre(Active, Active, Held));
-    tap(screen_->inCallView()->endKey());
-    EXPECT_THAT(statuses(), ElementsAre(Active));
-    EXPECT_EQ(says(), "300 | 00:00");
-}
-
-TEST_F(Calls, ButtonsDoWhatTheyAreCalled) {
+TEST_F(InCall, ButtonsDoWhatTheyAreCalledAndMergedCallsStayTogether) {
     const phone::InCallView &view = *screen_->inCallView();
+    const UIView merge = view.button(3);
+    const UIView swap = view.button(4);
     screen_->beginIncoming("100"_ns);
     tap(view.declineKey());
-    EXPECT_EQ(screen_->callCount(), 0U);
+    EXPECT_EQ(says(), "100 | 通话结束");
     screen_->beginIncoming("200"_ns);
     tap(view.answerKey());
-    EXPECT_THAT(statuses(), ElementsAre(Active));
-    tap(view.button(4));
-    EXPECT_THAT(statuses(), ElementsAre(Active)) << "one call has nothing to swap with";
+    tap(swap);
+    EXPECT_EQ(says(), "200 | 00:00") << "one call has nothing to swap with";
     talkTo("300"_ns);
-    tap(view.button(4));
-    EXPECT_THAT(statuses(), ElementsAre(Active, Held));
+    tap(swap);
+    EXPECT_EQ(says(), "200 | 00:00 | 300 | 保留");
     screen_->end(1);
-    EXPECT_THAT(statuses(), ElementsAre(Active)) << "the held one is talked on again";
+    EXPECT_EQ(says(), "300 | 00:00") << "the held one is talked on again";
     screen_->beginOutgoing("400"_ns);
-    EXPECT_THAT(statuses(), ElementsAre(Held, Dialing));
+    EXPECT_EQ(says(), "300 | 保留 | 400 | 正在呼叫…");
     screen_->answer();
-    tap(view.button(3));
-    EXPECT_THAT(statuses(), ElementsAre(Active, Active));
+    tap(merge);
+    EXPECT_EQ(says(), "会议通话 | 00:00");
+    talkTo("500"_ns);
+    EXPECT_EQ(says(), "会议通话 | 保留 | 500 | 00:00");
+    tap(swap);
+    EXPECT_EQ(says(), "会议通话 | 00:00 | 500 | 保留");
+    tap(view.endKey());
+    EXPECT_EQ(says(), "500 | 00:00");
+}
+
+TEST_F(InCall, DisplayFollowsTheCalls) {
+    talkTo("13800130011"_ns);
+    letPass(3600);
+    EXPECT_EQ(says(), "林小满 | 01:00:00");
+    talkTo("13100000051"_ns);
+    letPass(5);
+    EXPECT_EQ(says(), "林小满 | 保留 | 131 0000 0051 | 00:05");
+    screen_->beginIncoming("200"_ns);
+    EXPECT_EQ(says(), "131 0000 0051 | 00:05 | 200 | 来电") << "there is room for two";
+    screen_->end(3);
+    screen_->merge();
+    EXPECT_EQ(says(), "会议通话 | 01:00:05");
+    screen_->end(1);
+    EXPECT_EQ(says(), "131 0000 0051 | 00:05") << "one alone is no conference";
+    screen_->end(1);
+    EXPECT_EQ(says(), "131 0000 0051 | 通话结束");
+    screen_->beginIncoming("200"_ns);
+    EXPECT_EQ(says(), "200 | 来电");
+    screen_->end(1);
+    screen_->viewDidDisappear(false);
+    EXPECT_EQ(says(), "");
+}
+
+TEST_F(InCall, PicturesAreOfAnOnlyCaller) {
+    talkTo("087101655432"_ns);
+    EXPECT_TRUE(image());
+    EXPECT_FALSE(wallpaper());
+    EXPECT_EQ(part("_textView"_ivar).frame().size.width, 190) << "beside the picture";
+    talkTo("18958100072"_ns);
+    EXPECT_FALSE(image());
+    EXPECT_FALSE(wallpaper());
+    screen_->end(1);
+    EXPECT_FALSE(image()) << "the large picture is enough";
+    EXPECT_TRUE(wallpaper());
+    EXPECT_EQ(part("_textView"_ivar).frame().size.width, 280);
+    screen_->end(1);
+    talkTo("200"_ns);
+    EXPECT_FALSE(wallpaper()) << "nothing stays of an earlier call";
+}
+
+TEST_F(InCall, LabelOfAnOnlyCallerIsCentred) {
+    for (const auto display : {phone::Display::View, phone::Display::Field}) {
+        start(display);
+        talkTo("13800130011"_ns);
+        EXPECT_GT(labelX(), 0);
+        talkTo("200"_ns);
+        EXPECT_EQ(labelX(), 0);
+        screen_->merge();
+        EXPECT_EQ(labelX(), 0) << "still two calls";
+        screen_->end(1);
+        EXPECT_GT(labelX(), 0);
+        screen_->end(1);
+        talkTo("087101655432"_ns);
+        EXPECT_EQ(labelX(), 0) << "beside a picture";
+    }
 }
 
 }  // namespace

@@ -1,24 +1,19 @@
 // The recents list and a call's detail, without any add-on.
 #include <set>
 
-#include <gtest/gtest.h>
-
+#include "PhoneRun.hpp"
 #include "objc/ivar.hpp"
 #include "phone/contact/ABContactViewController.hpp"
 #include "phone/recents/PHRecentCall.hpp"
 #include "phone/recents/PHRecentsCell.hpp"
 #include "phone/recents/PHRecentsViewController.hpp"
 #include "phone/recents/RecentsDate.hpp"
-#include "stage/VisibleTexts.hpp"
 #include "substrate/MSHookMessageEx.hpp"
-#include "uikit/Device.hpp"
-#include "uikit/Finger.hpp"
-#include "uikit/Foundation.hpp"
 #include "uikit/SimTableView.hpp"
-#include "uikit/drawing/FixedAdvanceMeasurer.hpp"
 
 namespace {
 
+using objc::send;
 using phone::PHRecentCall;
 
 constexpr double kNoon = 1402545600;  // 2014-06-12, 12:00 in Beijing
@@ -32,11 +27,10 @@ void willAppear(id self, SEL selector, BOOL animated) {
     g_willAppear(self, selector, animated);
 }
 
-class Recents : public testing::Test {
+class Recents : public test::PhoneRun {
   protected:
     void start(const std::vector<phone::RecentCallFacts> &calls, const char *version = "7.1") {
-        sim::Device::setCurrent({version, {320, 568}, 2});
-        sim::TextMeasurer::setCurrent(std::make_unique<sim::FixedAdvanceMeasurer>());
+        setDevice(version);
         phone::ContactBook::shared().add(
             {"周砚", {{"138-2300-0021", "手机"}, {"0755-01238800", "公司"}}});
         std::vector<objc::Owned<NSObject>> objects;
@@ -44,38 +38,24 @@ class Recents : public testing::Test {
         for (const phone::RecentCallFacts &facts : calls) {
             objects.push_back(PHRecentCall::create(facts));
         }
-        sim::instance<SimWindow>(window_)->setRootViewController(list_);
+        list_ = show<phone::PHRecentsViewController>(
+            objc::make<phone::PHRecentsViewController>().as<NSObject>());
         list_->setCalls(sim::array(objects));
-        layOut();
-    }
-    void layOut() const { objc::send<void()>(window_.get(), "layoutIfNeeded"_sel); }
-    std::string rowSays(NSInteger row) const {
-        return stage::joinedTexts(UIView(*list_->cell(row)), UIView());
     }
 
-    objc::AutoreleasePool pool_;
-    objc::Owned<UIView> window_ = phone::makeView<SimWindow>(rect(0, 0, 320, 568));
-    objc::Owned<NSObject> owner_ = objc::make<phone::PHRecentsViewController>().as<NSObject>();
-    phone::PHRecentsViewController *list_ = sim::instance<phone::PHRecentsViewController>(owner_);
+    phone::PHRecentsViewController *list_ = nullptr;
 };
 
 TEST_F(Recents, ManyRowsShareAFewCells) {
-    std::vector<phone::RecentCallFacts> calls;
-    calls.reserve(10000);
-    for (int i = 0; i < 10000; ++i) {
-        calls.push_back({.number = std::to_string(13000000000 + i), .date = kNoon - i});
-    }
-    start(calls);
+    constexpr NSInteger kRows = 1000;
     std::set<phone::PHRecentsCell *> cells;
-    for (NSInteger row = 0; row < list_->rowCount(); row += 7) {
-        const objc::AutoreleasePool pool;
+    start(std::vector<phone::RecentCallFacts>(kRows));
+    for (NSInteger row = 0; row < kRows; row += 7) {
         ASSERT_TRUE(list_->scrollToRow(row));
         cells.insert(list_->cell(row));
     }
     EXPECT_LE(cells.size(), 12U);
-    EXPECT_TRUE(list_->scrollToRow(9999));
-    EXPECT_FALSE(list_->scrollToRow(10000));
-    EXPECT_EQ(rowSays(9999), "130 0000 9999 | 未知 | 9:13");
+    EXPECT_FALSE(list_->scrollToRow(kRows));
 }
 
 TEST_F(Recents, SwipesOpenOrShutByHalf) {
@@ -95,9 +75,9 @@ TEST_F(Recents, SwipesOpenOrShutByHalf) {
     ASSERT_TRUE(list_->swipeOpen(0));
     ASSERT_TRUE(list_->swipeOpen(1));
     EXPECT_EQ(list_->swipedRow(), 1) << "one at a time";
-    sim::tap(sim::instance<SimWindow>(window_), {300, 64 + 48 + 24});
+    sim::tap(window_, {300, 64 + 48 + 24});
     EXPECT_EQ(list_->rowCount(), 1);
-    EXPECT_EQ(rowSays(0), "130 0000 0001 | 未知 | 12:00");
+    EXPECT_EQ(says(UIView(*list_->cell(0))), "130 0000 0001 | 未知 | 12:00");
 }
 
 TEST_F(Recents, DetailsAreOfTheCallsContactOrStranger) {
@@ -120,33 +100,32 @@ TEST_F(Recents, DetailsAreOfTheCallsContactOrStranger) {
     NSInteger row = 0;
     for (const auto &[head, recordId, numbers] : rows) {
         ASSERT_TRUE(list_->openDetail(row++));
-        layOut();
         const NSObject contact = list_->detail()->contact();
-        EXPECT_EQ(stage::joinedTexts(UIView(*list_->detail()->headerView()), UIView()), head);
-        EXPECT_EQ(objc::send<int32_t()>(contact, "recordID"_sel), recordId);
-        EXPECT_EQ(objc::send<NSArray()>(contact, "phoneNumbers"_sel).count(), numbers);
+        EXPECT_EQ(says(UIView(*list_->detail()->headerView())), head);
+        EXPECT_EQ(send<int32_t()>(contact, "recordID"_sel), recordId);
+        EXPECT_EQ(send<NSArray()>(contact, "phoneNumbers"_sel).count(), numbers);
         EXPECT_FALSE(list_->swipe(0, 50));
-        sim::tap(sim::instance<SimView>(list_->detail()->backButton()));
+        tap(list_->detail()->backButton());
         EXPECT_EQ(list_->detail(), nullptr);
         EXPECT_EQ(g_appearances, row);
     }
     EXPECT_FALSE(list_->back());
 }
 
-TEST_F(Recents, CallsAnswerAsTheirSystemDoes) {
+TEST_F(Recents, CallsKnowWhatTheirSystemKnows) {
     for (const char *version : {"7.1", "8.0"}) {
         start({}, version);
         const bool isNew = version[0] == '8';
         const auto call =
-            PHRecentCall::create({.number = "+8613823000021", .incoming = true, .answered = false});
+            PHRecentCall::create({.number = "1", .incoming = true, .answered = false});
         EXPECT_EQ(call->respondsToSelector("callerId"_sel), isNew);
         EXPECT_EQ(call->respondsToSelector("destination"_sel), !isNew);
         EXPECT_EQ(call->respondsToSelector("addressBookRecord"_sel), !isNew);
-        EXPECT_EQ(objc::send<NSObject()>(call.get(), "date"_sel), NSObject());
-        const auto status = isNew ? objc::send<int32_t()>(call.get(), "callStatus"_sel)
-                                  : objc::send<int32_t()>(call.get(), "type"_sel);
-        EXPECT_EQ(status, 8);
-        EXPECT_EQ(objc::read<NSObject>(owner_, "_table"_ivar), NSObject(*list_->table()));
+        EXPECT_FALSE(send<NSObject()>(call.get(), "date"_sel));
+        EXPECT_EQ(isNew ? send<int32_t()>(call.get(), "callStatus"_sel)
+                        : send<int32_t()>(call.get(), "type"_sel),
+                  8);
+        EXPECT_EQ(objc::read<NSObject>(NSObject(*list_), "_table"_ivar), NSObject(*list_->table()));
     }
 }
 

@@ -1,115 +1,262 @@
-// Sessions with the add-on, and the commands as a whole.
-#include <fstream>
-
-#include <gmock/gmock.h>
-
+// Sessions, step by step, and command lines as a whole.
 #include "StageRun.hpp"
-#include "stage/Errors.hpp"
+#include "companion/Companion.hpp"
+#include "companion/SimulatedTime.hpp"
+#include "phone/incall/InCallController.hpp"
+#include "stage/CallsFile.hpp"
 
 namespace {
 
 namespace fs = std::filesystem;
+using companion::RecentCall;
+using stage::ScreenKind;
 using stage::Session;
-using stage::Step;
-using testing::EndsWith;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
-
+using Kind = stage::Step::Kind;
 using Stage = test::StageRun;
+using namespace std::chrono_literals;
 
-std::string typed(Session &session, const std::string &text) {
-    std::ostringstream out;
-    session.perform({Step::Kind::Type, text}, out);
-    return session.lineText();
-}
-
-TEST_F(Stage, TypesInTheSampleWorld) {
-    Session session(settings("7.1", "4"));
-    EXPECT_EQ(typed(session, "13800130011"), "林小满 | 手机");
-    session.openDialer();
-    EXPECT_EQ(typed(session, "4002001818"), "云雀速递");
-    EXPECT_EQ(session.numberText(), "400 200 1818");
-    session.openDialer();
-    EXPECT_EQ(typed(session, std::string(10000, '9')), "添加到通讯录");
-}
-
-TEST_F(Stage, SavesANewContact) {
-    std::ostringstream out;
+TEST_F(Stage, TypesInTheSampleWorldAndSavesANewContact) {
     Session session(settings("7.0", "4"));
-    const Step save{Step::Kind::SaveContact, "新朋友"};
-    EXPECT_THROW(session.perform(save, out), stage::Failure) << "no sheet is open";
-    typed(session, "4002001818");
-    session.perform({Step::Kind::Touch}, out);
-    session.perform(save, out);
+    const stage::Step save{Kind::SaveContact, "新朋友"};
+    EXPECT_THROW(perform(session, {save}), stage::Failure) << "no sheet is open";
+    const auto typed = [&session](const std::string &text) {
+        session.openDialer();
+        perform(session, {{Kind::Type, text}});
+        return session.lineText();
+    };
+    EXPECT_EQ(typed("13800130011"), "林小满 | 手机");
+    EXPECT_THAT(typed(std::string(10000, '9')), HasSubstr("添加到通讯录"));
+    EXPECT_THAT(typed("4002001818"), StartsWith("云雀速递"));
+    EXPECT_EQ(session.numberText(), "400 200 1818");
+    perform(session, {{Kind::Touch}, save});
     EXPECT_EQ(session.lineText(), "新朋友 | 手机");
     session.startOver();
-    EXPECT_THAT(typed(session, "4002001818"), StartsWith("云雀速递")) << "of the world as it was";
+    EXPECT_THAT(typed("4002001818"), StartsWith("云雀速递")) << "of the world as it was";
 }
 
-TEST_F(Stage, RunsStepsAndWritesPictures) {
-    const fs::path picture = folder_ / "screen.png";
-    const Outcome outcome = run({"dialer", "--type", "138", "--tree", "--delete", "1", "--png",
-                                 picture.string(), "--without-addon"});
-    EXPECT_EQ(outcome.code, 0) << outcome.err;
-    EXPECT_THAT(outcome.out, HasSubstr("UILabel (12, 2, 296, 46) \"138\""));
-    EXPECT_GT(fs::file_size(picture), 1000U);
+TEST_F(Stage, CallsTakeTheWholeWindowAndGiveItBack) {
+    Session session(settings("7.1", "4", false));
+    perform(session, {{Kind::Type, "138"}});
+    const phone::DialerController *const keypad = session.dialer();
+    EXPECT_FALSE(session.inCall());
+    session.open({ScreenKind::InCall, phone::Display::View});
+    EXPECT_THAT(session.tree(), HasSubstr("InCallLCDView"));
+    EXPECT_THAT(session.tree(), Not(HasSubstr("PhoneTabBar")));
+    EXPECT_EQ(session.dialer(), keypad);
+    session.open({ScreenKind::InCall});
+    EXPECT_THAT(session.tree(), HasSubstr("InCallLCDField")) << "the display of 7.1";
+    const std::pair<stage::Steps, const char *> rows[] = {
+        {{{Kind::Outgoing, "13800130011"}}, "林小满 | 手机"},
+        {{{Kind::Answer}, {Kind::Wait, {}, 1, 7s}}, "林小满 | 00:07"},
+        {{{Kind::Second, "200"}}, "林小满 | 保留 | 200 | 00:00"},
+        {{{Kind::Swap}}, "林小满 | 00:07 | 200 | 保留"},
+        {{{Kind::Merge}}, "会议通话 | 00:07"},
+        {{{Kind::End, {}, 1}}, "200 | 00:00"},
+        {{{Kind::End, {}, 1}}, "200 | 通话结束"},
+    };
+    for (const auto &[steps, says] : rows) {
+        perform(session, steps);
+        EXPECT_EQ(session.lineText(), says);
+    }
+    session.openDialer();
+    EXPECT_THAT(session.tree(), Not(HasSubstr("InCall")));
+    EXPECT_THAT(session.tree(), HasSubstr("PhoneTabBar"));
+    EXPECT_EQ(session.numberText(), "");
 }
 
-TEST_F(Stage, MissingFolderStopsBeforeTheFirstStep) {
-    const std::string picture = folder_ / "nowhere" / "screen.png";
-    const Outcome outcome = run({"dialer", "--tree", "--png", picture});
-    EXPECT_EQ(outcome.code, 1);
-    EXPECT_EQ(outcome.out, "");
-    EXPECT_THAT(outcome.err, StartsWith("phone-simulator: " + picture));
+TEST_F(Stage, StepsOfACallSayWhatTheyNeed) {
+    Session session(settings("7.1", "4", false));
+    session.open({ScreenKind::InCall});
+    expectEach(session,
+               {{{Kind::Answer}, "--answer: no call is ringing or being dialled; begin one with"},
+                {{Kind::Second, "10086"}, "--second: no call is talked on; begin one with"},
+                {{Kind::End, {}, 1}, "--end 1: there is no call; begin one with"},
+                {{Kind::Type, "1"}, "the in-call screen is shown"},
+                {{Kind::Incoming, "13800130011"}, "done"},
+                {{Kind::Second, "10086"}, "--second: no call is talked on; --answer the first one"},
+                {{Kind::End, {}, 2}, "--end 2: there is one call; end call 1"},
+                {{Kind::Answer}, "done"},
+                {{Kind::Answer}, "--answer: no call is ringing"},
+                {{Kind::Swap}, "--swap: there is no held call"},
+                {{Kind::Merge}, "--merge: there is no held call"},
+                {{Kind::Second, "10086"}, "done"},
+                {{Kind::End, {}, 3}, "--end 3: there are 2 calls; end one from 1 to 2"}});
+    session.openDialer();
+    expectEach(session, {{{Kind::Answer}, "the keypad is shown"}});
 }
 
-TEST_F(Stage, BrokenWorldEndsInOneLine) {
-    const fs::path world = folder_ / "world.json";
-    std::ofstream(world) << R"({"contacts": 3})";
-    const Outcome outcome = run({"describe", "10086", "--world", world.string()});
-    EXPECT_EQ(outcome.code, 1);
-    EXPECT_EQ(outcome.out, "");
-    EXPECT_THAT(outcome.err, HasSubstr(world.string()));
-    EXPECT_THAT(outcome.err, EndsWith("\n"));
-    EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1);
+TEST_F(Stage, StepsOfTheRecentsSayWhatTheyNeed) {
+    Session session(settings("7.1", "3.5"));
+    session.open({ScreenKind::Recents});
+    expectEach(session,
+               {{{Kind::Open, {}, 46}, "--open 46: there are 45 rows; choose one"},
+                {{Kind::Open, {}, 45}, "the row is not on screen; --scroll row:45 first"},
+                {{Kind::Release}, "--release: no finger is on the screen"},
+                {{Kind::Press, "search"}, "--press search: no button 搜索 is on the screen"},
+                {{Kind::Edit, "off"}, "--edit off: the list is not in edit mode"},
+                {{Kind::Tab, "away"}, "done"},
+                {{Kind::Scroll}, "--scroll: another tab is shown; --tab back first"},
+                {{Kind::Tab, "back"}, "done"},
+                {{Kind::Open, {}, 1}, "done"},
+                {{Kind::Swipe, {}, 1}, "--swipe 1: a detail is shown; --back first"},
+                {{Kind::Back}, "done"},
+                {{Kind::Edit, "on"}, "done"},
+                {{Kind::Swipe, {}, 1}, "the list is in edit mode; --edit off first"}});
 }
 
-TEST_F(Stage, DataFolderHasToBeAFolder) {
-    std::ofstream(folder_ / "data") << "in the way";
-    const Outcome outcome = run({"describe", "10086"});
-    EXPECT_EQ(outcome.code, 1);
-    EXPECT_THAT(outcome.err, HasSubstr("cannot be made a data folder"));
+TEST_F(Stage, TimeIsExactAndStandsStillBetweenWaits) {
+    Session session(settings("7.1", "4"));
+    const auto start = companion::SimulatedTime::shared().now();
+    const auto list = objc::send<NSArray()>("NSMutableArray"_cls, "array"_sel);
+    for (const auto &[text, seconds] : {std::pair{"second"_ns, 0.5}, {"first"_ns, 0.25}}) {
+        objc::send<void(SEL, id, double)>(list, "performSelector:withObject:afterDelay:"_sel,
+                                          SEL("addObject:"_sel), text, seconds);
+    }
+    session.wait(499ms);
+    EXPECT_EQ(list.count(), 1U);
+    session.wait(1ms);
+    ASSERT_EQ(list.count(), 2U);
+    EXPECT_TRUE(list.objectAtIndex(0).as<NSString>().isEqualToString("first"_ns));
+    session.openDialer();
+    EXPECT_EQ(companion::SimulatedTime::shared().now(), start + 500ms);
+}
+
+TEST_F(Stage, StartsOverWithoutAnythingToCome) {
+    Session session(settings("7.1", "4", false));
+    companion::awaited() = 0;
+    const objc::AutoreleasePool pool;
+    const fs::path logo = companion::logoFile(5012);
+    objc::send<void(NSString, NSString)>(
+        objc::send<id()>("ZQPartnerManager"_cls, "defaultManager"_sel),
+        "doDownloadPartnerIcon:destPath:"_sel, "logo_restaurant.png"_ns,
+        NSString::withUTF8String(logo.c_str()));
+    EXPECT_EQ(companion::awaited(), 1);
+    session.startOver();
+    EXPECT_EQ(companion::awaited(), 0);
+    session.wait(10s);
+    EXPECT_FALSE(fs::exists(logo));
+}
+
+TEST_F(Stage, DoesTheStepsOfACommandLine) {
+    const fs::path pictures[] = {folder_ / "dialer.png", folder_ / "call.png"};
+    const Outcome dialer = run({"dialer", "--type", "138", "--tree", "--delete", "1", "--png",
+                                pictures[0].string(), "--without-addon"});
+    const Outcome call =
+        run({"incall", "--ios", "7.0", "--screen", "3.5", "--incoming", "13800130011", "--tree",
+             "--answer", "--pace", "0.002", "--wait", "61.5", "--layout", "--tree", "--png",
+             pictures[1].string(), "--without-addon"});
+    EXPECT_EQ(dialer.err + call.err, "");
+    EXPECT_EQ(dialer.code + call.code, 0);
+    EXPECT_THAT(dialer.out, HasSubstr("UILabel (12, 2, 296, 46) \"138\""));
+    EXPECT_THAT(call.out, HasSubstr("\"手机\""));
+    EXPECT_THAT(call.out, HasSubstr("\"01:01\""));
+    for (const fs::path &picture : pictures) {
+        EXPECT_GT(fs::file_size(picture), 1000U);
+    }
+}
+
+TEST_F(Stage, PrintsWhatItOpens) {
+    const Outcome outcome = run({"recents", "--ios", "7.1", "--swipe", "1", "--release", "--press",
+                                 "mark", "--open", "7", "--press", "correct"});
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_THAT(outcome.out, HasSubstr("opens zequor://mark?17700000061/1402535645\n"
+                                       "opens zequor://errorCorrect?4002001818/\n"));
+}
+
+TEST_F(Stage, KeepsTheSystemLogOffTheTerminal) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(run({"incall", "--incoming", "17700000061"}).err, "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_GT(fs::file_size(folder_ / "data" / "system.log"), 0U)
+        << "the add-on logs each layout of a display of 7.0";
 }
 
 TEST_F(Stage, ListsHooks) {
     const Outcome outcome = run({"hooks", "--ios", "8.0", "--without-class", "PHRecentsCell"});
-    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_EQ(outcome.err, "");
     EXPECT_THAT(outcome.out, HasSubstr("replace_PHRecentsViewController_viewWillAppear_"));
     EXPECT_THAT(outcome.out, HasSubstr("skipped: no such class"));
-    EXPECT_THAT(outcome.out, EndsWith("iOS 8.0, 4 inch: 1 method replaced, 1 skipped\n"));
-    const Outcome unknown = run({"hooks", "--without-class", "PHRecentsRow"});
-    EXPECT_EQ(unknown.code, 1);
-    EXPECT_THAT(unknown.err, HasSubstr("the Phone application has no class PHRecentsRow"));
+    EXPECT_THAT(outcome.out, testing::EndsWith("iOS 8.0, 4 inch: 1 method replaced, 1 skipped\n"));
 }
 
-TEST_F(Stage, WrongUsageIsCodeTwo) {
-    const Outcome outcome = run({"gallery"});
-    EXPECT_EQ(outcome.code, 2);
-    EXPECT_EQ(outcome.out, "");
-    EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1);
-}
-
-TEST_F(Stage, FailedGalleryLeavesNothing) {
-    const fs::path world = folder_ / "world.json";
-    std::ofstream(world) << "[]";
-    const fs::path gallery = folder_ / "gallery";
-    const Outcome outcome = run({"gallery", "--out", gallery.string(), "--world", world.string()});
-    EXPECT_EQ(outcome.code, 1);
-    EXPECT_THAT(outcome.err, HasSubstr(world.string()));
-    EXPECT_FALSE(fs::exists(gallery));
-    for (const auto &entry : fs::directory_iterator(folder_)) {
-        EXPECT_FALSE(entry.path().filename().string().starts_with("gallery")) << entry.path();
+TEST_F(Stage, FailsWithOneLineAndLeavesNothing) {
+    const std::string world = folder_ / "world.json";
+    const std::string picture = folder_ / "nowhere" / "screen.png";
+    const std::string gallery = folder_ / "gallery";
+    test::writeFile(world, R"({"contacts": 3})");
+    test::writeFile(folder_ / "in the way", "");
+    const struct {
+        std::vector<std::string> words;
+        int code;
+        std::string complaint;
+    } rows[] = {
+        {{"gallery"}, 2, "gallery: --out FOLDER is missing"},
+        {{"gallery", "--out", gallery, "--world", world}, 1, world},
+        {{"describe", "10086", "--world", world}, 1, world},
+        {{"describe", "1", "--data", folder_ / "in the way"}, 1, "cannot be made a data folder"},
+        {{"dialer", "--tree", "--png", picture}, 1, "phone-simulator: " + picture},
+        {{"hooks", "--without-class", "PHRecentsRow"}, 1, "has no class PHRecentsRow"},
+        {{"incall", "--incoming", "1", "--end", "3", "--tree", "--without-addon"},
+         1,
+         "phone-simulator: --end 3: there is one call; end call 1\n"},
+    };
+    for (const auto &[words, code, complaint] : rows) {
+        const Outcome outcome = run(words);
+        EXPECT_EQ(outcome.code, code);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_THAT(outcome.err, HasSubstr(complaint));
+        EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1) << outcome.err;
     }
+    for (const auto &entry : fs::directory_iterator(folder_.path())) {
+        EXPECT_THAT(entry.path().filename(), Not(StartsWith("gallery")));
+    }
+}
+
+TEST_F(Stage, ReadsAnOwnCallHistoryLatestFirst) {
+    test::writeFile(folder_ / "calls.csv",
+                    "\xEF\xBB\xBFnumber,name,direction,time,answered\r\n"
+                    ",,incoming,,no\r\n"
+                    "10086,,outgoing,2014-06-01T00:00:00Z,yes\r\n"
+                    "\r\n"
+                    "\"10,086\",\"Luna \"\"L\"\"\r\n楼上\",incoming,2014-06-01T00:00:01Z,yes");
+    EXPECT_THAT(
+        stage::readCallsFile(folder_ / "calls.csv"),
+        testing::ElementsAre(RecentCall{"10,086", "Luna \"L\"\n楼上", "", true, true, 1401580801},
+                             RecentCall{"10086", "", "", false, true, 1401580800},
+                             RecentCall{.incoming = true}));
+}
+
+TEST_F(Stage, NamesTheMistakesOfACallHistoryByLine) {
+    const auto refusal = [](const std::filesystem::path &file) -> std::string {
+        try {
+            stage::readCallsFile(file);
+        } catch (const stage::Failure &failure) {
+            return failure.what();
+        }
+        return "accepted";
+    };
+    const std::string heading = "number,name,direction,time,answered\n";
+    const std::string good = "1,,incoming,,no\n";
+    const std::pair<std::string, std::string> cases[] = {
+        {"", "a mistake, so that nothing of it is used; mend this:\n"},
+        {"number,name\n", ":1: no heading; begin with"},
+        {heading + good + "1,,in,,no\n", ":3: direction is 'in'; write incoming or outgoing"},
+        {heading + "1,,incoming,,maybe\n", ":2: answered is 'maybe'; write yes or no"},
+        {heading + "1,,incoming,2014-02-30T00:00:00Z,no\n", ":2: time is '2014-02-30T00:00:00Z'"},
+        {heading + "\"1\n2\",,incoming,,no\n1,no\n", ":4: 2 fields instead of 5"},
+        {heading + "1,\xFF,incoming,,no\n", ":2: '\xEF\xBF\xBD' is no UTF-8 text"},
+        {heading + good + "1,\"a\n" + good, ":3: a quote that is never closed"},
+        {heading + "1,\"a\"b,incoming,,no\n", ":2: text behind a closing quote"},
+        {heading + "1,a\"b,incoming,,no\n", ":2: a quote inside a field"},
+    };
+    for (const auto &[content, complaint] : cases) {
+        test::writeFile(folder_ / "calls.csv", content);
+        EXPECT_THAT(refusal(folder_ / "calls.csv"), HasSubstr(complaint));
+    }
+    EXPECT_THAT(refusal(folder_.path()), HasSubstr("cannot be read"));
 }
 
 }  // namespace

@@ -1,37 +1,52 @@
-// A folder of a test's own, and sessions and command lines that keep their data there.
+// Sessions and command lines that keep their data in a folder of their own.
 #pragma once
 
-#include <algorithm>
-#include <filesystem>
 #include <sstream>
-#include <string>
-#include <vector>
 
-#include <gtest/gtest.h>
-#include <unistd.h>
+#include <gmock/gmock.h>
 
+#include "companion/TemporaryFolder.hpp"
+#include "stage/Errors.hpp"
 #include "stage/Run.hpp"
 #include "stage/Session.hpp"
 
 namespace test {
 
 class StageRun : public testing::Test {
-  public:
-    StageRun() {
-        std::filesystem::remove_all(folder_);
-        std::filesystem::create_directories(folder_);
-    }
-    ~StageRun() override { std::filesystem::remove_all(folder_); }
-
   protected:
     /// Simulated seconds pass at once, and texts are measured by rule.
-    stage::Settings settings(std::string_view ios, std::string_view screen) const {
+    stage::Settings settings(std::string_view ios, std::string_view screen,
+                             bool withAddOn = true) const {
         stage::Settings settings;
         settings.model = stage::modelNamed(ios, screen);
+        settings.withAddOn = withAddOn;
         settings.data = folder_ / "data";
         settings.fixedMeasurer = true;
         settings.pace = 0.002;
         return settings;
+    }
+
+    /// What the steps print.
+    static std::string perform(stage::Session &session, const stage::Steps &steps) {
+        std::ostringstream out;
+        for (const stage::Step &step : steps) {
+            session.perform(step, out);
+        }
+        return out.str();
+    }
+
+    /// Each step is done, or refused with a message that contains what stands beside it.
+    static void expectEach(stage::Session &session,
+                           std::initializer_list<std::pair<stage::Step, const char *>> steps) {
+        for (const auto &[step, complaint] : steps) {
+            std::string message = "done";
+            try {
+                perform(session, {step});
+            } catch (const stage::Failure &failure) {
+                message = failure.what();
+            }
+            EXPECT_THAT(message, testing::HasSubstr(complaint));
+        }
     }
 
     struct Outcome {
@@ -41,16 +56,14 @@ class StageRun : public testing::Test {
     };
 
     Outcome run(std::vector<std::string> words) const {
-        words.insert(words.end(), {"--data", (folder_ / "data").string()});
+        words.insert(words.begin() + 1, {"--data", (folder_ / "data").string()});
         std::ostringstream out;
         std::ostringstream err;
         const int code = stage::run(words, out, err);
         return {code, out.str(), err.str()};
     }
 
-    // Cases run as processes of their own, several at a time.
-    std::filesystem::path folder_ =
-        std::filesystem::path(testing::TempDir()) / ("zqdial-stage-" + std::to_string(getpid()));
+    TemporaryFolder folder_;
 };
 
 }  // namespace test
