@@ -81,7 +81,7 @@ SimLayer *SimView::layer() const {
 void SimView::layoutIfNeeded() {
     if (needsLayout_) {
         needsLayout_ = false;
-        objc::send<void()>(id(*this), "layoutSubviews"_sel);
+        objc::send<void(SimLayer *)>(id(*this), "layoutSublayersOfLayer:"_sel, layer());
     }
     // By a copy: a layout may add and remove views.
     std::vector<objc::Owned<UIView>> subviews;
@@ -92,6 +92,10 @@ void SimView::layoutIfNeeded() {
     for (const objc::Owned<UIView> &subview : subviews) {
         objc::send<void()>(subview, "layoutIfNeeded"_sel);
     }
+}
+
+void SimView::layoutSublayersOfLayer(NSObject) {
+    objc::send<void()>(id(*this), "layoutSubviews"_sel);
 }
 
 CGSize SimView::sizeThatFits(CGSize) const { return frame_.size; }
@@ -157,6 +161,7 @@ void SimView::define() {
             .method("willRemoveSubview:"_sel, member<&SimView::ignoreView>)
             .method("setNeedsLayout"_sel, member<&SimView::setNeedsLayout>)
             .method("layoutIfNeeded"_sel, member<&SimView::layoutIfNeeded>)
+            .method("layoutSublayersOfLayer:"_sel, member<&SimView::layoutSublayersOfLayer>)
             .method("layoutSubviews"_sel, member<&SimView::layoutSubviews>)
             .method("sizeThatFits:"_sel, member<&SimView::sizeThatFits>)
             .method("sizeToFit"_sel, member<&SimView::sizeToFit>)

@@ -73,9 +73,11 @@ class SimView : public SimResponder {
     void ignoreView(SimView *) {}
     void ignoreMove() {}
 
-    // Layout, by message: layoutIfNeeded sends layoutSubviews to every view that needs it.
+    // Layout, by message: a view that needs it is laid out by way of its layer, whose delegate it
+    // is. That message sends layoutSubviews even while layoutSubviews runs.
     void setNeedsLayout() { needsLayout_ = true; }
     void layoutIfNeeded();
+    void layoutSublayersOfLayer(NSObject layer);
     void layoutSubviews() {}
     CGSize sizeThatFits(CGSize room) const;
     void sizeToFit();

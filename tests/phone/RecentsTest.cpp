@@ -101,9 +101,13 @@ TEST_F(Recents, DetailsAreOfTheCallsContactOrStranger) {
     for (const auto &[head, recordId, numbers] : rows) {
         ASSERT_TRUE(list_->openDetail(row++));
         const NSObject contact = list_->detail()->contact();
-        EXPECT_EQ(says(UIView(*list_->detail()->headerView())), head);
+        phone::ABContactHeaderView *const header = list_->detail()->headerView();
+        EXPECT_EQ(says(UIView(*header)), head);
         EXPECT_EQ(send<int32_t()>(contact, "recordID"_sel), recordId);
         EXPECT_EQ(send<NSArray()>(contact, "phoneNumbers"_sel).count(), numbers);
+        header->nameLabel().setFrame({});
+        send<void(id)>(*header, "layoutSublayersOfLayer:"_sel, nullptr);
+        EXPECT_NE(header->nameLabel().frame(), CGRect{}) << "laid out by way of its layer";
         EXPECT_FALSE(list_->swipe(0, 50));
         tap(list_->detail()->backButton());
         EXPECT_EQ(list_->detail(), nullptr);

@@ -22,11 +22,18 @@ class CountingView : public SimView {
     void layoutSubviews() {
         ++layouts;
         objc::sendSuper<CountingView, void()>(this, "layoutSubviews"_sel);
+        if (nestedPasses-- > 0) {
+            layOutLayer();
+        }
+    }
+    void layOutLayer() {
+        objc::send<void(SimLayer *)>(id(*this), "layoutSublayersOfLayer:"_sel, layer());
     }
     void didMoveToWindow() { windows += window() != nullptr ? "+" : "-"; }
 
     std::string windows;
     int layouts = 0;
+    int nestedPasses = 0;
 
     static Class define() {
         static const Class g_class = sim::defined(
@@ -128,6 +135,9 @@ TEST_F(Views, LayOutOnceWhenNeededAndHearOfWindows) {
     layOut(window);
     EXPECT_EQ(inner->layouts, 2);
     EXPECT_EQ(outer->layouts, 1);
+    inner->nestedPasses = 3;
+    inner->layOutLayer();
+    EXPECT_EQ(inner->layouts, 6) << "a pass of the layer is one of the view, even within a pass";
     outer->removeFromSuperview();
     EXPECT_EQ(inner->windows, "+-");
 }

@@ -30,7 +30,6 @@ void ABContactHeaderView::define() {
                      .method("isEditing"_sel, member<&Self::isEditing>)
                      .method("setEditing:"_sel, member<&Self::setEditing>)
                      .method("layoutSubviews"_sel, member<&Self::layoutSubviews>)
-                     .method("layoutSublayersOfLayer:"_sel, member<&Self::layoutSublayersOfLayer>)
                      .finish());
 }
 

@@ -22,8 +22,6 @@ class ABContactHeaderView : public SimView {
     bool isEditing() const { return editing_; }
     void setEditing(bool editing) { editing_ = editing; }
     void layoutSubviews();
-    /// Layers lay themselves out with their views here.
-    void layoutSublayersOfLayer(NSObject) {}
 
     UILabel nameLabel() const { return nameLabel_; }
     UILabel taglineLabel() const { return taglineLabel_; }
