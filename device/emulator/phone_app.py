@@ -194,8 +194,6 @@ class ABContactHeaderView(UIView):
 
     variables = ("_contact", "_taglineLabel", "_personHeaderView", "_nameLabel")
     isEditing = prop("c", False)
-    layer = prop("@")
-    layout_layers = work("layoutSublayersOfLayer:", "v@:@")
 
 
 HOOKED: list[type[Instance]] = [

@@ -67,6 +67,10 @@ class UIScreen(NSObject):
         return (0.0, 0.0, 320.0, 480.0 if self.runtime.world.short_screen else 568.0)
 
 
+class CALayer(NSObject):
+    """What a view is drawn on."""
+
+
 class UIView(NSObject):
     """A view in a tree of views; frames are (x, y, width, height) in points."""
 
@@ -76,10 +80,12 @@ class UIView(NSObject):
     hidden = prop("c", False)
     backgroundColor = prop("@")
     superview = prop("@")
+    layer = prop("@")
 
     def __init__(self, objc_class: ObjcClass, address: int) -> None:
         super().__init__(objc_class, address)
         self.children: list[UIView] = []
+        self.layer = self.runtime.new("CALayer")
 
     @message("initWithFrame:", "@@:{CGRect}")
     def init_frame(self, frame: tuple[float, ...]) -> Instance:
@@ -108,6 +114,11 @@ class UIView(NSObject):
 
     view_with_tag = answer("viewWithTag:", "@@:l", lambda self, tag: self.find(tag))
     layout_subviews = answer("layoutSubviews", "v@:", lambda self: None)
+
+    @message("layoutSublayersOfLayer:", "v@:@")
+    def layout_sublayers(self, layer: Any) -> None:
+        # Nothing keeps it from being sent again while the view is laid out.
+        self.runtime.send(self, "layoutSubviews")
 
     def add(self, view: "UIView") -> None:
         """Makes a view a child of this one, which holds it."""
@@ -196,6 +207,7 @@ KINDS: list[type[Instance]] = [
     UIFont,
     UIImage,
     UIScreen,
+    CALayer,
     UIView,
     UILabel,
     UIImageView,

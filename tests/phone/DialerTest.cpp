@@ -16,8 +16,8 @@ class Dialer : public test::PhoneRun {
     void start(const char *version = "7.0", CGFloat height = 568) {
         setDevice(version, height);
         ContactBook::shared().add({"林小满", {{"138 0013 0011", "手机"}}});
-        dialer_ = show<phone::DialerController>(
-            objc::make<phone::DialerController>().as<NSObject>());
+        dialer_ =
+            show<phone::DialerController>(objc::make<phone::DialerController>().as<NSObject>());
     }
     void press(const std::string &signs) const {
         for (const char sign : signs) {
