@@ -1,8 +1,8 @@
 // An address book of somebody else's: a person is the array of its numbers, and so is the value
 // that holds them. What is copied is the caller's; releasing nothing is a fault, as it ever was.
-#import <Foundation/Foundation.h>
-
 #include <cstdlib>
+
+#import <Foundation/Foundation.h>
 
 extern "C" {
 extern const int kABPersonPhoneProperty;  // or it would be this file's alone

@@ -1,183 +1,92 @@
-// What the add-on remembers of somebody else's recent calls, and how it reads them.
-#import "Calls.h"
-
-#include <atomic>
-#include <cmath>
-#include <limits>
+// What the add-on remembers of somebody else's recent calls.
+#include <future>
 
 #include <objc/objc-sync.h>
-#include <unistd.h>
 
-void checkCalls() {
-    Class helper = NSClassFromString(@"ZQSystemCallHistoryClassHelper");
-    for (int status : {-1, 0, 1, 2, 3, 4, 5, 7, 8, 9, 16, 33, 36, 40, 65}) {
-        bool isIncoming = status == 1 || status == 4 || status == 8;
-        Case name([NSString stringWithFormat:@"status %d", status]);
-        check([helper isOneIncomingCall:callFrom(kNumber, 0, status)] == isIncoming,
-              "its direction");
-    }
-    RecentCall *plain = [[[RecentCall alloc] init] autorelease];
-    for (RecentCall *call : {plain, (RecentCall *)nil}) {
-        check(![helper isOneIncomingCall:call] && ![helper isOneContactCall:call] &&
-                  ![helper getCallNumberFromRecentCall:call],
-              "a call that answers nothing says nothing");
-    }
-    check([helper isOneContactCall:contactCallFrom(kNumber)] &&
-              ![helper isOneContactCall:callFrom(kNumber)] &&
-              [helper isOneContactCall:destinationCall(YES)] == !isNewer() &&
-              ![helper isOneContactCall:destinationCall(NO)],
-          "a contact's call");
-    NSMutableString *own = [NSMutableString stringWithString:kNumber];
-    RecentCall *call = callFrom(nil);
-    call->number = [own retain];
-    NSString *copy = [helper getCallNumberFromRecentCall:call];
-    [own setString:@"1"];
-    check(copy != own && [copy isEqual:kNumber], "the number handed on is the caller's");
-}
+#import "Rows.h"
 
-void checkCache() {
+static void checkCache() {
+    [Stage reset];
     id service = [hook() currentHook];
     NSMutableDictionary *cache = [service numberInfoAndCallCacheDict];
-    auto asked = [] { return [Stage timesAsked:@"getIdentityOfRecord:"]; };
-    check(service == [hook() currentHook] && [cache count] == 0, "the cache begins empty");
-    const double kInfinity = std::numeric_limits<double>::infinity();
-    const struct {
-        double seconds;
-        const char *key;
-    } kKeys[] = {
-        {1400000000.6, "1400000001"},
-        {1400000001.4, "1400000001"},
-        {1400000002, "1400000002"},
-        {-1.6, "-2"},
-        {-0.25, "-0"},
-        {0.5, "0"},
-        {2.5, "2"},
-        {3.5, "4"},
-        {-1e12, "-1000000000000"},
-        {1e20, "100000000000000000000"},
-        {kInfinity, "inf"},
-        {-kInfinity, "-inf"},
-    };
-    for (const auto &each : kKeys) {
-        Case name([NSString stringWithUTF8String:each.key]);
-        [service getInfoWithRecentCall:callFrom(kNumber, each.seconds)];
-        NSString *key = [NSString stringWithFormat:@"%@_%s", kNumber, each.key];
-        check(isText([cache objectForKey:key], @"广东广州"), "the call is remembered");
+    for (double seconds : {1400000000.6, 1400000001.4, 2.5, -0.25}) {
+        [service getInfoWithRecentCall:callFrom(kNumber, seconds)];
     }
-    check([cache count] == 11 && asked() == 11, "calls of one second are one");
-    RecentCall *timeless = callFrom(kNumber, std::nan(""));
-    check(isText(textOf(row(timeless)), @"广东广州") && isText(textOf(row(timeless)), @"广东广州"),
-          "a call of no time is shown");
-    check(asked() == 12, "and remembered");
-    for (NSUInteger length = 0; length < 200; ++length) {
-        NSString *number = [@"" stringByPaddingToLength:length withString:@"5" startingAtIndex:0];
-        [service getInfoWithRecentCall:callFrom(number, -1e15)];
-        NSString *key = [number stringByAppendingString:@"_-1000000000000000"];
-        check(isText([cache objectForKey:key], @"广东广州"),
-              "a number of any length is remembered");
+    for (NSString *seconds : {@"1400000001", @"2", @"-0"}) {
+        NSString *key = [NSString stringWithFormat:@"%@_%@", kNumber, seconds];
+        expectEqual([cache objectForKey:key], @"广东广州");
     }
+    expectEqual([cache count], 3);  // calls of one second are one
+    expectEqual([Stage timesAsked:@"getRecordForNumber:atSysDate:"], 3);
 
     // The companion learns more, and says so.
     [Stage know:identity(7, @"推销", 12) of:kPure];
-    RecentsRow *cell = row(callFrom(kNumber, 1400000002));
-    check(isText(textOf(cell), @"广东广州"), "what is remembered is shown");
-    [Stage announce:@"msgSystemProcessReloadAllNum"];
-    check([cache count] == 0 && cache == [service numberInfoAndCallCacheDict],
-          "the cache is emptied");
-    check(isText(textOf(cell), @"推销 0"), "and the call looked up again");
+    PHRecentsCell *row = rowOf(callFrom(kNumber, 2.5));
+    expectEqual(textOf(row), @"广东广州");
+    [Stage reload];
+    expectEqual([cache count], 0);
+    expectEqual(textOf(row), @"推销 0");
 
     [Stage let:@"descriptionOfNumber:" answer:nil];
-    check(![service getInfoWithRecentCall:callFrom(@"5")], "nothing is known");
-    check(isText([service getInfoWithRecentCall:callFrom(@"5")], @""), "which is remembered too");
-    check(isText([cache objectForKey:@"5_1400000000"], @""), "as an empty text");
-    NSUInteger count = [cache count];
-    check(![service getInfoWithRecentCall:callFrom(nil)] && ![service getInfoWithRecentCall:nil] &&
-              [cache count] == count,
-          "without a number nothing is remembered");
+    expectEqual([service getInfoWithRecentCall:callFrom(@"5")], nil);
+    expectEqual([service getInfoWithRecentCall:callFrom(@"5")], @"");  // which is remembered too
+    expectEqual([service getInfoWithRecentCall:callFrom(nil)], nil);
+    expectEqual([cache count], 2);
 
     // Links say which call was looked up last.
     [service getInfoWithRecentCall:callFrom(@"6 6", 66)];
-    check(isText(markLink(), @"zequor://mark?66/66"), "a lookup leaves its number and date");
     [service getInfoWithRecentCall:callFrom(@"5")];
-    check(isText(markLink(), @"zequor://mark?66/66"), "what is remembered leaves none");
-}
+    expectEqual(markLink(), @"zequor://mark?66/66");
 
-// The cache is a property like any other, of each hook its own.
-void checkProperty() {
-    id service = [hook() currentHook], other = [[hook() alloc] init];
-    NSMutableDictionary *cache = [[service numberInfoAndCallCacheDict] retain];
-    check([other numberInfoAndCallCacheDict] && [other numberInfoAndCallCacheDict] != cache,
-          "another hook has its own");
-    [other getInfoWithRecentCall:callFrom(kNumber)];
-    check([[other numberInfoAndCallCacheDict] count] == 1 && [cache count] == 0, "and fills it");
-    [other release];
     [service setNumberInfoAndCallCacheDict:nil];
-    check(isText(textOf(row(callFrom(kNumber))), @"广东广州"), "a row without a cache");
-    [Stage announce:@"msgSystemProcessReloadAllNum"];
-    [service setNumberInfoAndCallCacheDict:cache];
-    [cache release];
-    [service getInfoWithRecentCall:callFrom(kNumber)];
-    check([[service numberInfoAndCallCacheDict] count] == 1, "a cache that is given back");
+    expectEqual(textOf(rowOf(callFrom(kNumber, 7))), @"推销 0");
+    [Stage reload];
 }
+static const Group g_cache("cache", kPhone, checkCache);
 
-// Another thread of the Phone application: what it has come to, and what it waits for.
-static std::atomic<bool> g_isReady, g_isReleased, g_isLate, g_isDone;
-
-@interface Other : NSObject
-@end
-
-@implementation Other
-+ (void)hold:(id)monitored {
-    objc_sync_enter(monitored);
-    g_isReady = true;
-    for (int i = 0; i < 500 && !g_isReleased; ++i) {
-        usleep(10000);
-    }
-    g_isLate = !g_isReleased;
-    objc_sync_exit(monitored);
-    g_isDone = true;
-}
-+ (void)announce:(id)message {
-    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-    g_isReady = true;
-    [Stage announce:message];
-    g_isDone = true;
-    [pool drain];
-}
-@end
-
-static void begin(SEL work, id object) {
-    g_isReady = g_isReleased = g_isDone = false;
-    [NSThread detachNewThreadSelector:work toTarget:[Other class] withObject:object];
-    while (!g_isReady) {
-        usleep(1000);
+// A reload that comes during a lookup is about what the lookup is told.
+static void checkReloadMeanwhile() {
+    for (bool isKnown : {false, true}) {
+        atEachQuestion([=](const Troubled &troubled) {
+            [Stage reset];
+            [Stage know:isKnown ? identity(7, @"推销", 12) : nil of:kPure];
+            PHRecentsCell *row = rowOf(callFrom(kNumber));
+            bool isNews = false;
+            troubled([&] { [row layoutSubviews]; },
+                     [&] {
+                         isNews = true;
+                         [Stage know:identity(7, @"骚扰", 12) of:kPure];
+                         [Stage reload];
+                     });
+            expectEqual(textOf(row), isNews ? @"骚扰 0" : isKnown ? @"推销 0" : @"广东广州");
+        });
     }
 }
-
-static bool ends() {
-    for (int i = 0; i < 1000 && !g_isDone; ++i) {
-        usleep(10000);
-    }
-    return g_isDone;
-}
+static const Group g_reload("cache, a reload during a lookup", kPhone, checkReloadMeanwhile);
 
 // The companion's message may come on any thread: it takes the monitor, which lookups do without.
-void checkMonitor() {
-    NSString *const kMessage = @"msgSystemProcessReloadAllNum";
+static void checkMonitor() {
+    [Stage reset];
     id service = [hook() currentHook];
-    begin(@selector(hold:), service);
+    std::promise<void> held, released;
+    auto holding = std::async(std::launch::async, [&] {
+        objc_sync_enter(service);
+        held.set_value();
+        auto status = released.get_future().wait_for(std::chrono::seconds(5));
+        objc_sync_exit(service);
+        return status;
+    });
+    held.get_future().wait();
     [service getInfoWithRecentCall:callFrom(kNumber)];
-    [service getInfoWithRecentCall:callFrom(kNumber)];
-    g_isReleased = true;
-    check(ends() && !g_isLate, "lookups do not wait");
+    released.set_value();
+    expectTrue(holding.get() == std::future_status::ready);
 
     objc_sync_enter(service);
-    begin(@selector(announce:), kMessage);
-    usleep(50000);
-    check([[service numberInfoAndCallCacheDict] count] == 1, "the message does");
+    auto reloading = std::async(std::launch::async, [] { inPool([] { [Stage reload]; }); });
+    expectTrue(reloading.wait_for(std::chrono::milliseconds(50)) == std::future_status::timeout);
+    expectEqual([[service numberInfoAndCallCacheDict] count], 1);
     objc_sync_exit(service);
-    check(ends() && [[service numberInfoAndCallCacheDict] count] == 0, "and then empties");
-    objc_sync_enter(service);
-    [Stage announce:kMessage];
-    objc_sync_exit(service);
+    reloading.get();
+    expectEqual([[service numberInfoAndCallCacheDict] count], 0);
 }
+static const Group g_monitor("cache, on two threads", kPhone, checkMonitor);

@@ -1,220 +1,188 @@
 // A companion of somebody else's: what it is told to know and to say, and its helpers. The cloud
 // answers when it is told to.
-#import "Companion.h"
+#include <cmath>
+#include <utility>
+#include <vector>
 
+#import "Companion.h"
 #import "UIKit.h"
 
-#include <cmath>
-#include <cstdlib>
-#include <initializer_list>
-
-static NSMutableDictionary *g_answers, *g_identities, *g_histories, *g_people, *g_stored;
-static NSCountedSet *g_asked;
-static NSMutableArray *g_observers;
-static NSString *g_raising, *g_posted;
+static NSMutableDictionary *g_answers, *g_told;
+static NSMutableArray *g_asked, *g_observers;
+static NSString *g_posted, *g_troubled;
+static NSUInteger g_questionsLeft;
+static std::function<void()> g_trouble;
+static std::vector<double> g_versions;
+static size_t g_versionsSaid;
 static id g_opened;
 
-static double systemVersion() { return std::atof(std::getenv("OUTSIDE_SYSTEM_VERSION")); }
+void inPool(const std::function<void()> &work) {
+    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+    work();
+    [pool drain];
+}
 
-id answer(NSString *operation, id usual) {
+void runOn(std::initializer_list<double> versions) {
+    g_versions = versions;
+    g_versionsSaid = 0;
+}
+
+void troubleAt(NSString *operation, std::function<void()> trouble) {
+    g_troubled = operation;
+    g_trouble = std::move(trouble);
+}
+
+void troubleAfter(NSUInteger questions, std::function<void()> trouble) {
+    troubleAt(nil, std::move(trouble));
+    g_questionsLeft = questions;
+}
+
+void fail() { [NSException raise:@"CompanionFault" format:@"while it was asked"]; }
+
+id answer(SEL selector, id usual, id argument) {
+    NSString *operation = NSStringFromSelector(selector);
     [g_asked addObject:operation];
-    if ([g_raising isEqualToString:operation]) {
-        [NSException raise:@"CompanionFault" format:@"in %@", operation];
+    bool comes = g_troubled ? [g_troubled isEqual:operation] : g_questionsLeft-- == 0;
+    if (g_trouble && comes) {
+        std::exchange(g_trouble, nullptr)();
     }
+    [argument self];
     id told = [g_answers objectForKey:operation];
     return told == [NSNull null] ? nil : told ? told : usual;
 }
 
-static ZQNumberIdentity *fraud() {
-    ZQNumberIdentity *identity = [[[ZQNumberIdentity alloc] init] autorelease];
-    [identity setIdentity:@"诈骗电话"];
-    [identity setType:7];
-    [identity setNumOfMark:37];
-    return identity;
-}
-
-static id once(NSMutableDictionary **dictionary) {
-    if (!*dictionary) {
-        *dictionary = [[NSMutableDictionary alloc] init];
-    }
-    return *dictionary;
-}
-
 @implementation Stage
 + (void)initialize {
-    g_asked = [[NSCountedSet alloc] init];
+    g_answers = [[NSMutableDictionary alloc] init];
+    g_told = [[NSMutableDictionary alloc] init];
+    g_asked = [[NSMutableArray alloc] init];
     g_observers = [[NSMutableArray alloc] init];
-    [self reset];
 }
 + (void)reset {
-    g_raising = nil;
-    for (NSMutableDictionary **each :
-         {&g_answers, &g_identities, &g_histories, &g_people, &g_stored}) {
-        [once(each) removeAllObjects];
-    }
-    [g_asked removeAllObjects];
+    g_trouble = nullptr;
+    [g_answers removeAllObjects];
+    [g_told removeAllObjects];
     [self opened];
-    [self know:fraud() of:@"17700000061"];
-    [self announce:@"msgSystemProcessReloadAllNum"];
+    [self reload];
+    [g_asked removeAllObjects];
 }
 + (void)know:(ZQNumberIdentity *)identity of:(NSString *)number {
-    [g_identities setObject:identity forKey:number];
+    [self tell:@"identity" of:number as:identity];
 }
-+ (ZQNumberIdentity *)identityOf:(NSString *)number {
-    return number ? [g_identities objectForKey:number] : nil;
++ (void)tell:(NSString *)what of:(NSString *)number as:(id)value {
+    [g_told setValue:value forKey:[what stringByAppendingString:number]];
 }
-+ (void)record:(NSArray *)actionTypes of:(NSString *)number {
-    [g_histories setObject:actionTypes forKey:number];
-}
-+ (NSArray *)historyOf:(NSString *)number {
-    return number ? [g_histories objectForKey:number] : nil;
-}
-+ (void)person:(NSArray *)numbers with:(NSString *)number {
-    [g_people setObject:numbers forKey:number];
-}
-+ (NSArray *)personWith:(NSString *)number {
-    return number ? [g_people objectForKey:number] : nil;
-}
-+ (void)store:(NSString *)other for:(NSString *)number at:(NSDate *)date {
-    [g_stored setObject:other forKey:[NSArray arrayWithObjects:number, date, nil]];
-}
-+ (NSString *)storedFor:(NSString *)number at:(NSDate *)date {
-    return [g_stored objectForKey:[NSArray arrayWithObjects:number, date, nil]];
++ (id)told:(NSString *)what of:(NSString *)number {
+    return number ? [g_told objectForKey:[what stringByAppendingString:number]] : nil;
 }
 + (void)let:(NSString *)operation answer:(id)value {
     [g_answers setObject:value ? value : [NSNull null] forKey:operation];
 }
-+ (void)raiseIn:(NSString *)operation {
-    g_raising = operation;
-}
++ (NSArray *)asked { return g_asked; }
 + (NSUInteger)timesAsked:(NSString *)operation {
-    return [g_asked countForObject:operation];
+    NSUInteger count = 0;
+    for (NSString *asked : each<NSString>(g_asked)) {
+        count += [asked isEqual:operation];
+    }
+    return count;
 }
-+ (id)opened {
-    id opened = [g_opened autorelease];
-    g_opened = nil;
-    return opened;
-}
-+ (NSString *)posted {
-    return g_posted;
-}
++ (id)opened { return [std::exchange(g_opened, nil) autorelease]; }
++ (NSString *)posted { return g_posted; }
 + (void)announce:(NSString *)message {
     NSNotification *notification = [NSNotification notificationWithName:message object:nil];
-    for (NSUInteger i = 0; i < [g_observers count]; ++i) {
-        NSArray *entry = [g_observers objectAtIndex:i];
+    for (NSArray *entry : each<NSArray>(g_observers)) {
         if ([[entry objectAtIndex:2] isEqual:message]) {
             [[entry objectAtIndex:0] performSelector:NSSelectorFromString([entry objectAtIndex:1])
                                           withObject:notification];
         }
     }
 }
++ (void)reload { [self announce:@"msgSystemProcessReloadAllNum"]; }
++ (NSUInteger)observersOf:(NSString *)message {
+    NSUInteger count = 0;
+    for (NSArray *entry : each<NSArray>(g_observers)) {
+        count += [[entry objectAtIndex:2] isEqual:message];
+    }
+    return count;
+}
 @end
 
-@interface ZQPhoneUtil : NSObject
-@end
-
-@implementation ZQPhoneUtil
+CLASS(ZQPhoneUtil)
++ (double)versionAskedBy:(SEL)operation {
+    answer(operation, nil);
+    return g_versions[g_versionsSaid++ % g_versions.size()];
+}
 + (BOOL)isEalierThanIOSVersion:(double)version include:(BOOL)include {
-    answer(@"isEalierThanIOSVersion:include:", nil);
-    return systemVersion() < version || (include && systemVersion() == version);
+    double running = [self versionAskedBy:_cmd];
+    return running < version || (include && running == version);
 }
 + (BOOL)isLaterThanIOSVersion:(double)version include:(BOOL)include {
-    answer(@"isLaterThanIOSVersion:include:", nil);
-    return systemVersion() > version || (include && systemVersion() == version);
+    double running = [self versionAskedBy:_cmd];
+    return running > version || (include && running == version);
 }
-+ (BOOL)isScreen35Inch {
-    return NO;
-}
-+ (BOOL)isIPhone5 {
-    return YES;
-}
-+ (id)getImageWithName:(NSString *)name {
-    return nil;
-}
-+ (NSString *)getAppResourceDir {
-    return answer(@"getAppResourceDir", @"/resources");
-}
++ (BOOL)isScreen35Inch { return plain(_cmd, NO); }
++ (BOOL)isIPhone5 { return plain(_cmd, YES); }
++ (id)getImageWithName:(NSString *)name { return answer(_cmd, nil, name); }
++ (NSString *)getAppResourceDir { return answer(_cmd, @"/resources"); }
 + (void)systemOpenUrl:(NSString *)url {
-    answer(@"systemOpenUrl:", nil);
+    answer(_cmd, nil, url);
     [g_opened release];
     g_opened = [url copy];
 }
 @end
 
-@interface ZQStringHelper : NSObject
-@end
-
-@implementation ZQStringHelper
+CLASS(ZQStringHelper)
 + (NSString *)trimmingWhiteSpace:(NSString *)text {
-    return [text stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]];
+    NSCharacterSet *white = [NSCharacterSet whitespaceCharacterSet];
+    return answer(_cmd, [text stringByTrimmingCharactersInSet:white], text);
 }
 @end
 
-@interface ZQMathUtil : NSObject
+CLASS(ZQMathUtil)
++ (CGFloat)getCeilCGFloat:(CGFloat)length { return plain(_cmd, std::ceil(length)); }
 @end
 
-@implementation ZQMathUtil
-+ (CGFloat)getCeilCGFloat:(CGFloat)length {
-    answer(@"getCeilCGFloat:", nil);
-    return std::ceil(length);
-}
-@end
-
-@interface ZQUIUtil : NSObject
-@end
-
-@implementation ZQUIUtil
+CLASS(ZQUIUtil)
 + (id)getFormattedColorWithRed:(double)red
                          green:(double)green
                           blue:(double)blue
                          alpha:(double)alpha {
-    id color = [NSClassFromString(@"UIColor") colorWithRed:red / 255
-                                                     green:green / 255
-                                                      blue:blue / 255
-                                                     alpha:alpha];
-    return answer(@"getFormattedColorWithRed:green:blue:alpha:", color);
+    id color = [NSClassFromString(@"UIColor") colorWithRed:(CGFloat)red / 255
+                                                     green:(CGFloat)green / 255
+                                                      blue:(CGFloat)blue / 255
+                                                     alpha:(CGFloat)alpha];
+    return answer(_cmd, color);
 }
 + (NSAttributedString *)getAttributedStringForMarkInfo:(NSString *)label markAmount:(int)count {
-    return nil;
+    return answer(_cmd, nil, label);
+}
++ (void)setRoundRectView:(UIView *)view
+            cornerRadius:(CGFloat)radius
+             borderWidth:(CGFloat)width
+             borderColor:(UIColor *)color
+             maskToBound:(BOOL)mask {
+    answer(_cmd, nil, view);
 }
 @end
 
-@interface ZQPreference : NSObject
+static id g_preference;
+
+CLASS(ZQPreference)
++ (void)InitializePreferences { g_preference = [[self alloc] init]; }
++ (id)currentPreference { return answer(_cmd, g_preference); }
+- (BOOL)showNumberArea { return plain(_cmd, YES); }
 @end
 
-static ZQPreference *g_preference;
-
-@implementation ZQPreference
-+ (void)InitializePreferences {
-    g_preference = [[self alloc] init];
-}
-+ (ZQPreference *)currentPreference {
-    return g_preference;
-}
-- (BOOL)showNumberArea {
-    return YES;
-}
-@end
-
-@interface ZQPingBackService : NSObject
-@end
-
-@implementation ZQPingBackService
-+ (id)currentService {
-    return nil;
-}
-@end
-
-@interface ZQIPCService : NSObject
-@end
-
-@implementation ZQIPCService
+CLASS(ZQIPCService)
 + (void)addObserver:(id)observer sel:(SEL)selector forMsg:(NSString *)message {
     [Stage class];  // which makes the list
+    answer(_cmd, nil, message);
     [g_observers addObject:[NSArray arrayWithObjects:observer, NSStringFromSelector(selector),
                                                      message, nil]];
 }
++ (void)removeObserver:(id)observer forMsg:(NSString *)message { answer(_cmd, nil, message); }
 + (void)postMsg:(NSString *)message withInfo:(NSDictionary *)info {
+    answer(_cmd, nil, message);
     g_posted = message;
 }
 @end

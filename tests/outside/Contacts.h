@@ -1,88 +1,54 @@
 // Somebody else's call details: the contact made for the call, the header and its controller.
 #pragma once
 
-#import "Calls.h"
+#import "Rows.h"
 
 /// As the address book keeps it; one made for a call has no record.
-@interface Contact : NSObject {
+@interface Contact : UIObject {
   @public
-    int record;
-    NSArray *numbers;
+    int recordID;
+    NSArray *phoneNumbers;
+    NSString *number;
 }
-- (int)recordID;
-- (NSArray *)phoneNumbers;
 @end
 
 Contact *contactWith(NSString *number, int record = -1);
 
-/// A header without parts, one that has its contact, and a whole one.
 @interface ABContactHeaderView : UIView {
   @public
-    int layouts, layersLaidOut;
-    BOOL isEdited;
-}
-@end
-
-@interface PlainHeader : ABContactHeaderView {
-  @public
     id _contact;
-}
-@end
-
-@interface ContactHeader : PlainHeader {
-  @public
-    UILabel *_taglineLabel;
+    UILabel *_taglineLabel, *_nameLabel;
     UIView *_personHeaderView;
-    UILabel *_nameLabel;
+    BOOL isEditing;
+    BOOL placesParts;        // in each of its layouts
+    NSString *laterTagline;  // which its second layout writes
+    int failsAt;             // its layout of that number
 }
 @end
 
-template <typename Header>
-Header *headerOf(id contact) {
-    Header *header = [[[Header alloc] initWithFrame:CGRect{{0, 0}, {320, 71}}] autorelease];
-    header->_contact = [contact retain];
-    return header;
-}
+ABContactHeaderView *headerOf(id contact);
 
-/// A controller without its contact, and one that has it.
-@interface ABContactViewController : NSObject {
+@interface ABContactViewController : UIObject {
   @public
-    id shown;
+    id _contact, contactView;
     UIView *own;
 }
-- (void)show:(id)contact;
 - (CGFloat)tableView:(UITableView *)table heightForHeaderInSection:(NSInteger)section;
 - (UIView *)tableView:(UITableView *)table viewForHeaderInSection:(NSInteger)section;
 @end
 
-@interface ContactController : ABContactViewController {
-    id _contact;
-}
-@end
-
 /// The controller of a contact that its view and itself show.
-template <typename Controller>
-Controller *controllerOf(id contact) {
-    Controller *controller = [[[Controller alloc] init] autorelease];
-    [controller show:contact];
-    return controller;
-}
+ABContactViewController *controllerOf(id contact);
 
 inline CGFloat margin() { return isNewer() ? 15 : 35; }
 
 /// One pass over a header; since 8.0 nothing asks for it but ourselves.
-void layOut(ABContactHeaderView *header);
-/// A whole header of the number after its first pass.
-ContactHeader *laidOut(NSString *tagline = nil);
-UILabel *label(UIView *header, NSInteger tag);
+void layOut(ABContactHeaderView *header, Place place = Place::current());
+/// A whole header of the current number after its first pass.
+ABContactHeaderView *laidOut(NSString *tagline = nil, Place place = Place::current());
+
 /// The header's buttons, as they lie in it.
 enum { kSearch, kMark, kCorrect };
 UIButton *button(UIView *header, NSUInteger index);
-
-/// A brand whose name stands under the key's own name; under the companion's key stands another.
-ZQNumberIdentity *brandOf(NSString *name);
-
-/// The checks of a header's contents; Details.mm holds those of what is around it.
-void checkHeaders();
-void checkButtons();
-void checkLaterPasses();
+/// What the buttons that are seen say.
+NSString *titles(UIView *header);

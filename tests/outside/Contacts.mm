@@ -1,159 +1,113 @@
 // Somebody else's call details.
 #import "Contacts.h"
 
-@interface Labelled : NSObject {
-  @public
-    NSString *number;
-}
-@end
-
-@implementation Labelled
-- (void)dealloc {
-    [number release];
-    [super dealloc];
-}
-- (id)value {
-    return self;
-}
-- (NSString *)formattedStringValue {
-    return number;
-}
-@end
-
+// Each of its numbers is an entry that gives its value, and so is the contact.
 @implementation Contact
-- (void)dealloc {
-    [numbers release];
-    [super dealloc];
-}
-- (int)recordID {
-    return record;
-}
-- (NSArray *)phoneNumbers {
-    return numbers;
-}
+- (int)recordID { return recordID; }
+- (NSArray *)phoneNumbers { return phoneNumbers; }
+- (id)value { return self; }
+- (NSString *)formattedStringValue { return number; }
 @end
 
 Contact *contactWith(NSString *number, int record) {
     Contact *contact = [[[Contact alloc] init] autorelease];
-    Labelled *entry = [[[Labelled alloc] init] autorelease];
-    entry->number = [number copy];
-    contact->record = record;
-    contact->numbers = [[NSArray alloc] initWithObjects:entry, @"another", nil];
+    Contact *entry = [[[Contact alloc] init] autorelease];
+    entry->number = number ? [entry own:[number mutableCopy]] : nil;
+    contact->recordID = record;
+    contact->phoneNumbers = [contact own:[list({entry, @"another"}) retain]];
     return contact;
 }
+
+static const CGRect kPerson = {{5, 6}, {310, 60}}, kName = {{7, 8}, {200, 30}};
 
 @implementation ABContactHeaderView
-- (BOOL)isEditing {
-    return isEdited;
-}
-- (void)layoutSubviews {
-    ++layouts;
-}
-- (void)layoutSublayersOfLayer:(id)layer {
-    layersLaidOut += layer == [self layer];
-}
-@end
-
-@implementation PlainHeader
-- (void)dealloc {
-    [_contact release];
-    [super dealloc];
-}
-@end
-
-@implementation ContactHeader
+- (BOOL)isEditing { return isEditing; }
 - (id)initWithFrame:(CGRect)frame {
     self = [super initWithFrame:frame];
-    _taglineLabel = [[UILabel alloc] init];
-    _personHeaderView = [[UIView alloc] initWithFrame:CGRect{{5, 6}, {310, 60}}];
-    _nameLabel = [[UILabel alloc] initWithFrame:CGRect{{7, 8}, {200, 30}}];
-    return self;
-}
-- (void)dealloc {
-    [_taglineLabel release];
-    [_personHeaderView release];
-    [_nameLabel release];
-    [super dealloc];
-}
-@end
-
-@interface ContactView : NSObject {
-  @public
-    id contact;
-}
-@end
-
-@implementation ContactView
-- (id)contact {
-    return contact;
-}
-@end
-
-@implementation ABContactViewController
-- (id)init {
-    self = [super init];
-    own = [[UIView alloc] init];
-    return self;
-}
-- (void)dealloc {
-    [shown release];
-    [own release];
-    [super dealloc];
-}
-- (void)show:(id)contact {
-    shown = [contact retain];
-}
-- (id)contactView {
-    ContactView *view = [[[ContactView alloc] init] autorelease];
-    view->contact = shown;
-    return view;
-}
-- (CGFloat)tableView:(UITableView *)table heightForHeaderInSection:(NSInteger)section {
-    return 33;
-}
-- (UIView *)tableView:(UITableView *)table viewForHeaderInSection:(NSInteger)section {
-    return own;
-}
-@end
-
-@implementation ContactController
-- (void)show:(id)contact {
-    [super show:contact];
-    _contact = contact;
-}
-@end
-
-void layOut(ABContactHeaderView *header) {
-    if (isNewer()) {
-        [hook() addNumberInfoToHeaderView:header withContact:nil];
-        return;
+    _taglineLabel = [self own:[[UILabel alloc] init]];
+    _personHeaderView = [self own:[[UIView alloc] initWithFrame:kPerson]];
+    _nameLabel = [self own:[[UILabel alloc] initWithFrame:kName]];
+    for (UIView *part : {(UIView *)_taglineLabel, _personHeaderView, (UIView *)_nameLabel}) {
+        [self addSubview:part];
     }
-    int before = header->layouts;
-    check(isQuiet([&] { [header layoutSubviews]; }), "laying the header out is quiet");
-    check(header->layouts == before + 1, "the header lays itself out once");
+    return self;
 }
+- (void)fillIn {
+    if (layouts == failsAt) {
+        fail();
+    }
+    if (layouts == 2 && laterTagline) {
+        [_taglineLabel setText:laterTagline];
+    }
+    if (placesParts) {
+        [_personHeaderView setFrame:kPerson];
+        [_nameLabel setFrame:kName];
+    }
+}
+@end
 
-ContactHeader *laidOut(NSString *tagline) {
-    ContactHeader *header = headerOf<ContactHeader>(contactWith(kNumber));
-    [header->_taglineLabel setText:tagline];
-    layOut(header);
+ABContactHeaderView *headerOf(id contact) {
+    CGRect frame = {{0, 0}, {320, 71}};
+    ABContactHeaderView *header = [[[ABContactHeaderView alloc] initWithFrame:frame] autorelease];
+    header->_contact = contact ? [header own:[contact retain]] : nil;
     return header;
 }
 
-UILabel *label(UIView *header, NSInteger tag) { return (UILabel *)[header viewWithTag:tag]; }
+// Whatever is shown stands for the view that shows it.
+@implementation NSObject (ContactView)
+- (id)contact { return self; }
+@end
 
-UIButton *button(UIView *header, NSUInteger index) {
-    NSUInteger first = [[header subviews] indexOfObject:[header viewWithTag:1006]] + 1;
-    UIButton *found = [[header subviews] objectAtIndex:first + index];
-    check([found isKindOfClass:NSClassFromString(@"ZQGroupButton")] && [found tag] == 0,
-          "a button");
-    return found;
+@implementation ABContactViewController
+- (id)contactView { return contactView; }
+- (CGFloat)tableView:(UITableView *)table heightForHeaderInSection:(NSInteger)section { return 33; }
+- (UIView *)tableView:(UITableView *)table viewForHeaderInSection:(NSInteger)section { return own; }
+@end
+
+ABContactViewController *controllerOf(id contact) {
+    ABContactViewController *controller = [[[ABContactViewController alloc] init] autorelease];
+    controller->_contact = contact ? [controller own:[contact retain]] : nil;
+    controller->contactView = controller->_contact;
+    controller->own = [controller own:[[UIView alloc] init]];
+    return controller;
 }
 
-ZQNumberIdentity *brandOf(NSString *name) {
-    ZQNumberIdentity *brand = identity(6, @"推销", 37);
-    [brand setBrandInfo:[NSDictionary dictionaryWithObjectsAndKeys:name,
-                                                                   @"kZQBrandServiceBrandNameKey",
-                                                                   @"别的", @"name", nil]];
-    return brand;
+void layOut(ABContactHeaderView *header, Place place) {
+    if (isNewer()) {
+        [hook() addNumberInfoToHeaderView:header withContact:nil];
+    } else {
+        expectQuiet([&] { [header layoutSubviews]; }, place);
+    }
+}
+
+ABContactHeaderView *laidOut(NSString *tagline, Place place) {
+    ABContactHeaderView *header = headerOf(contactWith(kNumber));
+    [header->_taglineLabel setText:tagline];
+    layOut(header, place);
+    return header;
+}
+
+static NSArray *buttonsOf(UIView *header) {
+    NSMutableArray *buttons = [NSMutableArray array];
+    for (UIView *view : each<UIView>([header subviews])) {
+        if ([view isKindOfClass:NSClassFromString(@"ZQGroupButton")]) {
+            [buttons addObject:view];
+        }
+    }
+    return buttons;
+}
+
+UIButton *button(UIView *header, NSUInteger index) {
+    NSArray *buttons = buttonsOf(header);
+    return index < [buttons count] ? [buttons objectAtIndex:index] : nil;
+}
+
+NSString *titles(UIView *header) {
+    NSString *all = @"";
+    for (UIButton *button : each<UIButton>(buttonsOf(header))) {
+        if (isShown(button)) {
+            all = [[button get:@"title" forState:0] stringByAppendingString:all];
+        }
+    }
+    return all;
 }

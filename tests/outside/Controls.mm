@@ -1,70 +1,35 @@
-// The rest of that UIKit: pictures, buttons, scrolling and tables.
+// The rest of that UIKit: pictures, buttons, scrolling, tables and controllers.
 #import "UIKit.h"
 
 @implementation UIImageView
-@synthesize image = _image;
-
-- (id)initWithImage:(UIImage *)image {
-    self = [super initWithFrame:CGRect{}];
-    [self setImage:image];
-    return self;
-}
-- (void)dealloc {
-    [_image release];
-    [super dealloc];
-}
+- (void)setImage:(UIImage *)shown { image = shown ? [self own:[shown retain]] : nil; }
 @end
 
 @implementation UIButton
-+ (id)buttonWithType:(NSInteger)type {
-    return type == 0 ? [[[self alloc] init] autorelease] : nil;
-}
++ (id)buttonWithType:(NSInteger)type { return type == 0 ? [[[self alloc] init] autorelease] : nil; }
 - (id)initWithFrame:(CGRect)frame {
     self = [super initWithFrame:frame];
-    _titleLabel = [[UILabel alloc] init];
-    _states = [[NSMutableDictionary alloc] init];
+    titleLabel = [self own:[[UILabel alloc] init]];
+    _states = [self own:[[NSMutableDictionary alloc] init]];
     return self;
 }
-- (void)dealloc {
-    [_titleLabel release];
-    [_states release];
-    [super dealloc];
-}
-- (UILabel *)titleLabel {
-    return _titleLabel;
-}
-
-static NSString *key(NSString *what, NSUInteger state) {
-    return [what stringByAppendingFormat:@" %u", (unsigned)state];
+- (UILabel *)titleLabel { return titleLabel; }
+- (id)get:(NSString *)what forState:(NSUInteger)state {
+    return [_states objectForKey:[what stringByAppendingFormat:@"%u", (unsigned)state]];
 }
 - (void)set:(NSString *)what to:(id)value forState:(NSUInteger)state {
-    if (value) {
-        [_states setObject:value forKey:key(what, state)];
-    } else {
-        [_states removeObjectForKey:key(what, state)];
-    }
+    [_states setValue:value forKey:[what stringByAppendingFormat:@"%u", (unsigned)state]];
 }
 - (void)setTitle:(NSString *)title forState:(NSUInteger)state {
     [self set:@"title" to:title forState:state];
 }
-- (NSString *)titleForState:(NSUInteger)state {
-    return [_states objectForKey:key(@"title", state)];
-}
 - (void)setTitleColor:(UIColor *)color forState:(NSUInteger)state {
     [self set:@"color" to:color forState:state];
-}
-- (UIColor *)titleColorForState:(NSUInteger)state {
-    return [_states objectForKey:key(@"color", state)];
 }
 - (void)setBackgroundImage:(UIImage *)image forState:(NSUInteger)state {
     [self set:@"image" to:image forState:state];
 }
-- (UIImage *)backgroundImageForState:(NSUInteger)state {
-    return [_states objectForKey:key(@"image", state)];
-}
-- (void)setTitleEdgeInsets:(UIEdgeInsets)edges {
-    insets = edges;
-}
+- (void)setTitleEdgeInsets:(UIEdgeInsets)edges { insets = edges; }
 - (void)addTarget:(id)object action:(SEL)selector forControlEvents:(NSUInteger)mask {
     target = object;
     action = selector;
@@ -78,12 +43,28 @@ static NSString *key(NSString *what, NSUInteger state) {
 @end
 
 @implementation UIScrollView
-@synthesize contentOffset = _contentOffset;
-@synthesize contentInset = _contentInset;
+@synthesize contentOffset = _contentOffset, contentInset = _contentInset;
 @end
 
 @implementation UITableView
-- (void)reloadData {
-    ++reloads;
+- (void)reloadData { ++reloads; }
+@end
+
+@implementation UITableViewCell
+- (id)initWithFrame:(CGRect)frame {
+    self = [super initWithFrame:frame];
+    contentView = [self own:[[UIView alloc] initWithFrame:frame]];
+    [self addSubview:contentView];
+    return self;
 }
+- (UIView *)contentView { return contentView; }
+- (void)scrollViewWillEndDragging:(UIScrollView *)view
+                     withVelocity:(CGPoint)velocity
+              targetContentOffset:(CGPoint *)offset {
+    target = *offset;
+}
+@end
+
+@implementation UIViewController
+- (void)viewWillAppear:(BOOL)animated { appeared += animated; }
 @end

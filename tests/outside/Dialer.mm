@@ -2,91 +2,86 @@
 #include "Checks.h"
 
 @interface DialerNameLine : UIView {
-    UILabel *_offer;
+  @public
+    UILabel *offer;
 }
 @end
 
 @implementation DialerNameLine
-- (void)dealloc {
-    [_offer release];
-    [super dealloc];
+- (id)initWithFrame:(CGRect)frame {
+    self = [super initWithFrame:frame];
+    offer = [self own:[[UILabel alloc] initWithFrame:CGRect{{0, 0}, {320, 25}}]];
+    return self;
 }
-- (UILabel *)addToContactsLabel {
-    if (!_offer) {
-        _offer = [[UILabel alloc] initWithFrame:CGRect{{0, 0}, {320, 25}}];
-    }
-    return _offer;
-}
+- (UILabel *)addToContactsLabel { return offer; }
 @end
 
 @interface PHHandsetDialerLCDView : UIView {
-    UILabel *_number;
-    DialerNameLine *_line;
+  @public
+    UILabel *number;
+    DialerNameLine *line;
 }
 @end
 
 @implementation PHHandsetDialerLCDView
-- (void)dealloc {
-    [_number release];
-    [_line release];
-    [super dealloc];
+- (id)initWithFrame:(CGRect)frame {
+    self = [super initWithFrame:frame];
+    number = [self own:[[UILabel alloc] initWithFrame:CGRect{{0, 0}, {320, 46}}]];
+    line = [self own:[[DialerNameLine alloc] initWithFrame:CGRect{{0, 48}, {320, 25}}]];
+    return self;
 }
-- (UILabel *)numberLabel {
-    if (!_number) {
-        _number = [[UILabel alloc] initWithFrame:CGRect{{0, 0}, {320, 46}}];
-    }
-    return _number;
-}
-- (DialerNameLine *)nameAndLabelView {
-    if (!_line) {
-        _line = [[DialerNameLine alloc] initWithFrame:CGRect{{0, 48}, {320, 25}}];
-    }
-    return _line;
-}
+- (UILabel *)numberLabel { return number; }
+- (DialerNameLine *)nameAndLabelView { return line; }
 - (void)setName:(NSString *)name numberLabel:(NSString *)label {
-    [[[self nameAndLabelView] addToContactsLabel] setText:@"+ 添加到通讯录"];
+    [line->offer setText:@"+ 添加到通讯录"];
 }
 @end
 
+static PHHandsetDialerLCDView *newDisplay() {
+    [Stage reset];
+    [Stage know:identity(7, @"诈骗电话", 37) of:@"17700000061"];
+    CGRect frame = {{0, 20}, {320, 80}};
+    return [[[PHHandsetDialerLCDView alloc] initWithFrame:frame] autorelease];
+}
+
 static void type(PHHandsetDialerLCDView *display, NSString *number) {
-    [[display numberLabel] setText:number];
+    [display->number setText:number];
     [display setName:nil numberLabel:nil];
 }
 
-static void checkRow(PHHandsetDialerLCDView *display) {
-    UIView *row = [display viewWithTag:1000];
-    UILabel *description = (UILabel *)[display viewWithTag:1002];
-    check(!row, "no row before a number has a description");
+static void checkRow() {
+    PHHandsetDialerLCDView *display = newDisplay();
     type(display, @"17");
-    check(![display viewWithTag:1000], "no row for two digits");
-
+    expectEqual(picture(display), @"");
     type(display, @"17700000061");
-    row = [display viewWithTag:1000];
-    description = (UILabel *)[display viewWithTag:1002];
-    check([[description text] isEqualToString:@"诈骗电话"], "the mark is shown");
-    check(stands(row, 68, 48, 184, 25), "the row is centred");
-    check(stands([display viewWithTag:1001], 0, 5, 15, 15), "the icon stands at its edge");
-    check(stands(description, 20, 0, 56, 25), "the description stands behind it");
-    check(stands([display viewWithTag:1003], 81, 5, 1, 15), "the separator follows");
-    check(stands([display viewWithTag:1004], 87, 0, 97, 25), "and then the offer");
-    check([[display nameAndLabelView] isHidden] && ![row isHidden], "the name line gives way");
-    check([[[[display nameAndLabelView] addToContactsLabel] text] isEqualToString:@"添加到通讯录"],
-          "the offer lost its plus");
-
+    // Icon, description, separator and offer, centred
+    expectEqual(picture(display), @"1000(68 48 184 25){1001(0 5 15 15) 1002(20 0 56 25)诈骗电话 "
+                                   "1003(81 5 1 15) 1004(87 0 97 25)添加到通讯录}");
+    expectEqual([display->line->offer text], @"添加到通讯录");
+    expectTrue([display->line isHidden]);
     type(display, @"02000000000");
-    check([[description text] isEqualToString:@"广东广州"], "the region is shown");
+    expectEqual([labelWith(1002, display) text], @"广东广州");
     type(display, @"");
-    check(![[display nameAndLabelView] isHidden] && [row isHidden], "the name line comes back");
+    expectEqual(picture(display), @"");
+    expectTrue(isShown(display->line));
 }
+static const Group g_row("dialer", k70, checkRow);
 
-void checkDialer(bool isOn) {
-    PHHandsetDialerLCDView *display =
-        [[PHHandsetDialerLCDView alloc] initWithFrame:CGRect{{0, 20}, {320, 80}}];
-    if (isOn) {
-        checkRow(display);
-    } else {
-        type(display, @"17700000061");
-        check(![display viewWithTag:1000], "nothing is shown elsewhere");
+// Whatever happens, there is the add-on's row or the Phone application's line.
+static void checkFaults() {
+    for (NSString *before : {@"", @"02000000000"}) {
+        atEachQuestion([=](const Troubled &troubled) {
+            PHHandsetDialerLCDView *display = newDisplay();
+            type(display, before);
+            troubled([&] { type(display, @"17700000061"); }, fail);
+            expectEqual(isShown([display viewWithTag:1000]), [display->line isHidden]);
+            type(display, @"17700000061");
+            expectTrue(isShown([display viewWithTag:1000]));
+        });
     }
-    [display release];
+    PHHandsetDialerLCDView *forgetful = newDisplay();
+    forgetful->keepsNothing = YES;
+    expectQuiet([&] { type(forgetful, @"17700000061"); });
+    expectTrue(isShown(forgetful->line));
 }
+static const Group g_faults("dialer, faults", k7, checkFaults);

@@ -1,211 +1,169 @@
 // What the add-on adds to the header of somebody else's call details.
 #import "Contacts.h"
 
-static void checkNobody() {
-    [hook() setPhonePureNumber:nil];
+static void checkLogo() {
     [Stage let:@"getAppResourceDir" answer:@"/gone"];
-    check(![hook() getRecordIcon], "a logo that is not there");
+    expectEqual([hook() getRecordIcon], nil);
     [Stage reset];
-    UIImage *logo = [hook() getRecordIcon];
-    check([logo->path isEqual:@"/resources/icon_zqrLogo_in_systemCallHistoryDetailsView.png"],
-          "is looked for again");
+    UIImage *logo = [hook() getRecordIcon];  // is looked for again
+    expectEqual(logo->path, @"/resources/icon_zqrLogo_in_systemCallHistoryDetailsView.png");
     [Stage let:@"getAppResourceDir" answer:@"/gone"];
-    check([hook() getRecordIcon] == logo, "and then kept");
-    [Stage reset];
+    expectEqual([hook() getRecordIcon], logo);
+}
+static const Group g_logo("header, logo", kPhone, checkLogo);
 
-    ContactHeader *header = laidOut();
-    CGFloat left = margin();
-    UIImageView *picture = (UIImageView *)[header viewWithTag:1002];
-    check(stands(picture, left, 22, 14, 14) && [picture image] == logo, "the logo");
-    UILabel *product = label(header, 1004);
-    check(stands(product, left + 17, 22, 200, 13) && [[product text] isEqual:@"Zequor"],
-          "the product");
-    check(isColor([product textColor], 180, 180, 180) && [[product font] pointSize] == 13,
-          "its look");
-    check(![picture isHidden] && ![product isHidden] && isClear(picture) && isClear(product),
-          "both are to be seen, and clear");
-    for (NSInteger tag : {1001, 1005, 1006}) {
-        check(label(header, tag) && [label(header, tag) isHidden], "a label is hidden");
-        check([[label(header, tag) font] pointSize] == 13 && isClear(label(header, tag)),
-              "its look");
-    }
-    check(isColor([label(header, 1001) textColor], 0, 0, 0), "the description is black");
-    check(isColor([label(header, 1005) textColor], 145, 145, 145) &&
-              isColor([label(header, 1006) textColor], 145, 145, 145),
-          "the others are grey");
-    check([[label(header, 1006) text] isEqual:@"若非国外亲友，请警惕诈骗"], "the warning's words");
-    const char *actions[] = {"searchNumBtnPressed", "markButtonPressed", "correctButtonPressed"};
-    for (NSUInteger i : {kSearch, kMark, kCorrect}) {
-        UIButton *each = button(header, i);
-        check([each isHidden] && stands(each, left, 100, i == kSearch ? 280 : 140, 30),
-              "a button waits");
-        check(each->target == hook() && each->events == 1 << 6 &&
-                  sel_isEqual(each->action, sel_getUid(actions[i])),
-              "with its action");
-    }
-    check([header->_taglineLabel isHidden] && stands(header->_nameLabel, 7, 53, 200, 30) &&
-              stands(header->_personHeaderView, 5, 6, 310, 60),
-          "tagline, name and person");
-    check([Stage timesAsked:@"getIdentityOfRecord:"] == 0, "nobody is looked up");
+// Of two tones, the grey one begins at the bar.
+static void expectTones(NSAttributedString *toned) {
+    const NSUInteger bar = [[toned string] rangeOfString:@"|"].location;
+    NSRange run = {0, 0};
+    auto colorAt = [&](NSUInteger at) {
+        return (UIColor *)[toned attribute:@"NSColor" atIndex:at effectiveRange:&run];
+    };
+    expectEqual(colorAt(0), rgb(0, 0, 0));
+    expectEqual(NSMaxRange(run), bar);
+    expectEqual(colorAt(bar), rgb(145, 145, 145));
+    expectEqual(NSMaxRange(run), [[toned string] length]);
 }
 
-// Heights and places before 8.0 and since.
-struct Places {
-    CGFloat oldHeight, newHeight, oldPersonY, newPersonY, rowY;
-};
-static const Places kNothing = {58, 66.5, 154, 154, 95};
-static const Places kLine = {71, 79.5, 167, 167, 112};
-static const Places kTagged = {71, 79.5, 187, 167, 112};
-static const Places kAbroad = {91, 99.5, 187, 187, 132};
-
-struct HeaderCase {
-    NSString *name;
-    ZQNumberIdentity *identity;
-    NSString *region, *tagline, *text;
-    bool isAttributed;
-    Places places;
-};
-
-static void checkHeader(const HeaderCase &each) {
-    Case name(each.name);
+// The looks that a picture does not show, of a header with three buttons.
+static void checkLooks() {
     [Stage reset];
-    [Stage let:@"descriptionOfNumber:" answer:each.region];
-    if (each.identity) {
-        [Stage know:each.identity of:kPure];
-    }
+    [Stage know:identity(7, @"推销", 37) of:kPure];
+    [Stage tell:@"history" of:kPure as:list({number(2)})];
     [hook() setPhonePureNumber:kPure];
-    const Places &at = each.places;
-    check([hook() getHeaderViewHeight] == (isNewer() ? at.newHeight : at.oldHeight), "the height");
-    ContactHeader *header = laidOut(each.tagline);
-    UILabel *description = label(header, 1001);
-    NSString *text = isNewer() && each.tagline && !each.isAttributed ? each.region : each.text;
-    check(isText([description text], text) && ![description isHidden], "the description");
-    check(stands(description, margin(), 85, 320 - margin() - 13, 13), "its place");
-    NSAttributedString *toned = [description attributedText];
-    check((toned != nil) == each.isAttributed, "its tones");
-    if (toned) {
-        NSUInteger bar = [text rangeOfString:@"|"].location;
-        NSRange run = {0, 0};
-        auto color = [&](NSUInteger at) {
-            return (UIColor *)[toned attribute:@"NSColor" atIndex:at effectiveRange:&run];
-        };
-        check(bar == 0 || (isColor(color(0), 0, 0, 0) && NSMaxRange(run) == bar),
-              "black to the bar");
-        check(isColor(color(bar), 145, 145, 145) && NSMaxRange(run) == [text length], "then grey");
+    ABContactHeaderView *header = laidOut();
+    expectEqual(((UIImageView *)[header viewWithTag:1002])->image, [hook() getRecordIcon]);
+    expectEqual([labelWith(1006, header) text], @"若非国外亲友，请警惕诈骗");
+    expectEqual([labelWith(1004, header) textColor], rgb(180, 180, 180));
+    expectEqual([labelWith(1006, header) textColor], rgb(145, 145, 145));
+    for (NSInteger tag : {1001, 1004, 1005, 1006}) {
+        expectEqual([labelWith(tag, header) font]->pointSize, 13);
+        expectEqual([labelWith(tag, header) backgroundColor], [UIColor clearColor]);
     }
-    bool isForeign = [each.identity type] == 4;
-    check([label(header, 1006) isHidden] != isForeign &&
-              (!isForeign || stands(label(header, 1006), margin(), 105, 320 - margin() - 13, 13)),
-          "the warning");
-    check([label(header, 1005) isHidden], "the spare label is hidden");
-    CGFloat personY = isNewer() ? at.newPersonY : at.oldPersonY;
-    check(stands(header->_personHeaderView, 5, personY, 310, 60), "the person's place");
-    check([button(header, kSearch) frame].origin.y == at.rowY, "the row's place");
-    check(isNewer() || header->layersLaidOut == 1, "the layer is laid out");
+    expectTones([labelWith(1001, header) attributedText]);
+    const struct {
+        NSUInteger index;
+        NSString *action, *icon, *part;
+        UIEdgeInsets caps;
+    } kButtons[] = {{kSearch, @"searchNumBtnPressed", @"search", @"right", {4, 0, 4, 5}},
+                    {kMark, @"markButtonPressed", @"tag", @"middle", {0, 0, 0, 0}},
+                    {kCorrect, @"correctButtonPressed", @"modify", @"left", {4, 5, 4, 0}}};
+    for (const auto &[index, action, icon, part, caps] : kButtons) {
+        Case name(icon);
+        UIButton *found = button(header, index);
+        expectEqual([found tag], 0);
+        expectEqual(found->target, hook());
+        expectEqual(found->events, 1 << 6);
+        expectEqual(NSStringFromSelector(found->action), action);
+        expectEqual(found->insets, UIEdgeInsets{0, 20, 0, 0});
+        NSString *file = @"_in_systemCallHistoryDetailsView.png";
+        expectEqual(((UIImageView *)[[found subviews] lastObject])->image->path,
+                    [NSString stringWithFormat:@"/resources/btn_icon_%@%@", icon, file]);
+        for (NSUInteger state : {0, 1}) {
+            UIImage *image = [found get:@"image" forState:state];
+            expectEqual(image->path, [NSString stringWithFormat:@"/resources/btn_%@%@%@", part,
+                                                                state ? @"_pressed" : @"", file]);
+            expectEqual(image->caps, caps);
+            expectEqual([found get:@"color" forState:state], rgb(145, 145, 145));
+        }
+    }
+    [button(header, kSearch) press];
+    expectTrue([[Stage opened] rangeOfString:@"&keyword=02000000001&"].length > 0);
 }
-
-static NSString *joined(NSString *left, NSString *right) {
-    return [left stringByAppendingString:right];
-}
-
-static NSString *many(NSUInteger count) {
-    return [@"" stringByPaddingToLength:count withString:@"一" startingAtIndex:0];
-}
-
-static NSString *cut(NSUInteger count, NSString *end) {
-    return joined(many(count), joined(end, @"| 99位用户标记"));
-}
+static const Group g_looks("header, looks", kPhone, checkLooks);
 
 static void checkTexts() {
     NSString *place = @"广东广州", *word = @"手机", *mark = @"推销 | 37位用户标记";
+    NSString *many = [@"" stringByPaddingToLength:20 withString:@"一" startingAtIndex:0];
+    NSString *cut = @"一一一一一一一一一一一一... | 99位用户标记";
     ZQNumberIdentity *abroad = identity(4, @"推销", 37);
-    const HeaderCase kCases[] = {
-        {@"nothing", nil, nil, nil, nil, false, kNothing},
-        {@"region", nil, place, nil, place, false, kLine},
-        {@"tagline", nil, place, word, @"手机  广东广州", false, kTagged},
-        {@"tagline alone", nil, nil, word, @"手机  (null)", false, {58, 66.5, 187, 154, 95}},
-        {@"empty tagline", nil, place, @"", place, false, kLine},
-        {@"empty region", nil, @"", nil, @"", false, {58, 66.5, 167, 167, 112}},
-        {@"region with a bar", nil, @"广东 | 广州", nil, @"广东 | 广州", true, kLine},
-        {@"abroad", abroad, place, nil, place, false, kAbroad},
-        {@"abroad, tagline", abroad, place, word, @"手机  广东广州", false, kAbroad},
-        {@"abroad, nothing", abroad, nil, nil, nil, false, {58, 66.5, 187, 187, 115}},
-        {@"abroad, bar", abroad, @"A|B", nil, @"A|B", false, kAbroad},
-        {@"kind 1", identity(1, @"推销"), place, nil, place, false, kLine},
-        {@"own mark", identity(3, @"推销"), place, nil, @"推销 | 我贡献的标记", true, kLine},
-        {@"brand", brandOf(@"某店"), place, nil, @"某店", false, kLine},
-        {@"no brand", identity(6, @"推销"), place, nil, nil, false, kNothing},
-        {@"marks", identity(7, @"推销", 37), place, nil, mark, true, kLine},
-        {@"marks, tagline", identity(7, @"推销", 37), place, word, mark, true, kTagged},
-        {@"partner", identity(12, @"推销", 37, @"$$"), place, nil, mark, true, kLine},
-        {@"5000", identity(8, @"推销", 5000), place, nil, @"推销 | 5000位用户标记", true, kLine},
-        {@"5001", identity(8, @"推销", 5001), place, nil, @"推销", false, kLine},
-        {@"1", identity(9, @"推销", 1), place, nil, @"推销", false, kLine},
-        {@"-3", identity(10, @"推销", -3), place, nil, @"推销 | -3位用户标记", true, kLine},
-        {@"no label", identity(8, nil, 1), place, nil, nil, false, kNothing},
-        {@"no label, marks", identity(8, nil, 12), place, nil, @"(null) | 12位用户标记", true,
-         kLine},
-        {@"other kind", identity(13, @"标签"), place, nil, @"标签", false, kLine},
-        {@"empty label", identity(11, @""), place, nil, place, false, kLine},
-        {@"22 units", identity(8, many(12), 99), nil, nil, cut(12, @" "), true, kLine},
-        {@"23 units", identity(8, many(13), 99), nil, nil, cut(12, @"... "), true, kLine},
-        {@"30 units", identity(8, many(20), 99), nil, nil, cut(12, @"... "), true, kLine},
-        {@"all right", identity(8, joined(@"一二|", many(25)), 1), nil, nil,
-         joined(@"... |", many(25)), true, kLine},
-    };
-    for (const auto &each : kCases) {
-        checkHeader(each);
-    }
-    // The region of an identity is that of its own number.
-    [Stage reset];
-    ZQNumberIdentity *moved = identity(2, @"推销");
-    [moved setNumber:@"075500000000"];
-    [Stage know:moved of:kPure];
-    check(isText([label(laidOut(), 1001) text], @"广东深圳"), "an identity's region");
-}
-
-// The same in two parts, and joined to a second text.
-static void checkParts() {
+    // The height is that of 7; the history an action type, or 0 for no call.
     const struct {
         NSString *name;
         ZQNumberIdentity *identity;
-        NSString *info, *added;
+        int history;
+        NSString *region, *tagline, *text;
+        CGFloat height, personY, rowY;
+        NSString *titles;
+        unsigned runs = kPhone;
     } kCases[] = {
-        {@"nobody", nil, @"广东广州", nil},
-        {@"search", identity(7, @"推销", 1), @"推销", nil},
-        {@"region", identity(1, @"推销"), @"广东广州，推销", nil},
-        {@"own mark", identity(3, @"推销"), @"推销", @"我贡献的标记"},
-        {@"own mark of nothing", identity(3, nil), nil, nil},
-        {@"abroad", identity(4, @"推销", 37), @"推销", nil},
-        {@"brand", identity(6, @""), @"广东广州", nil},
-        {@"marks", identity(8, @"推销", 5000), @"推销", @"5000位用户标记"},
-        {@"other marks", identity(9, @"推销", -3, @""), @"推销", @"-3位用户标记"},
-        {@"too many", identity(8, @"推销", 5001), @"推销", nil},
-        {@"marks of nothing", identity(8, nil, 12), nil, nil},
-        {@"nothing", identity(9, nil, 1), @"(null)", nil},
-        {@"partner", identity(12, @"推销", 37, @"$$"), @"推销", nil},
-        {@"partner of nothing", identity(12, nil, 37, @"$$"), @"广东广州", nil},
-        {@"kind 11", identity(11, @"推销", 37), @"推销", nil},
+        {@"nothing", nil, 0, nil, nil, nil, 58, 154, 95, @"搜索"},
+        {@"region", nil, 1, place, nil, place, 71, 167, 112, @"搜索"},
+        {@"called", nil, 2, place, nil, place, 71, 167, 112, @"标记搜索"},
+        {@"empty", nil, 0, @"", nil, @"", 58, 167, 112, @"搜索"},
+        {@"tag", nil, 0, place, word, @"手机  广东广州", 71, 187, 112, @"搜索", k7},
+        {@"old tag", nil, 0, place, word, place, 71, 167, 112, @"搜索", k80},
+        {@"tag alone", nil, 0, nil, word, @"手机  (null)", 58, 187, 95, @"搜索", k7},
+        {@"abroad", abroad, 2, @"A|B", nil, @"A|B", 91, 187, 132, @"标记搜索"},
+        {@"nowhere", abroad, 2, nil, nil, nil, 58, 187, 115, @"标记搜索"},
+        {@"brand", brandOf(@"某店"), 2, nil, nil, @"某店", 71, 167, 112, @"纠错标记搜索"},
+        {@"marks", identity(7, @"推销", 37), 1, nil, nil, mark, 71, 167, 112, @"纠错搜索"},
+        {@"search", identity(7, @"推销", 1), 2, nil, nil, @"推销", 71, 167, 112, @"纠错搜索"},
+        {@"long", identity(8, many, 99), 0, nil, nil, cut, 71, 167, 112, @"纠错搜索"},
     };
+    const CGFloat left = margin(), width = 320 - left - 13;
     for (const auto &each : kCases) {
+        if (!isRun(each.runs)) {
+            continue;
+        }
         Case name(each.name);
-        NSDictionary *parts = [hook() parseNumberInfoWithNumber:kNumber identity:each.identity];
-        check(parts && isText([parts objectForKey:@"numberinfo"], each.info) &&
-                  isText([parts objectForKey:@"zqrinfo"], each.added) &&
-                  [parts count] == (each.info != nil) + (each.added != nil),
-              "its parts");
-    }
-    auto merged = [](NSString *left, NSString *right) {
-        return [hook() mergeDesc:left diagnose:right];
-    };
-    check(isText(merged(@"A", @"B"), @"A B") && isText(merged(@"A", @""), @"A") &&
-              isText(merged(nil, @"B"), @"B") && !merged(nil, @""),
-          "two texts");
-}
-
-void checkHeaders() {
-    for (void (*checks)() : {checkNobody, checkTexts, checkParts, checkButtons, checkLaterPasses}) {
         [Stage reset];
-        checks();
+        [Stage let:@"descriptionOfNumber:" answer:each.region];
+        [Stage know:each.identity of:kPure];
+        [Stage tell:@"history"
+                 of:kPure
+                 as:each.history ? list({number(1), number(each.history)}) : nil];
+        [hook() setPhonePureNumber:kPure];
+        expectEqual([hook() getHeaderViewHeight], each.height + (isNewer() ? CGFloat(8.5) : 0));
+        ABContactHeaderView *header = laidOut(each.tagline);
+        UILabel *warning = labelWith(1006, header);
+        expectEqual([labelWith(1001, header) text], each.text);
+        expectFrame(labelWith(1001, header), {left, 85, width, 13});
+        expectEqual(isShown(warning), [each.identity type] == 4);
+        expectFrame(warning, isShown(warning) ? CGRect{{left, 105}, {width, 13}} : CGRect{});
+        expectFrame(header->_personHeaderView, {5, each.personY, 310, 60});
+        expectFrame(header->_nameLabel, {7, 53, 200, 30});
+        expectTrue([header->_taglineLabel isHidden]);
+        expectEqual(titles(header), each.titles);
+        // The buttons share their row, search at its end.
+        const CGFloat kWidths[][3] = {{272, 135, 90}, {292, 145, 97}};
+        const NSUInteger others = [each.titles length] / 2 - 1;
+        const CGFloat wide = kWidths[isNewer()][others];
+        expectFrame(button(header, kSearch), {left + others * (wide + 1), each.rowY, wide, 44});
     }
 }
+static const Group g_texts("header, texts", kPhone, checkTexts);
+
+// Buttons are met on the first pass alone; labels on every one.
+static void checkLaterPasses() {
+    [Stage reset];
+    [hook() setPhonePureNumber:kPure];
+    [Stage know:identity(4, @"推销") of:kPure];
+    ABContactHeaderView *header = laidOut();
+    [Stage know:identity(7, @"推销", 37) of:kPure];
+    [Stage tell:@"history" of:kPure as:list({number(2)})];
+    [header->_taglineLabel setHidden:NO];
+    [header->_nameLabel setFrame:CGRect{{9, 10}, {100, 20}}];
+    layOut(header);
+    NSString *expected =
+        isNewer() ? @"0(15 132 292 44)搜索{0(123 15 14 14)} 0(5 167 310 60) 0(9 53 100 20) "
+                     "1001(15 85 292 13)推销 | 37位用户标记 1002(15 22 14 14) "
+                     "1004(32 22 200 13)Zequor 1006(15 105 292 13)若非国外亲友，请警惕诈骗"
+                  : @"0(35 132 272 44)搜索{0(113 15 14 14)} 0(5 167 310 60) 0(9 53 100 20) "
+                     "1001(35 85 272 13)推销 | 37位用户标记 1002(35 22 14 14) "
+                     "1004(52 22 200 13)Zequor 1006(35 105 272 13)若非国外亲友，请警惕诈骗";
+    expectEqual(picture(header), expected);
+    [hook() setPhonePureNumber:@""];
+    layOut(header);
+    expectEqual(picture(header), expected);
+
+    // They are looked for, in vain, by tags that they were not given.
+    const NSInteger kTags[] = {1009, 1008, 1007};
+    for (NSUInteger i : {kSearch, kMark, kCorrect}) {
+        [button(header, i) setTag:kTags[i]];
+    }
+    [hook() setPhonePureNumber:kPure];
+    layOut(header);
+    expectEqual(titles(header), @"纠错标记搜索");
+}
+static const Group g_later("header, later passes", kPhone, checkLaterPasses);

@@ -1,84 +1,140 @@
 // A Phone application of somebody else's that loads the add-on: host LIBRARY IDENTIFIER
-// on|bare|off. It prints what is not as it should be, and exits with 1 if anything was.
-#include "Checks.h"
-
-#include <dlfcn.h>
-#include <objc/runtime.h>
-
-#include <cmath>
+// on|bare|off [GROUP]. It prints what is not as it should be, and exits with 1 if anything was.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
+#include <dlfcn.h>
+#include <objc/runtime.h>
+#include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "Checks.h"
+
+static unsigned g_run;
 static NSString *g_identifier;
-static NSString *g_case;
+static const char *g_library;
 static int g_faults;
+/// Kept where the process that made this one reads it, should this one die.
+static char *g_case;
+static constexpr size_t kLongestCase = 1000;
+
+Group *Group::g_first;
+
+bool isRun(unsigned runs) { return (g_run & runs) != 0; }
+
+void setIdentifier(NSString *identifier) { g_identifier = [identifier copy]; }
 
 static NSString *bundleIdentifier(id, SEL) { return g_identifier; }
 
-Case::Case(NSString *name) : outer_(g_case) {
-    g_case = [(outer_ ? [outer_ stringByAppendingFormat:@": %@", name] : name) copy];
-}
+static void setCase(const std::string &name) { g_case[name.copy(g_case, kLongestCase - 1)] = '\0'; }
 
-Case::~Case() {
-    [g_case release];
-    g_case = outer_;
-}
+Case::Case(NSString *name) : outer_(g_case) { setCase(outer_ + ": " + printed(name)); }
 
-void check(bool holds, const char *what) {
+Case::~Case() { setCase(outer_); }
+
+void judge(bool holds, const std::string &expected, const std::string &actual, Place place) {
     if (!holds) {
-        std::printf("not so: %s%s%s\n", g_case ? [g_case UTF8String] : "", g_case ? ": " : "",
-                    what);
+        const char *slash = std::strrchr(place.file_name(), '/');
+        std::printf("%s:%u: %s: expected %s, got %s\n", slash ? slash + 1 : place.file_name(),
+                    static_cast<unsigned>(place.line()), g_case, expected.c_str(), actual.c_str());
         ++g_faults;
     }
 }
 
-bool stands(UIView *view, CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
-    CGRect frame = [view frame];
-    return view && frame.origin.x == x && frame.origin.y == y && frame.size.width == width &&
-           frame.size.height == height;
+Group::Group(const char *name, unsigned runs, void (*check)(), void (*prepare)())
+    : name_(name), runs_(runs), check_(check), prepare_(prepare), next_(g_first) {
+    g_first = this;
 }
 
-bool isColor(UIColor *color, int red, int green, int blue) {
-    auto is = [](CGFloat part, int expected) { return std::fabs(part * 255 - expected) < 0.01; };
-    return color && is(color->red, red) && is(color->green, green) && is(color->blue, blue) &&
-           color->alpha == 1;
-}
-
-bool isClear(UIView *view) {
-    UIColor *color = [view backgroundColor];
-    return color && color->alpha == 0;
-}
-
-double systemVersion() { return std::atof(std::getenv("OUTSIDE_SYSTEM_VERSION")); }
-
-int main(int argc, char **argv) {
-    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-    if (argc != 4) {
-        std::fprintf(stderr, "usage: host LIBRARY IDENTIFIER on|bare|off\n");
-        return 2;
+int Group::run(void (*load)()) const {
+    constexpr int kMost = 100;  // which an exit code can hold
+    setCase(name_);
+    std::fflush(stdout);
+    const pid_t child = fork();
+    if (child == 0) {
+        // What calls itself for ever ends soon.
+        const rlimit stack = {1 << 20, RLIM_INFINITY};
+        setrlimit(RLIMIT_STACK, &stack);
+        alarm(20);
+        inPool([this, load] {
+            if (prepare_) {
+                prepare_();
+            }
+            load();
+            check_();
+        });
+        std::exit(std::min(g_faults, kMost));
     }
-    bool isOn = std::strcmp(argv[3], "off") != 0;
-    bool isBare = std::strcmp(argv[3], "bare") == 0;
-    g_identifier = [[NSString alloc] initWithUTF8String:argv[2]];
-    method_setImplementation(class_getInstanceMethod([NSBundle class], @selector(bundleIdentifier)),
-                             (IMP)bundleIdentifier);
-    if (!isBare) {
-        addScrollViewOfCells();
-    }
-    if (!dlopen(argv[1], RTLD_NOW)) {
-        std::fprintf(stderr, "host: %s\n", dlerror());
+    int status = 0;
+    waitpid(child, &status, 0);
+    if (WIFSIGNALED(status)) {
+        std::printf("%s: ended by signal %d\n", g_case, WTERMSIG(status));
         return 1;
     }
-    check((NSClassFromString(@"ZQDialNumberInputUIHook") != nil) == isOn, "its classes are there");
-    bool showsCalls = isOn && !isNewer();
-    if (systemVersion() < 7.1 || !showsCalls) {
-        checkDialer(showsCalls);
+    return WEXITSTATUS(status);
+}
+
+int Group::runAll(void (*load)(), const char *name) {
+    int faults = 0;
+    for (const Group *group = g_first; group; group = group->next_) {
+        if (isRun(group->runs_) && std::strncmp(group->name_, name, std::strlen(name)) == 0) {
+            faults += group->run(load);
+        }
     }
-    checkInCall(showsCalls, systemVersion() >= 7.1);
-    checkSwipe(isOn, isBare);
-    checkRecents(isOn);
-    checkDetails(isOn);
+    return faults;
+}
+
+static void loadAddOn() {
+    if (!dlopen(g_library, RTLD_NOW)) {
+        std::printf("%s\n", dlerror());
+        std::exit(1);
+    }
+}
+
+static void setOffset(UIScrollView *self, SEL selector, CGPoint offset) {
+    Method inherited = class_getInstanceMethod(objc_getClass("UIScrollView"), selector);
+    ((void (*)(id, SEL, CGPoint))method_getImplementation(inherited))(self, selector, offset);
+}
+
+// The class of a cell's scroll view, which a bare system lacks.
+static void addScrollViewOfCells() {
+    Class parent = (Class)objc_getClass("UIScrollView");
+    Class cls = objc_allocateClassPair(parent, "UITableViewCellScrollView", 0);
+    SEL selector = @selector(setContentOffset:);
+    Method inherited = class_getInstanceMethod(parent, selector);
+    class_addMethod(cls, selector, (IMP)setOffset, method_getTypeEncoding(inherited));
+    objc_registerClassPair(cls);
+}
+
+int main(int argc, char **argv) {
+    if (argc < 4) {
+        std::fprintf(stderr, "usage: host LIBRARY IDENTIFIER on|bare|off [GROUP]\n");
+        return 2;
+    }
+    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+    const double version = std::atof(std::getenv("OUTSIDE_SYSTEM_VERSION"));
+    g_library = argv[1];
+    g_run = std::strcmp(argv[3], "off") == 0    ? kElsewhere
+            : std::strcmp(argv[3], "bare") == 0 ? kBare
+            : version >= 8                      ? k80
+            : version >= 7.1                    ? k71
+                                                : k70;
+    g_case = static_cast<char *>(
+        mmap(nullptr, kLongestCase, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    runOn({version});
+    setIdentifier([NSString stringWithUTF8String:argv[2]]);
+    method_setImplementation(class_getInstanceMethod([NSBundle class], @selector(bundleIdentifier)),
+                             (IMP)bundleIdentifier);
+    if (!isRun(kBare)) {
+        addScrollViewOfCells();
+    }
+    const int faults = Group::runAll(loadAddOn, argc > 4 ? argv[4] : "");
+    std::printf("%d faults\n", faults);
     [pool drain];
-    return g_faults == 0 ? 0 : 1;
+    return faults == 0 ? 0 : 1;
 }

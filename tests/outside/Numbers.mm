@@ -4,21 +4,13 @@
 NSString *kZQBrandServiceBrandNameKey = @"name";
 NSString *kZQBrandServiceBrandLogoPathKey = @"logo";
 
-@interface Stage (Knowledge)
-+ (ZQNumberIdentity *)identityOf:(NSString *)number;
-+ (NSArray *)historyOf:(NSString *)number;
-+ (NSArray *)personWith:(NSString *)number;
-+ (NSString *)storedFor:(NSString *)number at:(NSDate *)date;
-@end
-
 static NSString *digits(NSString *text) {
     NSCharacterSet *others = [[NSCharacterSet decimalDigitCharacterSet] invertedSet];
     return [[text componentsSeparatedByCharactersInSet:others] componentsJoinedByString:@""];
 }
 
 @interface ZQPhoneNumber : NSObject {
-    NSString *_text;
-    BOOL _isParsed;
+    NSString *_text, *_pure;
 }
 @end
 
@@ -26,7 +18,7 @@ static NSString *digits(NSString *text) {
 - (id)initWithOriginNumber:(NSString *)text {
     self = [super init];
     try {
-        answer(@"initWithOriginNumber:", nil);
+        answer(_cmd, nil, text);
     } catch (...) {
         [self release];
         throw;
@@ -36,87 +28,86 @@ static NSString *digits(NSString *text) {
 }
 - (void)dealloc {
     [_text release];
+    [_pure release];
     [super dealloc];
 }
 - (void)parse {
-    answer(@"parse", nil);
-    _isParsed = YES;
+    answer(_cmd, nil);
+    NSString *text = _text, *pure = nil;
+    inPool([&] { pure = [digits(text) copy]; });
+    _pure = pure;
 }
-- (NSString *)pureNumber {
-    return answer(@"pureNumber", _isParsed ? digits(_text) : nil);
-}
+- (NSString *)pureNumber { return answer(_cmd, _pure); }
 // A number that begins as those from abroad do is international.
-- (int)type {
-    answer(@"type", nil);
-    return _isParsed && [_text hasPrefix:@"00"] ? 6 : 0;
-}
-- (NSString *)areaName {
-    return @"广东广州";
-}
+- (int)type { return plain(_cmd, _pure && [_text hasPrefix:@"00"] ? 6 : 0); }
+- (NSString *)areaName { return answer(_cmd, fresh(@"广东广州")); }
 + (NSString *)areaNameOfNumber:(NSString *)number {
-    return answer(@"areaNameOfNumber:", [digits(number) isEqual:number] ? @"广东" : nil);
+    id area = [digits(number) isEqual:number] ? fresh(@"广东") : nil;
+    return answer(_cmd, area, number);
 }
 + (NSString *)descriptionOfNumber:(NSString *)number {
-    return answer(@"descriptionOfNumber:", [number hasPrefix:@"0755"] ? @"广东深圳" : @"广东广州");
+    id region = fresh([number hasPrefix:@"0755"] ? @"广东深圳" : @"广东广州");
+    return answer(_cmd, region, number);
 }
 + (NSString *)getFormattedNumberWithNumber:(NSString *)number {
-    return answer(@"getFormattedNumberWithNumber:", [NSString stringWithFormat:@"<%@>", number]);
+    id text = [NSString stringWithFormat:@"<%@>", number];
+    return answer(_cmd, text, number);
 }
++ (NSString *)getMobileNumberFromNumber:(NSString *)number { return answer(_cmd, number, number); }
 @end
 
-@interface ZQPhoneNumberHelper : NSObject
-@end
-
-@implementation ZQPhoneNumberHelper
+CLASS(ZQPhoneNumberHelper)
 + (NSString *)trimLeading86:(NSString *)number {
-    return answer(@"trimLeading86:",
-                  [number hasPrefix:@"86"] ? [number substringFromIndex:2] : number);
+    id trimmed = [number hasPrefix:@"86"] ? [number substringFromIndex:2] : number;
+    return answer(_cmd, trimmed, number);
 }
-+ (NSString *)getDigitNumber:(NSString *)number {
-    return answer(@"getDigitNumber:", digits(number));
-}
++ (NSString *)getDigitNumber:(NSString *)number { return answer(_cmd, digits(number), number); }
 @end
 
-@interface ZQContactService : NSObject
-@end
-
-@implementation ZQContactService
+CLASS(ZQContactService)
 + (id)currentService {
     static ZQContactService *service = [[self alloc] init];
-    return answer(@"currentService", service);
-}
-- (BOOL)isInAddressBook:(NSString *)number {
-    return NO;
+    return answer(_cmd, service);
 }
 - (const void *)getPersonWithRecordID:(NSString *)number {
-    answer(@"getPersonWithRecordID:", nil);
-    return [Stage personWith:number];
+    answer(_cmd, nil, number);
+    return [Stage told:@"person" of:number];
+}
+@end
+
+CLASS(ZQWeiboService)
++ (id)getLocalAvatarForNumber:(NSString *)mobile {
+    return answer(_cmd, [[[NSObject alloc] init] autorelease], mobile);
+}
+- (void)getWeiboInfoWithNumber:(NSString *)mobile
+                    outProfile:(id *)profile
+                    outContent:(id *)content {
+    answer(_cmd, nil, mobile);
 }
 @end
 
 @interface ZQCallRecord : NSObject {
     NSString *_phoneNumber;
 }
-@property(nonatomic, copy) NSString *phoneNumber;
+- (NSString *)phoneNumber;
+- (void)setPhoneNumber:(NSString *)number;
 @end
 
 @implementation ZQCallRecord
-@synthesize phoneNumber = _phoneNumber;
 - (void)dealloc {
     [_phoneNumber release];
     [super dealloc];
 }
+- (NSString *)phoneNumber { return _phoneNumber; }
+- (void)setPhoneNumber:(NSString *)number {
+    [_phoneNumber release];
+    _phoneNumber = [number mutableCopy];
+}
 @end
 
 @implementation ZQNumberIdentity
-@synthesize number = _number;
-@synthesize identity = _identity;
-@synthesize source = _source;
-@synthesize brandInfo = _brandInfo;
-@synthesize type = _type;
-@synthesize numOfMark = _numOfMark;
-@synthesize cloudDataType = _cloudDataType;
-@synthesize rating = _rating;
+@synthesize number = _number, identity = _identity, source = _source, brandInfo = _brandInfo;
+@synthesize type = _type, numOfMark = _numOfMark, cloudDataType = _cloudDataType, rating = _rating;
 - (void)dealloc {
     [_number release];
     [_identity release];
@@ -124,45 +115,36 @@ static NSString *digits(NSString *text) {
     [_brandInfo release];
     [super dealloc];
 }
-- (void)setAttriNumInfo:(NSAttributedString *)text {
-}
-@end
-
-@interface ZQCallRecordService : NSObject
+- (void)setAttriNumInfo:(NSAttributedString *)text {}
 @end
 
 static int g_storedKind;
 
-@implementation ZQCallRecordService
+CLASS(ZQCallRecordService)
 - (void)insertOrUpdateNumberIdentityWithNumber:(ZQNumberIdentity *)identity {
+    answer(_cmd, nil, identity);
     g_storedKind = [identity type];
 }
 - (ZQCallRecord *)getRecordForNumber:(NSString *)number atSysDate:(NSDate *)date {
-    NSString *other = number && date ? [Stage storedFor:number at:date] : nil;
+    NSString *other = date ? [Stage told:@"stored" of:number] : nil;
     ZQCallRecord *record = other ? [[[ZQCallRecord alloc] init] autorelease] : nil;
     [record setPhoneNumber:other];
-    return answer(@"getRecordForNumber:atSysDate:", record);
+    return answer(_cmd, record, number);
 }
 @end
 
-// A history is told by its records' action types, and the types are its records.
-@implementation NSNumber (HistoryRecord)
-- (int)actionType {
-    return [self intValue];
-}
+    // A history is told by its records' action types, and the types are its records.
+    @implementation NSNumber(HistoryRecord)
+- (int)actionType { return [self intValue]; }
 @end
 
-@interface ZQSystemHistoryService : NSObject
-@end
-
-@implementation ZQSystemHistoryService
+CLASS(ZQSystemHistoryService)
 + (id)defaultService {
     static ZQSystemHistoryService *service = [[self alloc] init];
-    return answer(@"defaultService", service);
+    return answer(_cmd, service);
 }
 - (NSArray *)getAllCallHistoryByPhoneNumber:(NSString *)number fromRecentCalls:(int)count {
-    return answer(@"getAllCallHistoryByPhoneNumber:fromRecentCalls:",
-                  count == 100 ? [Stage historyOf:number] : nil);
+    return answer(_cmd, count == 100 ? [Stage told:@"history" of:number] : nil, number);
 }
 @end
 
@@ -191,8 +173,8 @@ static id g_delegate;
         g_delegate = delegate;
     }
     BOOL asExpected = !retryPeriod && (fromDialer || fromCall || fromRecents);
-    return answer(@"getIdentityOfRecord:",
-                  asExpected ? [Stage identityOf:[record phoneNumber]] : nil);
+    id known = asExpected ? [Stage told:@"identity" of:[record phoneNumber]] : nil;
+    return answer(_cmd, [[known retain] autorelease], record);
 }
 
 // The label and the direction of the call.
@@ -202,19 +184,16 @@ static id g_delegate;
                                  originalInfo:(NSString *)info {
     BOOL asExpected = identity && displayType == 2 && !info;
     NSString *text = [NSString stringWithFormat:@"%@ %d", [identity identity], direction];
-    return answer(@"getFormattedInfoFromNumIdentity:", asExpected ? text : nil);
+    return answer(_cmd, asExpected ? text : nil, identity);
 }
+@end
 
-// What the host tells the cloud to do, and what it left behind.
-+ (BOOL)isCloudAsked {
-    return g_delegate != nil;
-}
-+ (void)answer:(NSDictionary *)answer {
+@implementation Stage (Cloud)
++ (BOOL)isCloudAsked { return g_delegate != nil; }
++ (void)answerFromCloud:(NSDictionary *)answer {
     id delegate = g_delegate;
     g_delegate = nil;
     [delegate numberIdentityService:self didGetMarkInfoFromCloud:answer error:nil];
 }
-+ (int)storedKind {
-    return g_storedKind;
-}
++ (int)storedKind { return g_storedKind; }
 @end

@@ -1,20 +1,16 @@
-// Somebody else's list of recent calls, and what the add-on says in its rows.
-#import "Calls.h"
+// What the add-on says in the rows of somebody else's list of recent calls.
+#import "Rows.h"
 
 static void checkTexts() {
-    NSDate *date = [NSDate dateWithTimeIntervalSince1970:1400000777];
-    NSString *manyDigits = [@"" stringByPaddingToLength:10000 withString:@"7" startingAtIndex:0];
+    [Stage reset];
     [Stage know:identity(7, @"推销", 12) of:kPure];
     [Stage know:identity(9, @"存档") of:@"02000000009"];
-    [Stage know:identity(9, @"") of:@"02000000002"];
-    [Stage store:@"02000000009" for:kNumber at:date];
-    [Stage person:list({kPure}) with:@"1"];
-    [Stage person:list({kPure, kPure}) with:@"11"];
-    [Stage person:list({kPure, @"2"}) with:@"12"];
-    [Stage person:list({kPure, @"2", kPure}) with:@"13"];
+    [Stage tell:@"stored" of:@"020-2" as:@"02000000009"];
+    [Stage tell:@"person" of:@"11" as:list({kPure, kPure})];
+    [Stage tell:@"person" of:@"13" as:list({kPure, @"2", kPure})];
     RecentCall *undated = callFrom(kNumber);
-    [undated->date release];
     undated->date = nil;
+    NSString *manyDigits = [@"" stringByPaddingToLength:10000 withString:@"7" startingAtIndex:0];
     const struct {
         NSString *name;
         RecentCall *call;
@@ -22,166 +18,100 @@ static void checkTexts() {
     } kCases[] = {
         {@"marked", callFrom(kNumber), @"推销 0"},
         {@"outgoing", callFrom(kNumber, 1400000001, 2), @"推销 1"},
-        {@"stored", callFrom(kNumber, 1400000777), @"存档 0"},
+        {@"stored", callFrom(@"020-2"), @"存档 0"},
         {@"without a date", undated, @"推销 0"},
-        {@"without a label", callFrom(@"02000000002"), @" 0"},
-        {@"unknown", callFrom(@"13800000000"), @"广东广州"},
-        {@"unknown, as it is written", callFrom(@"+0755 1"), @"广东广州"},
-        {@"an e-mail address", callFrom(@"somebody@example.com"), @"广东广州"},
         {@"many digits", callFrom(manyDigits), @"广东广州"},
-        {@"an empty number", callFrom(@""), @"广东广州"},
         {@"without a number", callFrom(nil), nil},
         {@"no call", nil, nil},
-        {@"a contact's only number", contactCallFrom(@"1"), nil},
-        {@"the same number twice", contactCallFrom(@"1-1"), nil},
-        {@"two numbers", contactCallFrom(@"1-2"), @"<1-2>  广东"},
-        {@"two of three numbers", contactCallFrom(@"1-3"), @"<1-3>  广东"},
+        {@"faulty", faultyCall(), nil},
+        {@"one number twice", contactCallFrom(@"1-1"), nil},
+        {@"two numbers", contactCallFrom(@"1-3"), @"<1-3>  广东"},
         {@"a contact whom nobody knows", contactCallFrom(@"14"), nil},
         {@"a contact without a number", contactCallFrom(nil), nil},
     };
     for (const auto &each : kCases) {
         Case name(each.name);
-        check(isText(textOf(row(each.call)), each.text), "the text");
+        expectEqual(textOf(rowOf(each.call)), each.text);
     }
-    for (id area : {(id) @"", (id)nil}) {
-        [Stage let:@"areaNameOfNumber:" answer:area];
-        check(isText(textOf(row(contactCallFrom(@"12"))), @"<12>  未知"),
-              "an unknown area is said");
+    [Stage let:@"areaNameOfNumber:" answer:@""];
+    expectEqual(textOf(rowOf(contactCallFrom(@"13"))), @"<13>  未知");
+
+    Class helper = NSClassFromString(@"ZQSystemCallHistoryClassHelper");
+    for (int status : {-1, 0, 1, 2, 3, 4, 5, 7, 8, 9, 33, 36}) {
+        Case name([NSString stringWithFormat:@"status %d", status]);
+        expectEqual([helper isOneIncomingCall:callFrom(kNumber, 0, status)],
+                    status == 1 || status == 4 || status == 8);
     }
 }
+static const Group g_texts("rows, texts", kPhone | kBare, checkTexts);
 
 static void checkGeometry() {
+    [Stage reset];
     [Stage know:identity(7, @"推销推", 12) of:kPure];
-    RecentsRow *cell = row(callFrom(kNumber));
-    [cell layoutSubviews];
+    PHRecentsCell *row = rowOf(callFrom(kNumber));
+    [row layoutSubviews];
     // Five units of 11.66 points in what four of 10.1 leave.
-    check(stands(line(cell), 34, 28, 181, 15), "the line's place");
-    check(stands(icon(cell), 96, 29, 15, 12), "the icon follows the text");
-    check(g_measured.options == 33 && g_measured.size.width == 181 && g_measured.size.height == 15,
-          "the text is measured in the line's room");
-    check([[icon(cell) image]->path isEqual:@"/resources/record_icon.png"], "the icon's picture");
-    check([line(cell) font] == [cell->_callerLabelLabel font] &&
-              [line(cell) textColor] == [cell->_callerLabelLabel textColor],
-          "the line looks like the caller label");
-    check(isClear(line(cell)), "and is clear");
+    expectFrame(line(row), {34, 28, 181, 15});
+    expectFrame(icon(row), {96, 29, 15, 12});
+    expectEqual(g_options, 33);
+    expectEqual(icon(row)->image->path, @"/resources/record_icon.png");
+    expectEqual([line(row) font], [row->_callerLabelLabel font]);
+    expectEqual([line(row) textColor], rgb(127, 127, 127));
+    expectEqual([line(row) backgroundColor], [UIColor clearColor]);
 
     UIView *above = [[[UIView alloc] init] autorelease];
-    [[cell contentView] addSubview:above];
-    [cell->_callerDateLabel setTimeDesignator:@"上午"];
-    [cell->_callerLabelLabel setFont:[UIFont systemFontOfSize:20]];
-    [cell layoutSubviews];
-    NSArray *views = [[cell contentView] subviews];
-    check([views count] == 5, "nothing is added twice");
-    check([views objectAtIndex:2] == above && [views objectAtIndex:3] == line(cell),
-          "line and icon come to the front");
-    check(stands(line(cell), 34, 28, 151, 15), "the designator takes its room");
-    check([[line(cell) font] pointSize] == 11.66, "the line keeps its font");
+    [row->contentView addSubview:above];
+    row->_callerDateLabel->timeDesignator = @"上午";
+    [row->_callerLabelLabel setFont:[UIFont systemFontOfSize:20]];
+    [row layoutSubviews];
+    expectEqual([row->contentView subviews],
+                list({row->_callerLabelLabel, row->_callerDateLabel, above, line(row), icon(row)}));
+    expectFrame(line(row), {34, 28, 151, 15});
     // Measured with the caller label's font of now: 100 points.
-    check(stands(icon(cell), 137, 29, 15, 12), "the icon follows the wider text");
+    expectFrame(icon(row), {137, 29, 15, 12});
 
     NSString *manyUnits = [@"" stringByPaddingToLength:1000 withString:@"推" startingAtIndex:0];
-    [Stage know:identity(7, manyUnits, 12) of:@"02000000003"];
-    show(cell, callFrom(@"02000000003"));
-    check(stands(icon(cell), 188, 29, 15, 12), "a long text ends where the line does");
-    show(cell, callFrom(nil));
-    check([line(cell) isHidden] && [icon(cell) isHidden], "a row without text hides both");
-    check(isText([cell->_callerLabelLabel text], @"手机"), "and keeps its caller label");
-    show(cell, callFrom(kNumber));
-    check(isShown(line(cell)) && isShown(icon(cell)), "and they come back");
-}
+    [Stage know:identity(7, manyUnits) of:@"02000000003"];
+    give(row, callFrom(@"02000000003"));
+    [row layoutSubviews];
+    expectFrame(icon(row), {188, 29, 15, 12});
+    give(row, callFrom(nil));
+    expectEqual(textOf(row), nil);
 
-static void checkOddRows() {
-    PHRecentsCell *bare = [[[PHRecentsCell alloc] initWithCall:callFrom(kNumber)] autorelease];
-    check(isQuiet([&] { [bare layoutSubviews]; }), "a row without labels is laid out");
-    check(stands(line(bare), 34, 28, 222, 15) && isText([line(bare) text], @"广东广州"),
-          "its line has all the room");
-    check(![line(bare) font] && ![line(bare) textColor], "and no font of its own");
+    PHRecentsCell *bare = rowOf(callFrom(kNumber));
+    bare->_callerLabelLabel = nil;
+    bare->_callerDateLabel = (DateLabel *)[[[NSObject alloc] init] autorelease];
+    expectQuiet([&] { [bare layoutSubviews]; });
+    bare->_callerDateLabel = nil;
+    [bare layoutSubviews];
+    expectFrame(line(bare), {34, 28, 222, 15});
 
-    RecentsRow *tagged = row(callFrom(kNumber));
-    UIImageView *own = [[[UIImageView alloc] initWithImage:nil] autorelease];
+    PHRecentsCell *tagged = rowOf(callFrom(kNumber));
+    UIView *own = [[[UIImageView alloc] init] autorelease];
     [own setTag:2533];
     [tagged addSubview:own];
     [tagged layoutSubviews];
-    check([[[tagged contentView] subviews] count] == 3 && stands(own, 84, 29, 15, 12),
-          "an icon anywhere in the row is taken");
+    expectFrame(own, {96, 29, 15, 12});
 
-    RecentsRow *dateless = row(callFrom(kNumber));
-    [dateless->_callerDateLabel release];
-    dateless->_callerDateLabel = (DateLabel *)[[NSObject alloc] init];
-    check(isQuiet([&] { [dateless layoutSubviews]; }), "a date label that is none harms nobody");
-    RecentsRow *faulty = row(faultyCall());
-    check(isQuiet([&] { [faulty layoutSubviews]; }) && faulty->layouts == 1,
-          "nor does a faulty call");
-    RecentsRow *raising = row(callFrom(kNumber));
+    PHRecentsCell *raising = rowOf(callFrom(kNumber));
     raising->raises = YES;
-    check(!isQuiet([&] { [raising layoutSubviews]; }), "the row's own fault is the row's");
-    check(!line(raising) && !icon(raising), "and ends the layout");
+    expectTrue(raises([&] { [raising layoutSubviews]; }));
+    expectEqual(line(raising), nil);
 }
+static const Group g_geometry("rows, geometry", kPhone, checkGeometry);
 
-static void checkCompanionFaults() {
-    for (NSString *operation :
-         {@"isLaterThanIOSVersion:include:", @"isEalierThanIOSVersion:include:", @"parse",
-          @"initWithOriginNumber:", @"pureNumber", @"getRecordForNumber:atSysDate:",
-          @"getIdentityOfRecord:", @"getFormattedInfoFromNumIdentity:", @"descriptionOfNumber:",
-          @"areaNameOfNumber:", @"getFormattedNumberWithNumber:", @"currentService",
-          @"getPersonWithRecordID:", @"getCeilCGFloat:", @"getAppResourceDir"}) {
-        Case name(operation);
-        for (id value : {(id)nil, (id)number(37), (id) @"text"}) {
-            [Stage reset];
-            [Stage know:identity(7, number(37), 12, number(5)) of:kPure];
-            [Stage person:list({@"11", @"12"}) with:@"11"];
-            value ? [Stage let:operation answer:value] : [Stage raiseIn:operation];
-            for (RecentCall *call : {callFrom(kNumber), callFrom(@"2"), contactCallFrom(@"11")}) {
-                textOf(row(call));
-            }
-        }
-    }
-    [Stage reset];
-    RecentsRow *cell = row(callFrom(kNumber));
-    check(textOf(cell) != nil, "a text");
-    show(cell, callFrom(@"5"));
-    [Stage raiseIn:@"getIdentityOfRecord:"];
-    show(cell, callFrom(@"6"));
-    check(!textOf(cell), "is not left standing");
-    [Stage reset];
-}
-
-template <typename List, typename Parent>
+template <typename List>
 static int reloads() {
-    Parent *bare = [[[Parent alloc] init] autorelease];
     List *list = [[[List alloc] init] autorelease];
-    check(isQuiet([&] { [bare viewWillAppear:YES]; }) && bare->appeared == 1,
-          "a list without a table");
     [list viewWillAppear:YES];
-    check(list->appeared == 1, "the list appears");
+    expectEqual(list->appeared, 1);
     return list->_table->reloads;
 }
 
-void checkRecents(bool isOn) {
-    Case name(@"recents");
-    [Stage reset];
-    check(reloads<PhoneList, PhoneViewController>() == (isOn && !isNewer()),
-          "its rows are reloaded");
-    check(reloads<RecentsList, PHRecentsViewController>() == (isOn && isNewer()),
-          "or those since 8.0");
-    if (!isOn) {
-        RecentsRow *cell = row(callFrom(kNumber));
-        [cell layoutSubviews];
-        check(!line(cell) && !icon(cell), "nothing is added elsewhere");
-        return;
-    }
-    for (void (*checks)() : {checkTexts, checkGeometry, checkOddRows, checkCompanionFaults,
-                             checkCalls, checkCache, checkProperty, checkMonitor}) {
-        [Stage reset];
-        checks();
-    }
-    UIView *tree = [[[UIView alloc] init] autorelease];
-    UIView *branch = [[[UIView alloc] init] autorelease];
-    UIView *leaf = [[[UIView alloc] init] autorelease];
-    [tree setTag:5];
-    [leaf setTag:5];
-    [branch addSubview:leaf];
-    [tree addSubview:branch];
-    check([hook() getSubviewOfView:tree WithTag:5] == leaf, "a tag is looked for below the view");
-    check(![hook() getSubviewOfView:leaf WithTag:5], "and not in itself");
+static void checkLists() {
+    expectEqual(reloads<PHRecentsViewController>(), 1);
+    expectEqual(reloads<PHFavoritesViewController>(), isRun(k7));
+    PhoneViewController *keypad = [[[PhoneViewController alloc] init] autorelease];
+    expectQuiet([&] { [keypad viewWillAppear:YES]; });
 }
+static const Group g_lists("lists", kPhone, checkLists);

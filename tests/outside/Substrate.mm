@@ -1,12 +1,22 @@
-// A hooking framework of somebody else's: it replaces methods that the class itself has.
+// A hooking framework of somebody else's. A class that only inherits a method gets its own, so that
+// its superclass and its siblings stay as they are. No class is sent a message.
 #import <Foundation/Foundation.h>
-
 #include <objc/runtime.h>
+
+#include "Substrate.h"
+
+static std::multiset<std::string> g_methods;
+
+const std::multiset<std::string> &hookedMethods() { return g_methods; }
 
 extern "C" void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP *saved) {
     Method method = class_getInstanceMethod(cls, selector);
-    if (method) {
-        *saved = method_getImplementation(method);
+    if (!method) {
+        return;
+    }
+    g_methods.insert(std::string(class_getName(cls)) + " " + sel_getName(selector));
+    *saved = method_getImplementation(method);
+    if (!class_addMethod(cls, selector, replacement, method_getTypeEncoding(method))) {
         method_setImplementation(method, replacement);
     }
 }

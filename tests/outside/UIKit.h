@@ -1,43 +1,56 @@
 // The UIKit beside the host: as little as the screens need, and what the checks look at.
 #pragma once
 
+#include <functional>
+#include <string>
+#include <vector>
+
 #import <Foundation/Foundation.h>
 
 #include "Geometry.h"
 
-@interface UIColor : NSObject {
-  @public
-    CGFloat red, green, blue, alpha;
+/// An array's objects, whatever becomes of the array meanwhile.
+template <typename Object>
+std::vector<Object *> each(NSArray *array) {
+    std::vector<Object *> objects([array count]);
+    [array getObjects:(id *)objects.data()];
+    return objects;
+}
+
+/// What the objects of this UIKit and of the Phone application have in common.
+@interface UIObject : NSObject {
+    NSMutableArray *_parts;
+}
+/// Takes over the caller's reference until the object goes, and returns the part.
+- (id)own:(id)part;
+@end
+
+/// The classes of those that were sent a message so far.
+const std::string &wokenClasses();
+
+@interface UIColor : UIObject {
+    CGFloat _components[4];
 }
 + (id)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 + (id)clearColor;
-+ (id)whiteColor;
-+ (id)blackColor;
 @end
 
-@interface UIFont : NSObject {
+@interface UIFont : UIObject {
   @public
-    CGFloat points;
+    CGFloat pointSize;
 }
 + (id)systemFontOfSize:(CGFloat)size;
-- (CGFloat)pointSize;
 @end
 
-@interface UIImage : NSObject {
+@interface UIImage : UIObject {
   @public
     NSString *path;
     UIEdgeInsets caps;
 }
 + (id)imageWithContentsOfFile:(NSString *)path;
-- (id)resizableImageWithCapInsets:(UIEdgeInsets)insets;
 @end
 
-@interface UIScreen : NSObject
-+ (id)mainScreen;
-- (CGRect)bounds;
-@end
-
-@interface UIView : NSObject {
+@interface UIView : UIObject {
     CGRect _frame;
     BOOL _hidden;
     NSInteger _tag;
@@ -45,6 +58,9 @@
     NSMutableArray *_subviews;
     UIView *_superview;
     id _layer;
+  @public
+    int layouts, layersLaidOut;
+    BOOL keepsNothing;  // of what it is given
 }
 @property(nonatomic) CGRect frame;
 @property(nonatomic, getter=isHidden) BOOL hidden;
@@ -55,9 +71,10 @@
 - (id)initWithFrame:(CGRect)frame;
 - (UIView *)viewWithTag:(NSInteger)tag;
 - (void)addSubview:(UIView *)view;
-- (void)bringSubviewToFront:(UIView *)view;
+- (void)removeFromSuperview;
 - (void)layoutSubviews;
-- (id)layer;
+/// What a class's own layout brings about.
+- (void)fillIn;
 - (void)layoutSublayersOfLayer:(id)layer;
 @end
 
@@ -73,27 +90,26 @@
 @property(nonatomic, retain) UIColor *textColor;
 @end
 
+/// What the next label that gets a text brings about, before it takes the text.
+extern std::function<void()> g_onText;
+
 @interface UIImageView : UIView {
-    UIImage *_image;
+  @public
+    UIImage *image;
 }
-@property(nonatomic, retain) UIImage *image;
-- (id)initWithImage:(UIImage *)image;
 @end
 
 @interface UIButton : UIView {
-    UILabel *_titleLabel;
     NSMutableDictionary *_states;
   @public
+    UILabel *titleLabel;
     UIEdgeInsets insets;
     id target;
     SEL action;
     NSUInteger events;
 }
-+ (id)buttonWithType:(NSInteger)type;
-- (UILabel *)titleLabel;
-- (NSString *)titleForState:(NSUInteger)state;
-- (UIColor *)titleColorForState:(NSUInteger)state;
-- (UIImage *)backgroundImageForState:(NSUInteger)state;
+/// The title, color or image of a state.
+- (id)get:(NSString *)what forState:(NSUInteger)state;
 /// A finger comes down and up inside.
 - (void)press;
 @end
@@ -110,12 +126,24 @@
   @public
     int reloads;
 }
-- (void)reloadData;
 @end
 
-/// The room that a text was last given to be measured in.
-struct Measurement {
-    CGSize size;
-    NSInteger options;
-};
-extern Measurement g_measured;
+@interface UITableViewCell : UIView {
+  @public
+    UIView *contentView;
+    CGPoint target;
+}
+- (void)scrollViewWillEndDragging:(UIScrollView *)view
+                     withVelocity:(CGPoint)velocity
+              targetContentOffset:(CGPoint *)target;
+@end
+
+@interface UIViewController : UIObject {
+  @public
+    int appeared;
+}
+- (void)viewWillAppear:(BOOL)animated;
+@end
+
+/// How a text was last measured in a room.
+extern NSInteger g_options;

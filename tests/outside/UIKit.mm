@@ -1,42 +1,70 @@
 // A UIKit of somebody else's, compiled by the Objective-C front end: fonts, pictures and views.
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include <objc/runtime.h>
+
 #import "UIKit.h"
 
 NSString *NSFontAttributeName = @"NSFont";
 NSString *NSForegroundColorAttributeName = @"NSColor";
-Measurement g_measured;
+NSInteger g_options;
+std::function<void()> g_onText;
+
+static std::string g_woken;
+
+const std::string &wokenClasses() { return g_woken; }
+
+@implementation UIObject
++ (void)initialize { g_woken += class_getName(self) + std::string(" "); }
+- (id)own:(id)part {
+    if (!_parts) {
+        _parts = [[NSMutableArray alloc] init];
+    }
+    [_parts addObject:part];
+    [part release];
+    return part;
+}
+- (void)dealloc {
+    [_parts release];
+    [super dealloc];
+}
+@end
 
 @implementation UIColor
 + (id)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha {
     UIColor *color = [[[self alloc] init] autorelease];
-    color->red = red;
-    color->green = green;
-    color->blue = blue;
-    color->alpha = alpha;
+    const CGFloat components[] = {red, green, blue, alpha};
+    std::copy_n(components, 4, color->_components);
     return color;
 }
-+ (id)clearColor {
-    return [self colorWithRed:0 green:0 blue:0 alpha:0];
++ (id)clearColor { return [self colorWithRed:0 green:0 blue:0 alpha:0]; }
++ (id)whiteColor { return [self colorWithRed:1 green:1 blue:1 alpha:1]; }
++ (id)blackColor { return [self colorWithRed:0 green:0 blue:0 alpha:1]; }
+// Hundredths of what a screen tells apart
+- (NSUInteger)hash { return std::lround(_components[0] * 25500); }
+- (BOOL)isEqual:(UIColor *)other {
+    auto isSame = [](CGFloat one, CGFloat two) { return std::fabs(one - two) * 25500 < 1; };
+    return [other isKindOfClass:[UIColor class]] &&
+           std::equal(_components, _components + 4, other->_components, isSame);
 }
-+ (id)whiteColor {
-    return [self colorWithRed:1 green:1 blue:1 alpha:1];
-}
-+ (id)blackColor {
-    return [self colorWithRed:0 green:0 blue:0 alpha:1];
+- (NSString *)description {
+    return [NSString stringWithFormat:@"color %.2f %.2f %.2f alpha %.2f", _components[0] * 255,
+                                      _components[1] * 255, _components[2] * 255, _components[3]];
 }
 @end
 
 @implementation UIFont
 + (id)systemFontOfSize:(CGFloat)size {
     UIFont *font = [[[self alloc] init] autorelease];
-    font->points = size;
+    font->pointSize = size;
     return font;
 }
 + (id)fontWithName:(NSString *)name size:(CGFloat)size {
     return [name isEqualToString:@"HelveticaNeue"] ? [self systemFontOfSize:size] : nil;
 }
-- (CGFloat)pointSize {
-    return points;
-}
+- (CGFloat)pointSize { return pointSize; }
 @end
 
 @implementation UIImage
@@ -45,12 +73,8 @@ Measurement g_measured;
         return nil;
     }
     UIImage *image = [[[self alloc] init] autorelease];
-    image->path = [path copy];
+    image->path = [image own:[path copy]];
     return image;
-}
-- (void)dealloc {
-    [path release];
-    [super dealloc];
 }
 - (id)resizableImageWithCapInsets:(UIEdgeInsets)insets {
     UIImage *image = [UIImage imageWithContentsOfFile:path];
@@ -59,83 +83,81 @@ Measurement g_measured;
 }
 @end
 
+@interface UIScreen : UIObject
+@end
+
 @implementation UIScreen
-+ (id)mainScreen {
-    return [[[self alloc] init] autorelease];
-}
-- (CGRect)bounds {
-    return CGRect{{0, 0}, {320, 568}};
-}
++ (id)mainScreen { return [[[self alloc] init] autorelease]; }
+- (CGRect)bounds { return CGRect{{0, 0}, {320, 568}}; }
 @end
 
 @implementation UIView
-@synthesize frame = _frame;
-@synthesize hidden = _hidden;
-@synthesize tag = _tag;
-@synthesize backgroundColor = _backgroundColor;
-@synthesize subviews = _subviews;
-@synthesize superview = _superview;
+@synthesize frame = _frame, hidden = _hidden, tag = _tag, backgroundColor = _backgroundColor;
+@synthesize subviews = _subviews, superview = _superview;
 
-- (id)init {
-    return [self initWithFrame:CGRect{}];
-}
+- (id)init { return [self initWithFrame:CGRect{}]; }
 - (id)initWithFrame:(CGRect)frame {
     self = [super init];
     _frame = frame;
-    _subviews = [[NSMutableArray alloc] init];
-    _layer = [[NSObject alloc] init];
+    _subviews = [self own:[[NSMutableArray alloc] init]];
+    _layer = [self own:[[NSObject alloc] init]];
     return self;
 }
 - (void)dealloc {
-    for (NSUInteger i = 0; i < [_subviews count]; ++i) {
-        UIView *view = [_subviews objectAtIndex:i];
+    for (UIView *view : each<UIView>(_subviews)) {
         view->_superview = nil;
     }
-    [_subviews release];
     [_backgroundColor release];
-    [_layer release];
     [super dealloc];
 }
 - (void)addSubview:(UIView *)view {
-    if (view) {
+    if (view && !keepsNothing) {
+        [[view retain] removeFromSuperview];
         [_subviews addObject:view];
         view->_superview = self;
+        [view release];
+    }
+}
+- (void)removeFromSuperview {
+    UIView *from = _superview;
+    _superview = nil;
+    if (from) {
+        [from->_subviews removeObjectIdenticalTo:self];
     }
 }
 - (void)bringSubviewToFront:(UIView *)view {
     if (view && view->_superview == self) {
-        [view retain];
-        [_subviews removeObjectIdenticalTo:view];
-        [_subviews addObject:view];
-        [view release];
+        [self addSubview:view];
     }
 }
 - (UIView *)viewWithTag:(NSInteger)tag {
     if (_tag == tag) {
         return self;
     }
-    for (NSUInteger i = 0; i < [_subviews count]; ++i) {
-        UIView *found = [[_subviews objectAtIndex:i] viewWithTag:tag];
-        if (found) {
+    for (UIView *view : each<UIView>(_subviews)) {
+        if (UIView *found = [view viewWithTag:tag]) {
             return found;
         }
     }
     return nil;
 }
 - (void)layoutSubviews {
+    ++layouts;
+    [self fillIn];
 }
-- (id)layer {
-    return _layer;
-}
+- (void)fillIn {}
+- (id)layer { return _layer; }
+// A view that is laid out by its layer is sent the message whether it is within one already or not.
 - (void)layoutSublayersOfLayer:(id)layer {
+    layersLaidOut += layer == _layer;
+    [self layoutSubviews];
 }
+- (void)touchesBegan:(NSSet *)touches withEvent:(id)event {}
+- (void)touchesCancelled:(NSSet *)touches withEvent:(id)event {}
 @end
 
 @implementation UILabel
-@synthesize text = _text;
-@synthesize attributedText = _attributedText;
-@synthesize font = _font;
-@synthesize textColor = _textColor;
+@synthesize text = _text, attributedText = _attributedText, font = _font, textColor = _textColor;
 
 - (void)dealloc {
     [_text release];
@@ -145,35 +167,34 @@ Measurement g_measured;
     [super dealloc];
 }
 - (void)setText:(NSString *)text {
-    [_text autorelease];
-    _text = [text copy];
-    [_attributedText autorelease];
+    if (const auto happen = std::exchange(g_onText, nullptr)) {
+        happen();
+    }
+    NSString *copy = [text copy];
+    [_text release];
+    _text = copy;
+    [_attributedText release];
     _attributedText = nil;
 }
 - (void)setAttributedText:(NSAttributedString *)text {
     [self setText:[text string]];
     _attributedText = [text copy];
 }
-- (void)setTextAlignment:(NSInteger)alignment {
-}
+- (void)setTextAlignment:(NSInteger)alignment {}
 @end
 
 @implementation NSString (Drawing)
 - (CGSize)sizeWithFont:(UIFont *)font {
-    return CGSize{[self length] * [font pointSize], [font pointSize]};
+    return CGSize{[self length] * font -> pointSize, font -> pointSize};
 }
 // Every unit is as wide as the font is high; lines break at the width that is given.
 - (CGRect)boundingRectWithSize:(CGSize)size
                        options:(NSInteger)options
                     attributes:(NSDictionary *)attributes
                        context:(id)context {
-    g_measured = Measurement{size, options};
+    g_options = options;
     UIFont *font = [attributes objectForKey:NSFontAttributeName];
-    CGFloat points = font ? [font pointSize] : 12;
-    CGRect room = {{0, 0}, {[self length] * points, points}};
-    if ((options & 1) && room.size.width > size.width) {
-        room.size.width = size.width;
-    }
-    return room;
+    CGFloat points = font ? font->pointSize : 12, width = [self length] * points;
+    return CGRect{{0, 0}, {(options & 1) && width > size.width ? size.width : width, points}};
 }
 @end
