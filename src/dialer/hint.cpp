@@ -24,6 +24,9 @@ bool showRow(PHHandsetDialerLCDView lcd, NSString number, NSString name, NSStrin
     HintRow row = HintRow::find(lcd);
     if (!row) {
         row = HintRow::create(lcd, from71);
+        if (!HintRow::find(lcd)) {
+            return false;  // the display did not keep it
+        }
     }
     row.show(description, lcd, from71);
     nameLine.setHidden(true);

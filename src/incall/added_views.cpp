@@ -15,9 +15,13 @@ void addDescriptionLabel(UIView parent, CGRect frame, Tag tag) {
     addTagged(parent, label, tag);
 }
 
-void showDescription(UILabel label, NSString description) {
+void showDescription(InCallDisplay display, UILabel label, NSString description) {
+    const auto attributed = twoToned(description);  // asks for colours
+    if (LayoutPass::isOvertaken(display)) {
+        return;
+    }
     label.setText(description);
-    if (const auto attributed = twoToned(description)) {
+    if (attributed && !LayoutPass::isOvertaken(display)) {
         label.setAttributedText(attributed.get());
     }
 }
@@ -52,7 +56,6 @@ void setFrames(InCallDisplay display, std::initializer_list<Placed> places) {
 
 void hideAddedViews(InCallDisplay display) {
     findContainer(display).setHidden(true);
-    findRegionIcon(display.labelView()).setHidden(true);
     for (const Tag tag : {kPictureTag, kFieldDescriptionTag, kFieldIconTag}) {
         display.viewWithTag(tag).setHidden(true);
     }

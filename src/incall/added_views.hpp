@@ -30,8 +30,9 @@ inline constexpr CGFloat kFontSize = 14;
 
 /// White, centred and clear behind.
 void addDescriptionLabel(UIView parent, CGRect frame, Tag tag);
-/// Sets the description, in two tones where it has two parts.
-void showDescription(UILabel label, NSString description);
+/// Sets the description, in two tones where it has two parts, unless another pass lays `display`
+/// out meanwhile.
+void showDescription(InCallDisplay display, UILabel label, NSString description);
 /// The small green icon beside a description. Owned by the pool as well, in case `parent` is nil.
 UIView addGreenIcon(UIView parent, CGRect frame, Tag tag);
 
@@ -51,7 +52,7 @@ struct Placed {
 /// Sets the frames one after the other, as long as no other pass lays `display` out meanwhile.
 void setFrames(InCallDisplay display, std::initializer_list<Placed> places);
 
-/// Hides whatever was added, so that the Phone application's own screen stands.
+/// Hides the description and the picture.
 void hideAddedViews(InCallDisplay display);
 
 }  // namespace incall

@@ -1,6 +1,8 @@
 // A contact's region before the number label.
 #include "incall/contact_region.hpp"
 
+#include <algorithm>
+
 #include "incall/added_views.hpp"
 #include "incall/description.hpp"
 #include "incall/geometry.hpp"
@@ -52,6 +54,9 @@ void placeRegionIcon(UIView icon, TPLCDTextView label, CGRect frame, const Regio
 }  // namespace
 
 void layOutContactRegion(InCallDisplay display, const Caller &caller) {
+    if (LayoutPass::isOvertaken(display)) {
+        return;
+    }
     const TPLCDTextView label = display.labelView();
     UIView icon = findRegionIcon(label);
     icon.setHidden(true);
@@ -87,6 +92,19 @@ void layOutContactRegion(InCallDisplay display, const Caller &caller) {
         placeRegionIcon(icon, label, frame, text);
     }
     undo.keep();
+}
+
+void removeContactRegion(InCallDisplay display) {
+    const TPLCDTextView label = display.labelView();
+    const UIView icon = findRegionIcon(label);
+    if (!icon) {
+        return;
+    }
+    icon.setHidden(true);
+    const NSString text = label.text();
+    if (const NSUInteger separatorIndex = text.indexOf(separator()); separatorIndex != kNotFound) {
+        label.setText(text.substringFromIndex(std::min(separatorIndex + 2, text.length())));
+    }
 }
 
 }  // namespace incall

@@ -10,4 +10,7 @@ namespace incall {
 /// while there are two calls.
 void layOutContactRegion(InCallDisplay display, const Caller &caller);
 
+/// Takes both away, so that the label has the Phone application's own text again.
+void removeContactRegion(InCallDisplay display);
+
 }  // namespace incall

@@ -82,7 +82,7 @@ void layOutField(InCallLCDField field, const Caller &caller) {
     if (LayoutPass::isOvertaken(field)) {
         return;
     }
-    showDescription(description, caller.description);
+    showDescription(field, description, caller.description);
 
     const TPLCDTextView text = field.textView();
     const TPLCDTextView label = field.labelView();

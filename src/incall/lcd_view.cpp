@@ -37,7 +37,7 @@ Beside besideText(InCallLCDView lcd, const Caller &caller, bool withPicture) {
     return !withPicture ? Beside::Nothing : caller.isBrand() ? Beside::Logo : Beside::Avatar;
 }
 
-void placeDescription(UIView container, const Caller &caller, Column column) {
+void placeDescription(InCallLCDView lcd, UIView container, const Caller &caller, Column column) {
     const auto label = container.viewWithTag(kDescriptionTag).as<UILabel>();
     const UIView icon = container.viewWithTag(kIconTag);
     const CGRect labelFrame = label.frame();
@@ -45,7 +45,7 @@ void placeDescription(UIView container, const Caller &caller, Column column) {
     CGRect iconFrame = icon.frame();
     iconFrame.origin.x = iconX(column, lineSize(caller.description, label.font()).width);
     icon.setFrame(iconFrame);
-    showDescription(label, caller.description);
+    showDescription(lcd, label, caller.description);
 }
 
 }  // namespace
@@ -95,7 +95,7 @@ void layOutView(InCallLCDView lcd, const Caller &caller, bool withPicture, bool 
         return;
     }
     if (withDescription) {
-        placeDescription(container, caller, columnOf(view));
+        placeDescription(lcd, container, caller, columnOf(view));
     }
     objc::Undo undo([&] {
         text.setFrame(view.frames.text);

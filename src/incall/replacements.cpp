@@ -5,6 +5,7 @@
 #include "companion/ios_version.hpp"
 #include "incall/ZQDialWaitUIHook.hpp"
 #include "incall/added_views.hpp"
+#include "incall/contact_region.hpp"
 #include "objc/silently.hpp"
 #include "platform/LayoutPass.hpp"
 
@@ -26,6 +27,7 @@ void layOut(InCallDisplay display, Work work) {
     const LayoutPass pass(display);
     if (!withHook(work)) {
         objc::silently([&] { incall::hideAddedViews(display); });
+        objc::silently([&] { incall::removeContactRegion(display); });
     }
 }
 
@@ -66,9 +68,13 @@ void replace_InCallLCDField_layoutSubviews(InCallLCDField self, SEL selector) {
         }
         if (ios::is71() && hook.isCurrentCallInAddresBook()) {
             hook.layoutContactRegionInfoOfView(self);
-        } else if (hook.addNumInfoToLCDField(self) && !LayoutPass::isOvertaken(self)) {
-            hook.layoutSubviewsOfLCDField(self);
+            return;
         }
+        LayoutPass::untilCurrent(self, [&] {
+            if (hook.addNumInfoToLCDField(self) && !LayoutPass::isOvertaken(self)) {
+                hook.layoutSubviewsOfLCDField(self);
+            }
+        });
     });
 }
 
@@ -83,12 +89,14 @@ void replace_InCallLCDView_layoutSubviews(InCallLCDView self, SEL selector) {
             }
             return;
         }
-        const bool hasDescription = hooksUI && hook.addDescriptionLabel(self);
-        // On 7.1 the picture is asked for even where no information is wanted.
-        const bool hasPicture = (is71 || hooksUI) && hook.isBrandNumber();
-        if (!LayoutPass::isOvertaken(self)) {
-            hook.layoutSubviewOfLCDView(self, hasPicture, hasDescription);
-        }
+        LayoutPass::untilCurrent(self, [&] {
+            const bool hasDescription = hooksUI && hook.addDescriptionLabel(self);
+            // On 7.1 the picture is asked for even where no information is wanted.
+            const bool hasPicture = (is71 || hooksUI) && hook.isBrandNumber();
+            if (!LayoutPass::isOvertaken(self)) {
+                hook.layoutSubviewOfLCDView(self, hasPicture, hasDescription);
+            }
+        });
     });
 }
 

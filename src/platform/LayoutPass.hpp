@@ -3,6 +3,8 @@
 // takes a text may, and so may the companion while it is asked.
 #pragma once
 
+#include <utility>
+
 #include "objc/runtime.hpp"
 
 /// One run of a replaced layoutSubviews over one view, for as long as it lives. Main thread only.
@@ -33,6 +35,17 @@ class LayoutPass {
     static bool isOvertaken(id view) {
         const LayoutPass *const pass = innermost(view);
         return pass && pass->isOvertaken_;
+    }
+
+    /// Does the work of a pass, and once more where it was overtaken on the way: what it was about
+    /// to show may have come last.
+    template <class Work>
+    static void untilCurrent(id view, Work work) {
+        work();
+        LayoutPass *const pass = innermost(view);
+        if (pass && std::exchange(pass->isOvertaken_, false)) {
+            work();
+        }
     }
 
   private:

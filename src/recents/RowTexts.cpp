@@ -65,7 +65,6 @@ Owned<NSString> RowTexts::textOf(RecentCall call, bool from80) {
     if (auto known = find(key)) {
         return known;
     }
-    const auto held = Owned<RecentCall>::share(call);  // the row may be given another one meanwhile
     const uint32_t asked = generation();
     auto text = describe(call);
     keep(text->length() != 0 ? text.get() : ""_ns, key, asked);

@@ -30,7 +30,6 @@ objc::Owned<NSString> textOf(RecentCall call) {
         RowTexts *const texts = RowTexts::shared();
         return texts ? texts->textOf(call, from80) : objc::Owned<NSString>();
     }
-    const auto held = objc::Owned<RecentCall>::share(call);  // the row may be given another one
     // A contact's only number needs no line.
     return objc::Owned<NSString>::share(
         contactHasMoreThanOneNumber(call) ? numberWithArea(call.number(from80)) : nullptr);
@@ -121,7 +120,8 @@ void layOutCell(PHRecentsCell cell) {
         objc::silently([&] { addButtonMenu(cell); });  // the line needs no menu
     }
     const objc::AutoreleasePool pool;
-    const RecentCall call(cell.call());
+    // The row may be given another call while the companion is asked.
+    const auto call = objc::Owned<RecentCall>::share(RecentCall(cell.call()));
     const auto text = textOf(call);
     if (LayoutPass::isOvertaken(cell)) {
         return;

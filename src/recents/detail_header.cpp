@@ -1,8 +1,11 @@
 // The header of a call's details.
 #include "recents/detail_header.hpp"
 
+#include <optional>
+
 #include "companion/companion.hpp"
 #include "objc/silently.hpp"
+#include "platform/LayoutPass.hpp"
 #include "platform/PerView.hpp"
 #include "platform/format.hpp"
 #include "recents/HeaderViews.hpp"
@@ -62,11 +65,28 @@ void moveTo(UIView view, CGRect frame, CGFloat y) {
     view.setFrame(frame);
 }
 
-/// What is known of the number into the header's views and below them.
-void fill(ABContactHeaderView header, const HeaderViews &views, const KnownNumber &known,
-          bool from80) {
-    const auto tagline = taglineToRepeat(header.taglineLabel(), from80);
+/// What a header shows of the lookup context's number.
+struct Content {
+    KnownNumber known;
+    OfferedActions offered;
+};
+
+/// Empty without a number.
+std::optional<Content> ask() {
+    auto number = phonePureNumber();
+    if (number->length() == 0) {
+        return {};
+    }
+    KnownNumber known = lookUp(std::move(number));
     const OfferedActions offered = offeredActions(known.number, known.identity);
+    return Content{std::move(known), offered};
+}
+
+/// The content into the header's views and below them.
+void fill(ABContactHeaderView header, const HeaderViews &views, const Content &content,
+          bool from80) {
+    const auto &[known, offered] = content;
+    const auto tagline = taglineToRepeat(header.taglineLabel(), from80);
     const HeaderPlaces places = place(Header{
         .from80 = from80,
         .screenWidth = UIScreen::mainScreen().bounds().size.width,
@@ -133,9 +153,7 @@ class TheirParts {
 
 void showInfo(ABContactHeaderView header) {
     const bool from80 = ios::isFrom(8.0);
-    auto number = phonePureNumber();
-    const bool hasNumber = number->length() != 0;
-    const KnownNumber known = hasNumber ? lookUp(std::move(number)) : KnownNumber();
+    const auto content = ask();
     header.taglineLabel().setHidden(true);
     const UILabel name = header.nameLabel();
     moveTo(name, name.frame(), 53);
@@ -143,8 +161,8 @@ void showInfo(ABContactHeaderView header) {
     if (!views) {
         views = HeaderViews::create(header, from80);
     }
-    if (hasNumber) {
-        fill(header, views, known, from80);
+    if (content) {
+        fill(header, views, *content, from80);
     }
 }
 
@@ -201,7 +219,7 @@ void layOutHeader(ABContactHeaderView header, bool isOutermostPass) {
 
 void addNumberInfo(ABContactHeaderView header, ABContact /*contact*/) {
     const TheirParts theirs(header);
-    if (objc::silently([&] { showInfo(header); })) {
+    if (objc::silently([&] { LayoutPass::untilCurrent(header, [&] { showInfo(header); }); })) {
         theirs.rememberOurs();
         return;
     }
