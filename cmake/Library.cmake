@@ -9,6 +9,7 @@ set(ZQDIAL_VERSION_DATE 2026-11-23)
 # classes with them too.
 set(ZQDIAL_BRIDGE_SOURCES
     objc/class_builder.cpp
+    objc/owned.cpp
     platform/Foundation.cpp
     platform/format.cpp)
 set(ZQDIAL_ADDON_SOURCES

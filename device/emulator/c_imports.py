@@ -30,6 +30,12 @@ def compare_memory(runtime: Runtime, left: int, right: int, size: int) -> int:
     return (a > b) - (a < b)
 
 
+def find_byte(runtime: Runtime, source: int, byte: int, size: int) -> int:
+    """Returns the address of the first such byte, 0 without one."""
+    found = runtime.machine.read(source, size).find(byte & 0xFF)
+    return source + found if found >= 0 else 0
+
+
 def print_text(runtime: Runtime, to: int, size: int, text: str) -> int:
     """Prints one number by the conversions that the library uses: %d, %zu, %.1f and kin."""
     kind = {"d": "i", "u": "L", "f": "d"}[text[-1]]
@@ -57,10 +63,12 @@ FUNCTIONS: dict[str, tuple[str, Callable[..., Any]]] = {
     "_memset": ("ppiL", fill_memory),
     "_bzero": ("vpL", lambda runtime, to, size: fill_memory(runtime, to, 0, size)),
     "_memcmp": ("ippL", compare_memory),
+    "_memchr": ("ppiL", find_byte),
     "_strlen": ("Lp", lambda runtime, text: len(runtime.machine.string(text))),
     "_strcmp": ("i**", lambda runtime, left, right: (left > right) - (left < right)),
     "_snprintf": ("ipL*", print_text),
     "__Znam": ("pL", lambda runtime, size: runtime.machine.allocate(size, b"\xa5" * size)),
+    "__Znwm": ("pL", lambda runtime, size: runtime.machine.allocate(size, b"\xa5" * size)),
     "__ZdaPv": ("vp", lambda runtime, address: None),
     "_nearbyint": ("dd", lambda runtime, value: float(round(value))),
     "___udivdi3": ("QQQ", lambda runtime, value, divisor: value // divisor),

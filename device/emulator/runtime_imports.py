@@ -89,7 +89,9 @@ FUNCTIONS: dict[str, tuple[str, Callable[..., Any]]] = {
     "_class_getInstanceSize": ("L#", instance_size),
     "_class_getInstanceVariable": ("p#*", instance_variable),
     "_ivar_getOffset": ("lp", lambda runtime, ivar: runtime.machine.number(ivar, 4)),
-    "_class_respondsToSelector": ("c#:", lambda runtime, c, selector: c.find(selector) is not None),
+    # No method is shown, so no encoding of one is compared.
+    "_class_getInstanceMethod": ("p#:", lambda runtime, objc_class, selector: 0),
+    "_method_getTypeEncoding": ("*p", lambda runtime, method: None),
     "_class_getMethodImplementation": ("p#:", implementation),
     "_objc_allocateClassPair": (
         "##*L",

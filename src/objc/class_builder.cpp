@@ -66,10 +66,14 @@ void ClassDefinition::addClassMethod(SEL selector, IMP implementation, const cha
 }
 
 void ClassDefinition::addSetter(const char *name, IMP implementation, const char *encoding) {
-    constexpr auto kLowerCaseBit = 0x20U;
-    char setter[64];
-    std::snprintf(setter, sizeof setter, "set%c%s:", static_cast<int>(*name & ~kLowerCaseBit),
-                  name + 1);
+    constexpr int kLowerCaseBit = 0x20;
+    char setter[64] = "set";
+    char *end = setter + 3;
+    *end++ = static_cast<char>(*name & ~kLowerCaseBit);
+    while (*++name && end < setter + sizeof setter - 2) {
+        *end++ = *name;
+    }
+    *end = ':';
     addMethod(sel_registerName(setter), implementation, encoding);
 }
 

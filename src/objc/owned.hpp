@@ -12,6 +12,11 @@
 
 namespace objc {
 
+// Not inline: they stand at hundreds of places. Nil is fine.
+void retain(id object);
+void release(id object) noexcept;
+void autorelease(id object);
+
 /// What can be owned: a handle, or a pointer to an object of a class of ours. Asked where an
 /// Owned<T> ends, so that T may still be incomplete where only its name is used.
 template <class T>
@@ -27,7 +32,7 @@ class Owned {
 
     /// Adds a reference of its own to an object that somebody else owns.
     static Owned share(T object) {
-        send<id()>(Wire<T>::to(object), "retain"_sel);
+        retain(Wire<T>::to(object));
         return Owned(object);
     }
 
@@ -40,7 +45,7 @@ class Owned {
     }
     ~Owned() {
         static_assert(Ownable<T>, "only handles and objects of our own classes can be owned");
-        objc::send<void()>(Wire<T>::to(object_), "release"_sel);
+        release(Wire<T>::to(object_));
     }
 
     T get() const { return object_; }
@@ -72,7 +77,7 @@ class Owned {
     /// Gives the object to the innermost pool, as a method does with a result it does not keep.
     T autorelease() {
         const T object = leak();
-        send<id()>(Wire<T>::to(object), "autorelease"_sel);
+        objc::autorelease(Wire<T>::to(object));
         return object;
     }
 

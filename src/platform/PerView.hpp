@@ -1,6 +1,7 @@
 // What is remembered of views that have no room for it.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <utility>
@@ -42,12 +43,8 @@ class PerView {
     };
 
     Entry *entryOf(id view) {
-        for (Entry &entry : entries_) {
-            if (entry.view == view && view) {
-                return &entry;
-            }
-        }
-        return nullptr;
+        const auto found = std::ranges::find(entries_, view, &Entry::view);
+        return view && found != entries_.end() ? &*found : nullptr;
     }
 
     std::array<Entry, capacity> entries_{};

@@ -75,11 +75,12 @@ void emptyLabel(UILabel label, UIView line, RecentCall call) {
 }
 
 void refillLabel(UILabel label, UIView line, RecentCall call) {
-    const Replaced *const replaced = replacedTexts().find(line);
-    if (replaced && replaced->call == call.get() && label.text().length() == 0) {
-        label.setText(replaced->text);
+    if (const Replaced *const replaced = replacedTexts().find(line)) {
+        if (replaced->call == call.get() && label.text().length() == 0) {
+            label.setText(replaced->text);
+        }
+        replacedTexts().forget(line);
     }
-    replacedTexts().forget(line);
 }
 
 /// The row's line, added where it is missing; nil where the content view does not keep it.

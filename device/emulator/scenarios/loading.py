@@ -10,7 +10,7 @@ from emulator.scenarios.scenario import Load, Scenario, expect, started, texts
 from emulator.world import PHONE, World
 
 QUESTIONS = ["objc_getClass", "+[NSBundle mainBundle]", "-[NSBundle bundleIdentifier]"]
-READING = ["-[NSString lowercaseString]", "-[NSString UTF8String]"]
+READING = ["-[NSString lowercaseString]", "-[NSString UTF8String]", "-[NSString length]"]
 OTHERS = ("com.apple.mobilesafari", PHONE + ".extra", PHONE[:-1], "", None)
 SYSTEMS = ((6.1, False), (7.0, True), (7.0, False), (7.1, True), (7.1, False), (8.0, False))
 PREFERENCES = "+[ZQPreference InitializePreferences]"
