@@ -3,7 +3,7 @@
 .PHONY: help demo test build bench asan tsan clang format lint contract device device-test
 
 # The slices of the library that "make device" builds, and the host that its web search asks; empty:
-# as in src/recents/actions.cpp.
+# as in src/recents/Actions.cpp.
 SLICES = armv7 arm64
 SEARCH_HOST =
 

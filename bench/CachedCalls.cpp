@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/format.hpp"
+#include "platform/Format.hpp"
 
 namespace bench {
 namespace {

@@ -4,14 +4,14 @@
 #include <array>
 #include <cmath>
 
-#include "hook/installation.hpp"
-#include "objc/replacement.hpp"
+#include "hook/Installation.hpp"
+#include "objc/Replacement.hpp"
 #include "phone/Parts.hpp"
 #include "phone/recents/PHRecentCall.hpp"
 #include "phone/recents/PHRecentsCell.hpp"
 #include "platform/Substrate.hpp"
+#include "recents/Replacements.hpp"
 #include "recents/RowTexts.hpp"
-#include "recents/replacements.hpp"
 #include "support/StubCompanion.hpp"
 #include "uikit/Device.hpp"
 #include "uikit/Foundation.hpp"

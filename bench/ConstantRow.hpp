@@ -2,7 +2,7 @@
 // timed is the add-on and not the world around it.
 #pragma once
 
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "platform/PhoneApp.hpp"
 
 namespace bench {

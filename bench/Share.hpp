@@ -6,7 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 
 namespace bench {
 

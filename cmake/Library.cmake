@@ -8,48 +8,48 @@ set(ZQDIAL_VERSION_DATE 2026-11-23)
 # Paths below src/. The bridge and the platform's texts stand apart, since the simulator defines its
 # classes with them too.
 set(ZQDIAL_BRIDGE_SOURCES
-    objc/class_builder.cpp
-    objc/owned.cpp
+    objc/ClassBuilder.cpp
+    objc/Owned.cpp
     platform/Foundation.cpp
-    platform/format.cpp)
+    platform/Format.cpp)
 set(ZQDIAL_ADDON_SOURCES
+    companion/CloudAnswer.cpp
     companion/ZQDialCloudQueryService.cpp
-    companion/cloud_answer.cpp
+    dialer/Description.cpp
+    dialer/Hint.cpp
     dialer/HintRow.cpp
+    dialer/OlderHint.cpp
+    dialer/Replacements.cpp
     dialer/ZQDialNumberInputUIHook.cpp
-    dialer/description.cpp
-    dialer/hint.cpp
-    dialer/older_hint.cpp
-    dialer/replacements.cpp
+    hook/Installation.cpp
     hook/ZQDialMain.cpp
-    hook/installation.cpp
+    incall/AddedViews.cpp
     incall/CallSlots.cpp
+    incall/ContactRegion.cpp
+    incall/Description.cpp
+    incall/LcdField.cpp
+    incall/LcdView.cpp
+    incall/Pictures.cpp
+    incall/Replacements.cpp
     incall/ZQDialWaitUIHook.cpp
-    incall/added_views.cpp
-    incall/contact_region.cpp
-    incall/description.cpp
-    incall/lcd_field.cpp
-    incall/lcd_view.cpp
-    incall/pictures.cpp
-    incall/replacements.cpp
     platform/TextWidths.cpp
+    recents/Actions.cpp
+    recents/AddressBook.cpp
+    recents/Cell.cpp
+    recents/DetailHeader.cpp
     recents/GroupButton.cpp
     recents/HeaderViews.cpp
+    recents/HistoryDescription.cpp
+    recents/Lookup.cpp
+    recents/LookupContext.cpp
     recents/RecentCall.cpp
+    recents/Replacements.cpp
     recents/RowTexts.cpp
+    recents/SwipeMenu.cpp
     recents/ZQSystemCallHistoryClassHelper.cpp
-    recents/ZQSystemCallHistoryViewHook.cpp
-    recents/actions.cpp
-    recents/address_book.cpp
-    recents/cell.cpp
-    recents/detail_header.cpp
-    recents/history_description.cpp
-    recents/lookup.cpp
-    recents/lookup_context.cpp
-    recents/replacements.cpp
-    recents/swipe_menu.cpp)
+    recents/ZQSystemCallHistoryViewHook.cpp)
 
-set(ZQDIAL_SEARCH_HOST "" CACHE STRING "Host of the web search; empty: as in recents/actions.cpp")
+set(ZQDIAL_SEARCH_HOST "" CACHE STRING "Host of the web search; empty: as in recents/Actions.cpp")
 if(ZQDIAL_SEARCH_HOST AND NOT ZQDIAL_SEARCH_HOST MATCHES "^[A-Za-z0-9.:-]+$")
     message(FATAL_ERROR "ZQDIAL_SEARCH_HOST is '${ZQDIAL_SEARCH_HOST}': give a host name, with a "
         "port if need be, such as 'search.example:8080'")

@@ -1,7 +1,7 @@
 // The address book's C interface over messages.
 #include "addressbook/AddressBook.hpp"
 
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-#include "objc/runtime.hpp"
+#include "objc/Runtime.hpp"
 
 extern "C" {
 /// A person's phone numbers: a multi-value of texts.

@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "addressbook/AddressBook.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace addressbook {
 namespace {

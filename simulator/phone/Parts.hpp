@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "platform/UIKit.hpp"
 #include "uikit/SimLabel.hpp"
 

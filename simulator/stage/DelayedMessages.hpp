@@ -8,7 +8,7 @@
 #include <optional>
 
 #include "companion/SimulatedTime.hpp"
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 
 namespace stage {

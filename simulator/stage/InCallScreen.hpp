@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "stage/PhoneWindow.hpp"
 #include "stage/Screen.hpp"
 

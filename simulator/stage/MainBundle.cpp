@@ -1,7 +1,7 @@
 // An executable on this host has no bundle around it, so the answer is put in its place.
 #include "stage/MainBundle.hpp"
 
-#include "objc/replacement.hpp"
+#include "objc/Replacement.hpp"
 #include "platform/Foundation.hpp"
 #include "substrate/RuntimeMethods.hpp"
 

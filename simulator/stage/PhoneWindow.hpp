@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "phone/frame/PhoneTabBar.hpp"
 #include "platform/Foundation.hpp"
 #include "uikit/SimWindow.hpp"

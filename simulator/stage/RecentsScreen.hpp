@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "companion/world/Records.hpp"
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "stage/PhoneWindow.hpp"
 #include "stage/Screen.hpp"
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "companion/world/Records.hpp"
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "stage/Model.hpp"
 #include "stage/PhoneWindow.hpp"
 #include "stage/Screen.hpp"

@@ -3,7 +3,7 @@
 
 #include <fstream>
 
-#include "objc/wire.hpp"
+#include "objc/Wire.hpp"
 #include "stage/Errors.hpp"
 #include "uikit/Foundation.hpp"
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "companion/SimulatedTime.hpp"
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 #include "stage/DelayedMessages.hpp"
 

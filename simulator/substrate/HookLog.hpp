@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "objc/runtime.hpp"
+#include "objc/Runtime.hpp"
 
 namespace substrate {
 

@@ -5,7 +5,7 @@
 
 #include <dlfcn.h>
 
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 #include "substrate/Filter.hpp"
 #include "substrate/HookLog.hpp"

@@ -1,7 +1,7 @@
 // The hooking framework's one function that the add-on links.
 #pragma once
 
-#include "objc/runtime.hpp"
+#include "objc/Runtime.hpp"
 
 /// Makes `replacement` the implementation of the instance method `selector` of `cls` (class
 /// methods: pass the class's class) and writes the one in place before to `*saved`, which may be

@@ -1,7 +1,7 @@
 // What the hooking framework asks of GCC's runtime beyond the bridge's own list.
 #pragma once
 
-#include "objc/runtime.hpp"
+#include "objc/Runtime.hpp"
 
 extern "C" {
 Method *class_copyMethodList(Class cls, unsigned int *count);

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "objc/instance.hpp"
+#include "objc/Instance.hpp"
 #include "platform/Foundation.hpp"
 
 namespace sim {

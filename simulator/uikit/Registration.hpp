@@ -1,7 +1,7 @@
 // Making a class known to the runtime, loudly: a simulator without one of its classes is no use.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace sim {
 

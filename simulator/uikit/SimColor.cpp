@@ -6,7 +6,7 @@
 #include <cmath>
 #include <functional>
 
-#include "platform/format.hpp"
+#include "platform/Format.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/GraphicsContext.hpp"
 #include "uikit/Registration.hpp"

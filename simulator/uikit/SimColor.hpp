@@ -1,7 +1,7 @@
 // UIColor: four sRGB components, never changed once made.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
 #include "uikit/drawing/Color.hpp"
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
 
 class SimDevice : public objc::Instance {

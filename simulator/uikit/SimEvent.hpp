@@ -1,7 +1,7 @@
 // UIEvent: what carries a touch to its view.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
 
 class SimTouch;

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string_view>
 
-#include "platform/format.hpp"
+#include "platform/Format.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 

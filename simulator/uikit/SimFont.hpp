@@ -1,7 +1,7 @@
 // UIFont: a font by its name on the device and its size, drawn with the font that stands in for it.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
 #include "uikit/drawing/Font.hpp"
 

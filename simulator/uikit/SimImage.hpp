@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
 #include "uikit/drawing/Picture.hpp"
 

@@ -1,7 +1,7 @@
 // CALayer, as far as views are styled through it.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
 
 class SimLayer : public objc::Instance {

@@ -1,7 +1,7 @@
 // UIResponder: an object that events pass through, from the innermost one outwards.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
 #include "uikit/SimEvent.hpp"
 

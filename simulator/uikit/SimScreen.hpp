@@ -1,7 +1,7 @@
 // UIScreen: the one screen, upright.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
 
 class SimScreen : public objc::Instance {

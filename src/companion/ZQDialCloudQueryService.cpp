@@ -1,9 +1,9 @@
 // The in-call screen's cache of identities and driver of cloud queries.
 #include "companion/ZQDialCloudQueryService.hpp"
 
-#include "companion/cloud_answer.hpp"
-#include "companion/only_entry.hpp"
-#include "objc/silently.hpp"
+#include "companion/CloudAnswer.hpp"
+#include "companion/OnlyEntry.hpp"
+#include "objc/Silently.hpp"
 
 using companion::keepOnly;
 

@@ -3,8 +3,8 @@
 // arrives on the main thread.
 #pragma once
 
-#include "companion/companion.hpp"
-#include "objc/class_builder.hpp"
+#include "companion/Interface.hpp"
+#include "objc/ClassBuilder.hpp"
 
 class ZQDialCloudQueryService : public objc::Instance {
   public:

@@ -1,8 +1,8 @@
 // The views of the dialer's row.
 #include "dialer/HintRow.hpp"
 
-#include "companion/companion.hpp"
-#include "dialer/geometry.hpp"
+#include "companion/Interface.hpp"
+#include "dialer/Geometry.hpp"
 
 namespace dialer {
 namespace {

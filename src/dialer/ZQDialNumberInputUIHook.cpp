@@ -1,9 +1,9 @@
 // The dialer screen's hook object.
 #include "dialer/ZQDialNumberInputUIHook.hpp"
 
-#include "dialer/description.hpp"
-#include "dialer/hint.hpp"
-#include "dialer/older_hint.hpp"
+#include "dialer/Description.hpp"
+#include "dialer/Hint.hpp"
+#include "dialer/OlderHint.hpp"
 
 namespace {
 

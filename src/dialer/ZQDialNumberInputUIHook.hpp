@@ -3,7 +3,7 @@
 // hint and HintRow.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/PhoneApp.hpp"
 
 class ZQDialNumberInputUIHook : public objc::Instance {

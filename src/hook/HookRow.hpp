@@ -4,9 +4,9 @@
 #include <array>
 #include <string_view>
 
-#include "objc/encoding.hpp"
-#include "objc/replacement.hpp"
-#include "objc/selector.hpp"
+#include "objc/Encoding.hpp"
+#include "objc/Replacement.hpp"
+#include "objc/Selector.hpp"
 
 namespace hook {
 

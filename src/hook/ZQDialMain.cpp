@@ -2,9 +2,9 @@
 // the hooking framework reaches. Nothing happens outside the Phone application.
 #include <string_view>
 
-#include "companion/companion.hpp"
-#include "hook/installation.hpp"
-#include "objc/silently.hpp"
+#include "companion/Interface.hpp"
+#include "hook/Installation.hpp"
+#include "objc/Silently.hpp"
 #include "platform/Substrate.hpp"
 
 ZQ_EXPORT void ZQDialMain();

@@ -1,13 +1,13 @@
 // The in-call screen's hook object: calls, and what is known of the caller.
 #include "incall/ZQDialWaitUIHook.hpp"
 
-#include "incall/contact_region.hpp"
-#include "incall/lcd_field.hpp"
-#include "incall/lcd_view.hpp"
-#include "incall/pictures.hpp"
-#include "objc/silently.hpp"
-#include "platform/format.hpp"
-#include "platform/log.hpp"
+#include "incall/ContactRegion.hpp"
+#include "incall/LcdField.hpp"
+#include "incall/LcdView.hpp"
+#include "incall/Pictures.hpp"
+#include "objc/Silently.hpp"
+#include "platform/Format.hpp"
+#include "platform/Log.hpp"
 
 using objc::Owned;
 

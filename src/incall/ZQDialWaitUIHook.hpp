@@ -7,8 +7,8 @@
 
 #include "incall/CallSlots.hpp"
 #include "incall/Caller.hpp"
-#include "incall/description.hpp"
-#include "objc/class_builder.hpp"
+#include "incall/Description.hpp"
+#include "objc/ClassBuilder.hpp"
 
 class ZQDialWaitUIHook : public objc::Instance {
   public:

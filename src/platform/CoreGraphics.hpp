@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-#include "objc/encoding.hpp"
+#include "objc/Encoding.hpp"
 
 // Pointer-wide on every architecture, spelt as the encodings of both platforms have it.
 using NSInteger = std::conditional_t<sizeof(void *) == 8, long, int>;

@@ -5,9 +5,9 @@
 #include <atomic>
 #include <cstdint>
 
-#include "objc/encoding.hpp"
-#include "objc/handle.hpp"
-#include "objc/owned.hpp"
+#include "objc/Encoding.hpp"
+#include "objc/Handle.hpp"
+#include "objc/Owned.hpp"
 #include "platform/CoreGraphics.hpp"
 
 struct NSRange {

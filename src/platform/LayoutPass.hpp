@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "objc/runtime.hpp"
+#include "objc/Runtime.hpp"
 
 /// One run of a replaced layoutSubviews over one view, for as long as it lives. Main thread only.
 class LayoutPass {

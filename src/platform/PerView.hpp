@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "objc/runtime.hpp"
+#include "objc/Runtime.hpp"
 
 /// Something about each of the last few views. Nobody says when a view goes and another one may get
 /// its address: whoever adds a view remembers anew what belongs to it. Main thread only.

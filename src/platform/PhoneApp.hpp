@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "objc/ivar.hpp"
+#include "objc/Ivar.hpp"
 #include "platform/UIKit.hpp"
 
 class DialerController : public NSObject {

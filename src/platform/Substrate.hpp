@@ -1,7 +1,7 @@
 // The hooking framework's one function.
 #pragma once
 
-#include "objc/runtime.hpp"
+#include "objc/Runtime.hpp"
 
 extern "C" {
 /// Makes `replacement` the implementation of an instance method of `cls` and stores in `*saved` the

@@ -1,8 +1,8 @@
 // The buttons of the detail header.
 #include "recents/GroupButton.hpp"
 
-#include "companion/utilities.hpp"
-#include "platform/format.hpp"
+#include "companion/Utilities.hpp"
+#include "platform/Format.hpp"
 
 using recents::RowPart;
 

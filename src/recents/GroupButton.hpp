@@ -1,9 +1,9 @@
 // ZQGroupButton: one button of a row whose outer corners are rounded as a whole.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
-#include "recents/geometry.hpp"
+#include "recents/Geometry.hpp"
 
 class GroupButton : public objc::Instance {
   public:

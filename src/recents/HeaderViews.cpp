@@ -1,7 +1,7 @@
 // The views of the detail header.
 #include "recents/HeaderViews.hpp"
 
-#include "companion/companion.hpp"
+#include "companion/Interface.hpp"
 
 namespace recents {
 namespace {

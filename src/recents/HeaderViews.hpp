@@ -3,9 +3,9 @@
 // what they were given then.
 #pragma once
 
+#include "recents/Actions.hpp"
+#include "recents/Geometry.hpp"
 #include "recents/GroupButton.hpp"
-#include "recents/actions.hpp"
-#include "recents/geometry.hpp"
 
 namespace recents {
 

@@ -1,7 +1,7 @@
 // Reading the Phone application's recent calls on every system.
 #include "recents/RecentCall.hpp"
 
-#include "platform/format.hpp"
+#include "platform/Format.hpp"
 
 namespace recents {
 

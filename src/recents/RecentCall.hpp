@@ -2,7 +2,7 @@
 // that differ between systems. An accessor that the object lacks reads as nothing, and so does nil.
 #pragma once
 
-#include "companion/ios_version.hpp"
+#include "companion/IosVersion.hpp"
 
 namespace recents {
 

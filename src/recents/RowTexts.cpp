@@ -5,9 +5,9 @@
 #include <cmath>
 #include <utility>
 
-#include "objc/silently.hpp"
-#include "platform/format.hpp"
-#include "recents/lookup.hpp"
+#include "objc/Silently.hpp"
+#include "platform/Format.hpp"
+#include "recents/Lookup.hpp"
 
 using objc::Owned;
 

@@ -3,7 +3,7 @@
 // operation is safe by itself, and no caller has to hold a lock.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "recents/RecentCall.hpp"
 
 class ZQSystemCallHistoryViewHook;

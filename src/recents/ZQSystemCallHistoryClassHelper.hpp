@@ -1,7 +1,7 @@
 // What other code in the process may ask of a recent call, whatever the system.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 class ZQSystemCallHistoryClassHelper : public objc::Instance {
   public:

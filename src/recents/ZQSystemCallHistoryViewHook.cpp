@@ -1,15 +1,15 @@
 // The recents screen's hook class.
 #include "recents/ZQSystemCallHistoryViewHook.hpp"
 
+#include "recents/Actions.hpp"
+#include "recents/AddressBook.hpp"
+#include "recents/Cell.hpp"
+#include "recents/DetailHeader.hpp"
 #include "recents/HeaderViews.hpp"
-#include "recents/actions.hpp"
-#include "recents/address_book.hpp"
-#include "recents/cell.hpp"
-#include "recents/detail_header.hpp"
-#include "recents/history_description.hpp"
-#include "recents/lookup.hpp"
-#include "recents/lookup_context.hpp"
-#include "recents/swipe_menu.hpp"
+#include "recents/HistoryDescription.hpp"
+#include "recents/Lookup.hpp"
+#include "recents/LookupContext.hpp"
+#include "recents/SwipeMenu.hpp"
 
 namespace {
 

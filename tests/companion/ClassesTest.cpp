@@ -6,7 +6,7 @@
 #include "companion/Companion.hpp"
 #include "companion/TemporaryFolder.hpp"
 #include "companion/classes/Conversions.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace companion {
 namespace {

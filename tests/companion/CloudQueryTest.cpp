@@ -3,10 +3,10 @@
 
 #include <gmock/gmock.h>
 
+#include "companion/CloudAnswer.hpp"
 #include "companion/ZQDialCloudQueryService.hpp"
-#include "companion/cloud_answer.hpp"
-#include "hook/installation.hpp"
-#include "objc/ivar.hpp"
+#include "hook/Installation.hpp"
+#include "objc/Ivar.hpp"
 #include "support/StubCompanion.hpp"
 
 namespace {

@@ -9,7 +9,7 @@ TOOLS = ROOT / "device/tools"
 
 
 class BuildFaults(Scratch):
-    SOURCE = "src/dialer/description.cpp"
+    SOURCE = "src/dialer/Description.cpp"
 
     def configured(self, *options: str) -> list[str | Path]:
         return ["cmake", "-S", self.folder / "device", "-B", self.build(), "-G", "Ninja", *options]

@@ -1,8 +1,8 @@
 // What the dialer says of a typed number, and what it asks the companion for it.
 #include <gtest/gtest.h>
 
-#include "dialer/description.hpp"
-#include "dialer/older_hint.hpp"
+#include "dialer/Description.hpp"
+#include "dialer/OlderHint.hpp"
 #include "support/StubCompanion.hpp"
 
 namespace {

@@ -1,9 +1,9 @@
 // The dialer's row when something is missing: the Phone application's own line is what stays.
 #include <gtest/gtest.h>
 
-#include "dialer/hint.hpp"
-#include "dialer/replacements.hpp"
-#include "hook/installation.hpp"
+#include "dialer/Hint.hpp"
+#include "dialer/Replacements.hpp"
+#include "hook/Installation.hpp"
 #include "phone/Parts.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
 #include "support/StubCompanion.hpp"

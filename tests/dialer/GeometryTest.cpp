@@ -1,7 +1,7 @@
 // Where the dialer's row stands: tables of numbers.
 #include <gtest/gtest.h>
 
-#include "dialer/geometry.hpp"
+#include "dialer/Geometry.hpp"
 
 namespace {
 

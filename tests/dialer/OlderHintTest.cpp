@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "dialer/ZQDialNumberInputUIHook.hpp"
-#include "hook/installation.hpp"
-#include "objc/ivar.hpp"
+#include "hook/Installation.hpp"
+#include "objc/Ivar.hpp"
 #include "support/StubCompanion.hpp"
 #include "uikit/SimViewController.hpp"
 

@@ -1,9 +1,9 @@
 // The entry routine against a companion and a Phone application whose every answer a test sets.
 #include <gtest/gtest.h>
 
+#include "dialer/Replacements.hpp"
 #include "dialer/ZQDialNumberInputUIHook.hpp"
-#include "dialer/replacements.hpp"
-#include "hook/installation.hpp"
+#include "hook/Installation.hpp"
 #include "stage/MainBundle.hpp"
 #include "substrate/HookLog.hpp"
 #include "support/StubCompanion.hpp"

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "companion/ZQDialCloudQueryService.hpp"
-#include "incall/replacements.hpp"
+#include "incall/Replacements.hpp"
 #include "substrate/RuntimeMethods.hpp"
 #include "support/InCall.hpp"
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "companion/ZQDialCloudQueryService.hpp"
-#include "incall/description.hpp"
+#include "incall/Description.hpp"
 #include "support/InCall.hpp"
 
 namespace {

@@ -2,8 +2,8 @@
 // of the caller. Texts are measured by rule: 14 points a Chinese unit, 7 any other.
 #include <gtest/gtest.h>
 
-#include "incall/added_views.hpp"
-#include "incall/replacements.hpp"
+#include "incall/AddedViews.hpp"
+#include "incall/Replacements.hpp"
 #include "support/InCall.hpp"
 
 namespace {

@@ -1,7 +1,7 @@
 // The in-call screen when something is missing or fails: the Phone application's own screen stands.
 #include <gtest/gtest.h>
 
-#include "incall/added_views.hpp"
+#include "incall/AddedViews.hpp"
 #include "support/InCall.hpp"
 
 namespace {

@@ -1,7 +1,7 @@
 // Where the caller's information stands on the in-call screen: tables of numbers.
 #include <gtest/gtest.h>
 
-#include "incall/geometry.hpp"
+#include "incall/Geometry.hpp"
 
 namespace {
 

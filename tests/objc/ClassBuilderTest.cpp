@@ -1,8 +1,8 @@
 // Classes defined in C++ as the runtime and Foundation see them.
 #include <gtest/gtest.h>
 
-#include "objc/class_builder.hpp"
-#include "objc/ivar.hpp"
+#include "objc/ClassBuilder.hpp"
+#include "objc/Ivar.hpp"
 #include "platform/Foundation.hpp"
 #include "support/Probe.hpp"
 

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/format.hpp"
+#include "platform/Format.hpp"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // failure here means that the platform changed, not that the product broke.
 #include <gtest/gtest.h>
 
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 #include "support/Probe.hpp"
 

@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include "objc/ivar.hpp"
-#include "objc/owned.hpp"
-#include "objc/replacement.hpp"
-#include "objc/silently.hpp"
+#include "objc/Ivar.hpp"
+#include "objc/Owned.hpp"
+#include "objc/Replacement.hpp"
+#include "objc/Silently.hpp"
 #include "platform/Foundation.hpp"
 #include "support/Probe.hpp"
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "addressbook/AddressBook.hpp"
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 
 namespace {

@@ -1,7 +1,7 @@
 // The in-call screen driven by calls, without any add-on.
 #include "PhoneRun.hpp"
 #include "companion/SimulatedTime.hpp"
-#include "objc/ivar.hpp"
+#include "objc/Ivar.hpp"
 #include "phone/Resources.hpp"
 #include "phone/incall/InCallController.hpp"
 #include "substrate/MSHookMessageEx.hpp"

@@ -2,7 +2,7 @@
 #include <set>
 
 #include "PhoneRun.hpp"
-#include "objc/ivar.hpp"
+#include "objc/Ivar.hpp"
 #include "phone/contact/ABContactViewController.hpp"
 #include "phone/recents/PHRecentCall.hpp"
 #include "phone/recents/PHRecentsCell.hpp"

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "companion/TemporaryFolder.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/Foundation.hpp"
 #include "substrate/Filter.hpp"
 #include "substrate/HookLog.hpp"

@@ -1,7 +1,7 @@
 // Where the recents' parts have their place, in numbers.
 #include <gtest/gtest.h>
 
-#include "recents/geometry.hpp"
+#include "recents/Geometry.hpp"
 
 namespace {
 

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "recents/actions.hpp"
-#include "recents/history_description.hpp"
+#include "recents/Actions.hpp"
+#include "recents/HistoryDescription.hpp"
 #include "support/Recents.hpp"
 
 namespace {

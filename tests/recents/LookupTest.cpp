@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "objc/ivar.hpp"
+#include "objc/Ivar.hpp"
 #include "support/RecentCalls.hpp"
 #include "support/Recents.hpp"
 

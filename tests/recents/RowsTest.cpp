@@ -1,7 +1,7 @@
 // The rows of the recents list as a person sees them.
 #include <ostream>
 
-#include "objc/ivar.hpp"
+#include "objc/Ivar.hpp"
 #include "support/RecentsScreen.hpp"
 
 namespace {

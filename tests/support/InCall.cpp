@@ -1,7 +1,7 @@
 // The in-call hooks around calls and displays that a test makes itself.
 #include "support/InCall.hpp"
 
-#include "hook/installation.hpp"
+#include "hook/Installation.hpp"
 #include "uikit/drawing/FixedAdvanceMeasurer.hpp"
 
 namespace test {

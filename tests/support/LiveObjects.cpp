@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "objc/selector.hpp"
+#include "objc/Selector.hpp"
 
 extern "C" {
 BOOL GSDebugAllocationActive(BOOL active);

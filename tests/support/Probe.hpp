@@ -4,8 +4,8 @@
 
 #include <functional>
 
-#include "objc/class_builder.hpp"
-#include "objc/owned.hpp"
+#include "objc/ClassBuilder.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 
 namespace test {

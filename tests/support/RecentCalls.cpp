@@ -1,7 +1,7 @@
 // Recent calls as the Phone application hands them around.
 #include "support/RecentCalls.hpp"
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace test {
 namespace {

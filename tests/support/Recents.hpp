@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "hook/installation.hpp"
+#include "hook/Installation.hpp"
+#include "recents/Lookup.hpp"
+#include "recents/LookupContext.hpp"
 #include "recents/RowTexts.hpp"
-#include "recents/lookup.hpp"
-#include "recents/lookup_context.hpp"
 #include "support/StubCompanion.hpp"
 
 namespace test {

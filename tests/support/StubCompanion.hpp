@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "companion/numbers.hpp"
+#include "companion/Numbers.hpp"
 #include "platform/UIKit.hpp"
 
 namespace test {

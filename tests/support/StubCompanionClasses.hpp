@@ -2,7 +2,7 @@
 // interface is over the add-on's headers.
 #pragma once
 
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "support/StubCompanion.hpp"
 
 namespace test {

@@ -1,7 +1,7 @@
 // Texts: lines, labels and the strings' own measuring. In fixed advances a unit is half as wide as
 // its font is high, Chinese as wide as high.
 #include "UIKitTestCase.hpp"
-#include "platform/format.hpp"
+#include "platform/Format.hpp"
 #include "uikit/AttributedText.hpp"
 #include "uikit/Renderer.hpp"
 #include "uikit/SimColor.hpp"

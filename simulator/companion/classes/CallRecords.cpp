@@ -2,7 +2,7 @@
 #include "companion/classes/CallRecords.hpp"
 
 #include "companion/classes/Conversions.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace companion {
 

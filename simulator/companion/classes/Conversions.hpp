@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "objc/instance.hpp"
+#include "objc/Instance.hpp"
 #include "platform/Foundation.hpp"
 
 namespace companion {

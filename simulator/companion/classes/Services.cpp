@@ -7,7 +7,7 @@
 #include "companion/classes/CallRecords.hpp"
 #include "companion/classes/Conversions.hpp"
 #include "companion/classes/ZQNumberIdentity.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace companion {
 

@@ -2,7 +2,7 @@
 // own; those with a shared object make it on first use and keep it for the life of the process.
 #pragma once
 
-#include "objc/instance.hpp"
+#include "objc/Instance.hpp"
 
 namespace companion {
 

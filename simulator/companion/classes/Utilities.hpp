@@ -2,7 +2,7 @@
 // files (ZQPhoneUtil), numbers (ZQMathUtil), strings (ZQStringHelper).
 #pragma once
 
-#include "objc/instance.hpp"
+#include "objc/Instance.hpp"
 
 namespace companion {
 

@@ -2,7 +2,7 @@
 // of them live in one process.
 #pragma once
 
-#include "objc/instance.hpp"
+#include "objc/Instance.hpp"
 #include "platform/Foundation.hpp"
 
 namespace companion {

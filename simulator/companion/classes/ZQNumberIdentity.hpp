@@ -5,8 +5,8 @@
 #include <string>
 
 #include "companion/world/Identity.hpp"
-#include "objc/instance.hpp"
-#include "objc/owned.hpp"
+#include "objc/Instance.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 
 extern "C" {

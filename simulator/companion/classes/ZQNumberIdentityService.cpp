@@ -5,7 +5,7 @@
 #include "companion/Texts.hpp"
 #include "companion/classes/Conversions.hpp"
 #include "companion/numbers/Numbers.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 extern "C" const id NSLocalizedDescriptionKey;
 

@@ -8,8 +8,8 @@
 #include "companion/classes/CallRecords.hpp"
 #include "companion/classes/ZQNumberIdentity.hpp"
 #include "companion/world/Records.hpp"
-#include "objc/instance.hpp"
-#include "objc/owned.hpp"
+#include "objc/Instance.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 
 namespace companion {

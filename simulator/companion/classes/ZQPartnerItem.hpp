@@ -4,8 +4,8 @@
 #include <cstdint>
 
 #include "companion/world/Records.hpp"
-#include "objc/instance.hpp"
-#include "objc/owned.hpp"
+#include "objc/Instance.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 
 namespace companion {

@@ -11,7 +11,7 @@
 #include "companion/classes/Conversions.hpp"
 #include "companion/classes/Services.hpp"
 #include "companion/classes/ZQIPCService.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace companion {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "companion/classes/ZQPartnerItem.hpp"
-#include "objc/instance.hpp"
+#include "objc/Instance.hpp"
 #include "platform/Foundation.hpp"
 
 namespace companion {

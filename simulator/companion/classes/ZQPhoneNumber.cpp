@@ -4,7 +4,7 @@
 #include "companion/classes/Conversions.hpp"
 #include "companion/numbers/NumberText.hpp"
 #include "companion/numbers/Numbers.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace companion {
 

@@ -5,7 +5,7 @@
 #include "companion/classes/Conversions.hpp"
 #include "companion/classes/Pictures.hpp"
 #include "companion/classes/Utilities.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace companion {
 

@@ -4,7 +4,7 @@
 #include "companion/Texts.hpp"
 #include "companion/classes/Conversions.hpp"
 #include "companion/classes/Utilities.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
 
 namespace companion {

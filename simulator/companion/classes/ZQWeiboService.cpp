@@ -4,7 +4,7 @@
 #include "companion/Companion.hpp"
 #include "companion/classes/Conversions.hpp"
 #include "companion/classes/Pictures.hpp"
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 namespace companion {
 

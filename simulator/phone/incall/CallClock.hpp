@@ -3,8 +3,8 @@
 
 #include <functional>
 
-#include "objc/instance.hpp"
-#include "objc/owned.hpp"
+#include "objc/Instance.hpp"
+#include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 
 namespace phone {

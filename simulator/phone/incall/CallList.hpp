@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "companion/SimulatedTime.hpp"
-#include "objc/owned.hpp"
+#include "objc/Owned.hpp"
 #include "phone/incall/TUTelephonyCall.hpp"
 
 namespace phone {

@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "objc/instance.hpp"
-#include "objc/owned.hpp"
+#include "objc/Instance.hpp"
+#include "objc/Owned.hpp"
 #include "phone/dialer/ContactBook.hpp"
 #include "platform/Foundation.hpp"
 

@@ -1,5 +1,5 @@
 // A selector's colons and the signature's arguments have to agree.
-#include "objc/send.hpp"
+#include "objc/Send.hpp"
 
 void sendTwoArguments(id receiver) {
     objc::send<void(int)>(receiver, "setTag:"_sel, 1);

@@ -1,5 +1,5 @@
 // A format's conversions and its arguments have to agree in number and kind.
-#include "platform/format.hpp"
+#include "platform/Format.hpp"
 
 NSString describe(NSString label, int32_t count) {
 #ifdef MUST_NOT_COMPILE

@@ -1,5 +1,5 @@
 // A method is registered under a selector with as many colons as it has arguments.
-#include "objc/class_builder.hpp"
+#include "objc/ClassBuilder.hpp"
 
 class Counter : public objc::Instance {
   public:
