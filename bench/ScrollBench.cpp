@@ -41,7 +41,7 @@ class Telephone {
         return send<NSDictionary()>(hook(), "numberInfoAndCallCacheDict"_sel).count();
     }
 
-    /// Scrolls through a list that has just been opened; answers seconds a row.
+    /// Scrolls through a list that has just been opened; returns seconds a row.
     double scroll(NumberOf numberOf, bool withAddOn) {
         MSHookMessageEx("PHRecentsCell"_cls, "layoutSubviews"_sel,
                         withAddOn ? withAddOn_ : withoutAddOn_, nullptr);

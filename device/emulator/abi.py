@@ -92,7 +92,7 @@ class Abi:
             self._write(code, places, value)
 
     def result(self, code: str, memory: int) -> Any:
-        """Returns what a called function answered."""
+        """Returns the result of a called function."""
         if code == "v":
             return None
         if self.through_memory(code):
@@ -100,7 +100,7 @@ class Abi:
         return self._read(code, self._result_places(code))
 
     def write_result(self, code: str, value: Any, memory: int) -> None:
-        """Answers a caller; `memory` is where it wants a struct."""
+        """Returns to a caller; `memory` is where it wants a struct."""
         if code == "v":
             return
         if self.through_memory(code):

@@ -46,7 +46,7 @@ def missing(symbol: str) -> int:
 
 
 def handler(runtime: Runtime, symbol: str, types: str, body: Callable[..., Any]) -> Handler:
-    """Returns what answers a call of a C function."""
+    """Returns what runs for a call of a C function."""
     signature = abi.parse(types)
 
     def answer() -> None:

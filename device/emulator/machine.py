@@ -1,5 +1,5 @@
 """One emulated processor with its memory. Calls of foreign functions leave the emulation by a
-fetch from a page that cannot be executed, so they are answered here and may call back."""
+fetch from a page that cannot be executed, so they run here and may call back."""
 
 from collections.abc import Callable
 from dataclasses import dataclass
@@ -15,7 +15,7 @@ STACK_SIZE = 0x100000
 TRAP_SIZE = 0x40000
 TRAP_STEP = 16
 
-# Answers a call: the address to go on at, or None to return to the caller.
+# Runs a call: the address to go on at, or None to return to the caller.
 Handler = Callable[[], int | None]
 
 
@@ -242,7 +242,7 @@ class Machine:
         raise Failure(f"neither call nor return for long, or a jump to 0, at {self.describe(at)}")
 
     def _step(self, trap: int) -> int:
-        """Answers one call and returns the address to go on at."""
+        """Runs one call and returns the address to go on at."""
         if trap == self.stop:
             return trap
         back, stack = self.core(self.processor.link), self.core(self.processor.stack_pointer)

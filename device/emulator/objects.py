@@ -97,7 +97,7 @@ class ObjcClass:
 
 @dataclass(frozen=True)
 class Message:
-    """What a class of the process answers to: a selector, its types and whose message it is."""
+    """A message of a class of the process: a selector, its types and whose message it is."""
 
     selector: str
     types: str
@@ -146,7 +146,7 @@ def answer(selector: str, types: str, function: Callable[..., Any]) -> Any:
 
 
 def shared(selector: str) -> Any:
-    """Declares a class's method that answers the one object of the class."""
+    """Declares a class's method that returns the one object of the class."""
     return class_message(selector, "@@:")(lambda cls: cls.runtime.shared(cls.name))
 
 

@@ -118,7 +118,7 @@ class Runtime:
         return self._shared[name]
 
     def class_of(self, receiver: Instance | ObjcClass) -> ObjcClass:
-        """Returns the class whose methods a receiver answers with."""
+        """Returns the class whose methods a receiver runs."""
         return receiver.meta if isinstance(receiver, ObjcClass) else receiver.objc_class
 
     def object_at(self, address: int) -> Instance | ObjcClass | None:
@@ -201,7 +201,7 @@ class Runtime:
         """Returns the method for a message; one that nobody defined is a failure."""
         found = self.class_of(receiver).find(selector)
         if found is None:
-            raise Failure(f"nobody answers {self.message_name(receiver, selector)}")
+            raise Failure(f"nobody knows {self.message_name(receiver, selector)}")
         return found
 
     def dispatch(self, receiver_register: int) -> int:

@@ -29,7 +29,7 @@ def instance_variable(runtime: Runtime, objc_class: ObjcClass, name: str) -> int
 
 
 def implementation(runtime: Runtime, objc_class: ObjcClass, selector: str) -> int:
-    """Returns the address of a method that answers no struct through memory."""
+    """Returns the address of a method that returns no struct through memory."""
     found = objc_class.find(selector)
     if found is None or runtime.abi.through_memory(found.signature.result):
         raise Failure(f"the implementation of {objc_class} {selector} cannot be had this way")

@@ -1,6 +1,6 @@
 // The address book's C interface, as far as anybody here calls it. Records, multi-values and arrays
-// are Objective-C objects, asked by message, so any object that answers will do. A null argument
-// gives null or 0; what a Copy function answers is the caller's to CFRelease.
+// are Objective-C objects, asked by message, so any object that knows the message will do. A null
+// argument gives null or 0; what a Copy function returns is the caller's to CFRelease.
 #pragma once
 
 #include <cstdint>
@@ -11,10 +11,10 @@ extern "C" {
 /// A person's phone numbers: a multi-value of texts.
 extern const int32_t kABPersonPhoneProperty;
 
-/// `record` answers valueForProperty: (int32_t).
+/// `record` has valueForProperty: (int32_t).
 id ABRecordCopyValue(id record, int32_t property);
 
-/// `multiValue` answers count, valueAtIndex: and allValues.
+/// `multiValue` has count, valueAtIndex: and allValues.
 long ABMultiValueGetCount(id multiValue);
 id ABMultiValueCopyArrayOfAllValues(id multiValue);
 id ABMultiValueCopyValueAtIndex(id multiValue, long index);

@@ -4,7 +4,7 @@
 namespace phone {
 
 /// Takes a class out of the runtime's sight, as if this Phone application did not have it; for
-/// trying out what an add-on does then. Answers whether there was such a class.
+/// trying out what an add-on does then. Returns whether there was such a class.
 bool forgetClass(const char *name);
 
 }  // namespace phone

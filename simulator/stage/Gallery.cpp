@@ -42,7 +42,7 @@ bool isShown(const Scene &scene, const Model &model) {
     return !scene.onlyBefore8 || model.ios < "8";
 }
 
-/// Draws all scenes on one device; answers what the screen said, one line a scene.
+/// Draws all scenes on one device; returns what the screen said, one line a scene.
 std::string drawScenes(const fs::path &folder, const std::vector<SceneGroup> &groups,
                        const Settings &settings) {
     Session session(settings);

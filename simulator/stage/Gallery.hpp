@@ -9,7 +9,7 @@ namespace stage {
 
 /// Draws the gallery into `folder`, which is made if need be: index.html and a folder of pictures.
 /// World and data folder are those of `settings`. After an error the folder is as it was before.
-/// Answers the number of pictures. Throws Failure.
+/// Returns the number of pictures. Throws Failure.
 int makeGallery(const std::filesystem::path &folder, const Settings &settings);
 
 }  // namespace stage

@@ -5,7 +5,7 @@
 
 namespace stage {
 
-/// From now on [[NSBundle mainBundle] bundleIdentifier] answers this text, or nil when it is empty.
+/// From now on [[NSBundle mainBundle] bundleIdentifier] returns this text, or nil when it is empty.
 void setMainBundleIdentifier(const std::string &identifier);
 
 }  // namespace stage

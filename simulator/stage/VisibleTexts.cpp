@@ -11,7 +11,7 @@ std::string joinedTexts(UIView view, UIView except) {
         return {};
     }
     constexpr auto kText = "text"_sel;
-    // What answers a text shows all of it, whatever it is made of inside.
+    // What has a text shows all of it, whatever it is made of inside.
     if (view.respondsToSelector(kText)) {
         return sim::utf8(objc::send<NSString()>(view, kText));
     }

@@ -7,7 +7,7 @@
 
 namespace stage {
 
-/// The texts of all visible views under `view` that answer `text`, back to front, joined by " | ";
+/// The texts of all visible views under `view` that have a `text`, back to front, joined by " | ";
 /// `except` and what is hidden are left out.
 std::string joinedTexts(UIView view, UIView except);
 

@@ -8,7 +8,7 @@
 namespace stage {
 
 /// Lets the main run loop work for `time` of the simulation, which takes real time at its pace.
-/// After each of its turns `afterTurn` is called; answers it true, the rest of the wait is dropped.
+/// After each of its turns `afterTurn` is called; returns it true, the rest of the wait is dropped.
 void letTimePass(std::chrono::milliseconds time, const std::function<bool()> &afterTurn);
 
 }  // namespace stage

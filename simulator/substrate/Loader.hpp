@@ -13,7 +13,7 @@ struct LoadError : std::runtime_error {
 };
 
 /// Loads every library of `folder` that has a filter file of the same stem beside it ("x.plist" for
-/// "x.so") admitting this application's main bundle; in the order of their names. Answers what was
+/// "x.so") admitting this application's main bundle; in the order of their names. Returns what was
 /// loaded. Throws LoadError for a folder, filter or library that cannot be read.
 std::vector<std::filesystem::path> loadAddOns(const std::filesystem::path &folder);
 

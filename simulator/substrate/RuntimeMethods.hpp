@@ -10,7 +10,7 @@ IMP method_getImplementation(Method method);
 IMP method_setImplementation(Method method, IMP implementation);
 const char *method_getTypeEncoding(Method method);
 
-/// Called with the name of a class that objc_getClass does not find; answers the class, or nil.
+/// Called with the name of a class that objc_getClass does not find; returns the class, or nil.
 using ClassHandler = Class (*)(const char *name);
 ClassHandler objc_setGetUnknownClassHandler(ClassHandler handler);
 }

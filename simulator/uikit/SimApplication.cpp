@@ -26,7 +26,7 @@ void perform(NSObject target, SEL action, NSObject sender, SimEvent *event) {
     }
 }
 
-/// The first responder from `from` outwards that answers to the action; nil when none does.
+/// The first responder from `from` outwards that knows the action; nil when none does.
 NSObject responderFor(SEL action, NSObject from) {
     NSObject responder = from;
     while (responder != nullptr && !responder.respondsToSelector(action)) {

@@ -1,4 +1,4 @@
-// UIDevice answers from the device model.
+// UIDevice reads from the device model.
 #include "uikit/SimDevice.hpp"
 
 #include "uikit/Device.hpp"

@@ -1,4 +1,4 @@
-// UIScreen answers from the device model.
+// UIScreen reads from the device model.
 #include "uikit/SimScreen.hpp"
 
 #include "uikit/Device.hpp"

@@ -17,12 +17,12 @@ namespace {
 constexpr NSInteger kGrouped = 1;
 constexpr CGFloat kGroupedGap = 35;  // above a group without a header of its own
 
-/// What an optional message of a delegate answers; `missing` when there is none.
+/// What an optional message of a delegate returns; `missing` when there is none.
 template <class Signature, objc::Literal name, class... Args>
 auto ask(NSObject delegate, objc::Selector<name> selector,
          typename objc::Message<Signature>::Result missing, Args... args) {
-    const bool answers = delegate != nullptr && delegate.respondsToSelector(selector);
-    return answers ? objc::send<Signature>(delegate, selector, args...) : missing;
+    const bool isKnown = delegate != nullptr && delegate.respondsToSelector(selector);
+    return isKnown ? objc::send<Signature>(delegate, selector, args...) : missing;
 }
 
 }  // namespace
@@ -101,7 +101,7 @@ void SimTableView::loadIfNeeded() {
     setContentSize({bounds().size.width, y});
 }
 
-/// Answers the y below the section.
+/// Returns the y below the section.
 CGFloat SimTableView::measureSection(NSInteger section, CGFloat y) {
     const CGFloat gap = style_ == kGrouped ? kGroupedGap : 0;
     const auto header = ask<CGFloat(SimTableView *, NSInteger)>(

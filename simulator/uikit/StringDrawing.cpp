@@ -32,7 +32,7 @@ StyledText styled(NSString text, NSDictionary attributes) {
     return {sim::units(text), sim::textStyle(attributes, kPlain)};
 }
 
-/// The older messages answer whole points, rounded up.
+/// The older messages return whole points, rounded up.
 CGSize wholePoints(CGSize size) {
     constexpr double kTolerance = 1e-6;
     return {std::ceil(size.width - kTolerance), std::ceil(size.height - kTolerance)};
@@ -84,7 +84,7 @@ CGRect attributedBounding(NSAttributedString text, CGSize room, NSInteger option
     return bounding(sim::styledText(text, kPlain), room, options);
 }
 
-/// Draws in `rect`, or outside of any drawing nothing; answers the size of what was laid out.
+/// Draws in `rect`, or outside of any drawing nothing; returns the size of what was laid out.
 CGSize draw(const StyledText &text, CGRect rect, LineBreak mode, TextAlignment alignment) {
     const sim::TextLayout layout = sim::layOut(text, {rect.size.width, rect.size.height, 0, mode});
     if (auto *const context = sim::GraphicsContext::current(); context != nullptr) {

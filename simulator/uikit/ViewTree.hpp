@@ -8,7 +8,7 @@
 namespace sim {
 
 /// UTF-8, each line ended by a newline: indentation by depth, class, "#tag" when not 0, frame,
-/// "hidden", and the text of whatever answers `text` in quotes. Nothing is laid out on the way.
+/// "hidden", and the text of whatever has a `text` in quotes. Nothing is laid out on the way.
 std::string viewTree(SimView *root);
 
 /// 48, 12.5, 0.333: at most three decimals, no trailing zeros.

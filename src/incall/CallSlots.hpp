@@ -15,7 +15,7 @@ class CallSlots {
     /// Whether a second call came while the current one lived.
     bool moreThanOne() const { return calls_[1] != nullptr; }
 
-    /// Forgets calls that have ended, then takes the free slot for `call`. Answers whether it was
+    /// Forgets calls that have ended, then takes the free slot for `call`. Returns whether it was
     /// taken: a nil call and a third one are not.
     bool add(TUTelephonyCall call);
     /// The second call, if any, takes the place of a current one that goes. Unknown calls and nil

@@ -1,5 +1,5 @@
 // Selectors and classes as literals: "setFrame:"_sel, "UILabel"_cls. The name is part of the type;
-// the runtime is asked on first use and the answer kept in the literal's own slot.
+// the runtime is asked on first use and its answer kept in the literal's own slot.
 #pragma once
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // The address book's C interface, as far as the add-on speaks to it. Objects that a Copy function
-// answers are the caller's; here they come as AddressBookCopy.
+// returns are the caller's; here they come as AddressBookCopy.
 #pragma once
 
 #include <cstdint>

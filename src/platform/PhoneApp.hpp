@@ -31,7 +31,7 @@ class PHHandsetDialerLCDView : public UIView {
 /// The one status of a call that matters here: the telephony layer has ended it.
 inline constexpr int32_t kCallEnded = 5;
 
-/// A call of the telephony layer; nil answers 0, NO and nil.
+/// A call of the telephony layer; nil returns 0, NO and nil.
 class TUTelephonyCall : public NSObject {
   public:
     using NSObject::NSObject;
@@ -132,7 +132,7 @@ class ABContact : public NSObject {
   public:
     using NSObject::NSObject;
     bool isStranger() const { return send<int32_t()>("recordID"_sel) < 0; }
-    /// Entries that answer `value`, which answers `formattedStringValue`.
+    /// Entries that have `value`, which has `formattedStringValue`.
     NSArray phoneNumbers() const { return send<NSArray()>("phoneNumbers"_sel); }
 };
 

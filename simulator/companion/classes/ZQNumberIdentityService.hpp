@@ -1,4 +1,4 @@
-// ZQNumberIdentityService: answers who a number is, from the store at once and from the cloud
+// ZQNumberIdentityService: tells who a number is, from the store at once and from the cloud
 // later.
 #pragma once
 

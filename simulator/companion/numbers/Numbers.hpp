@@ -8,7 +8,7 @@
 
 namespace companion {
 
-/// What a number looks like by the numbering plan. The values are answered to callers as they are.
+/// What a number looks like by the numbering plan. Callers get the values as they are.
 enum class NumberKind : std::int32_t {
     unknown = 0,
     mobile = 1,        ///< 11 digits, 13… to 19…

@@ -68,7 +68,7 @@ class Database {
     /// Opens or creates a file, or ":memory:"; throws SqliteError.
     explicit Database(const std::string &file);
 
-    /// Runs statements that answer nothing; throws SqliteError.
+    /// Runs statements that return nothing; throws SqliteError.
     void execute(const char *sql);
 
     /// The prepared query with these values for its question marks. `sql` must live for ever.

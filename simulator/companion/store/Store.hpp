@@ -14,7 +14,7 @@
 
 namespace companion {
 
-/// All numbers given to the lookups are pure numbers. A lookup that finds nothing answers nothing;
+/// All numbers given to the lookups are pure numbers. A lookup that finds nothing returns nothing;
 /// SqliteError is thrown when the database itself fails, StoreError when it cannot be written.
 class Store {
   public:

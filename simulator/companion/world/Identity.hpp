@@ -7,7 +7,7 @@
 
 namespace companion {
 
-/// Where an identity comes from. A number may have one of each; the first of this order answers.
+/// Where an identity comes from. A number may have one of each; the first of this order counts.
 enum class IdentityOrigin : std::int32_t {
     ownMark = 0,    ///< the user's own mark
     stored = 1,     ///< a cloud answer that was stored in this run

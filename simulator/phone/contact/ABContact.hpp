@@ -10,7 +10,7 @@
 
 namespace phone {
 
-/// One number of a person: its label, and a value that answers `formattedStringValue`.
+/// One number of a person: its label, and a value that has `formattedStringValue`.
 class ABContactNumber : public objc::Instance {
   public:
     static void define();

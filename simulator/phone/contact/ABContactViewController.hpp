@@ -25,7 +25,7 @@ class ABContactViewController : public SimViewController {
     void setBackButton(const BarButton &face);
     UIView backButton();
 
-    /// The ABContactView: the table; it answers `contact`.
+    /// The ABContactView: the table; it has `contact`.
     UIView contactView();
     SimTableView *table();
     /// The ABContactHeaderView, the table's header.

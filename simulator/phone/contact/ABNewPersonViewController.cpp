@@ -71,9 +71,10 @@ void ABNewPersonViewController::saveWithName(NSString name) {
 void ABNewPersonViewController::cancel() { finish(nullptr); }
 
 void ABNewPersonViewController::finish(NSObject person) {
-    objc::send<void(NSObject, NSObject)>(delegate_,
-                                         "newPersonViewController:didCompleteWithNewPerson:"_sel,
-                                         NSObject(*this), person);
+    // A record of the address book's C interface, whatever it is made of here.
+    objc::send<void(NSObject, const void *)>(
+        delegate_, "newPersonViewController:didCompleteWithNewPerson:"_sel, NSObject(*this),
+        static_cast<const void *>(person.get()));
 }
 
 }  // namespace phone

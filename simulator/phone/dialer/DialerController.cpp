@@ -122,12 +122,12 @@ UIView DialerController::newPersonView() const {
     return objc::send<UIView()>(newPerson_.get(), "view"_sel);
 }
 
-void DialerController::newPersonViewControllerDidComplete(NSObject, NSObject person) {
+void DialerController::newPersonViewControllerDidComplete(NSObject, const void *person) {
     newPersonView().removeFromSuperview();
     // The sheet is still at work in the call that brought us here.
     newPerson_.autorelease();
     if (person) {
-        ContactBook::shared().add(contactOf(person));
+        ContactBook::shared().add(contactOf(NSObject(static_cast<id>(const_cast<void *>(person)))));
     }
     showNumber();
 }

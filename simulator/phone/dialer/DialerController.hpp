@@ -32,8 +32,8 @@ class DialerController : public SimViewController {
     /// The sheet for a new person while it is open, else nil.
     UIView newPersonView() const;
     ABNewPersonViewController *newPersonController() const;
-    /// A nil person: the sheet was closed without saving.
-    void newPersonViewControllerDidComplete(NSObject controller, NSObject person);
+    /// A null person: the sheet was closed without saving.
+    void newPersonViewControllerDidComplete(NSObject controller, const void *person);
 
   private:
     void showNumber();

@@ -46,7 +46,7 @@ class CallList {
     /// A new call, which begins by dialling or ringing.
     void begin(NSString number, bool outgoing);
 
-    // These answer whether it was possible; see InCallController.
+    // These return whether it was possible; see InCallController.
     bool answer() const;
     bool swap() const;
     bool merge();
@@ -55,7 +55,7 @@ class CallList {
     /// talked on, else what is held.
     void endCurrent() const;
 
-    /// Takes over what a call announced. Calls of others are none of the list's business. Answers
+    /// Takes over what a call announced. Calls of others are none of the list's business. Returns
     /// the call when it has ended; it is in the list no more.
     std::optional<ListedCall> statusChanged(id call, CallStatus status);
 

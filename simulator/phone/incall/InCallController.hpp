@@ -12,7 +12,7 @@
 
 namespace phone {
 
-/// Calls are counted from 1, in the order in which they began. What is not possible now answers
+/// Calls are counted from 1, in the order in which they began. What is not possible now returns
 /// false and changes nothing. Nobody but the controller retains a call: it is gone as soon as it
 /// has ended.
 class InCallController : public SimViewController {
@@ -52,7 +52,7 @@ class InCallController : public SimViewController {
 
     InCallView *inCallView();
     /// The InCallLCDView or InCallLCDField. What it says are the texts of the visible views in it
-    /// that answer `text`, in their order.
+    /// that have a `text`, in their order.
     UIView displayView() { return inCallView()->display(); }
     /// The TPWallpaperView.
     UIView wallpaperView() { return inCallView()->wallpaper(); }

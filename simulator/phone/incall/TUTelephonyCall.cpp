@@ -27,10 +27,11 @@ void TUTelephonyCall::define() {
                                         .finish());
 }
 
-id TUTelephonyCall::initWithCall(NSObject call) {
+id TUTelephonyCall::initWithCall(const void *call) {
+    const NSObject facts(static_cast<id>(const_cast<void *>(call)));
     objc::sendSuper<TUTelephonyCall, id()>(this, "init"_sel);
     const auto value = [&](NSString key) {
-        return objc::send<NSObject(NSString)>(call, "valueForKey:"_sel, key);
+        return objc::send<NSObject(NSString)>(facts, "valueForKey:"_sel, key);
     };
     const auto integer = [&](NSString key, int32_t missing) {
         const NSObject found = value(key);

@@ -16,9 +16,9 @@ class TUTelephonyCall : public objc::Instance {
   public:
     static void define();
 
-    /// `call` answers valueForKey: for "destinationID" (text), "outgoing" (BOOL), "abUID" (the
+    /// `call` has valueForKey: for "destinationID" (text), "outgoing" (BOOL), "abUID" (the
     /// contact's record number, -1 for none) and "status"; a dictionary will do.
-    id initWithCall(NSObject call);
+    id initWithCall(const void *call);
 
     CallStatus status() const { return status_; }
     /// Also tells everybody, by the notification of the telephony layer.

@@ -1,5 +1,5 @@
-// One call of the recents list as the Phone application hands it around. What it answers depends on
-// the system: iOS 8 gave the accessors new names and meanings.
+// One call of the recents list as the Phone application hands it around. What it can be asked
+// depends on the system: iOS 8 gave the accessors new names and meanings.
 #pragma once
 
 #include <cstdint>
@@ -23,7 +23,7 @@ struct RecentCallFacts {
     std::optional<double> date{};  ///< seconds since 1970
 };
 
-/// Answers `date` (NSDate or nil) and, before iOS 8, `type`, `destination`, `addressBookRecord` and
+/// Has `date` (NSDate or nil) and, before iOS 8, `type`, `destination`, `addressBookRecord` and
 /// `addressBookDestination`; from iOS 8 on `callStatus`, `callerId` and `addressBookRecordId`.
 class PHRecentCall : public objc::Instance {
   public:

@@ -14,7 +14,7 @@ namespace phone {
 class ABContactViewController;
 class PHRecentsCell;
 
-/// Rows are counted from 0. What is not possible now answers false and changes nothing.
+/// Rows are counted from 0. What is not possible now returns false and changes nothing.
 class PHRecentsViewController : public PhoneViewController {
   public:
     static void define();
@@ -58,7 +58,7 @@ class PHRecentsViewController : public PhoneViewController {
     void loadView();
     void viewWillAppear(bool animated);
     void viewWillDisappear(bool animated);
-    /// Answers the detail's controller.
+    /// Returns the detail's controller.
     NSObject showCallDetail(NSObject call, bool animate);
     /// Edit mode of the whole list, also sent by the button in the bar.
     void setEditingAnimated(bool editing, bool animated);

@@ -1,4 +1,4 @@
-// A text laid out in lines: what measuring answers from and what the canvas
+// A text laid out in lines: what measuring goes by and what the canvas
 // draws.
 #pragma once
 
