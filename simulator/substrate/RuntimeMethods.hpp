@@ -8,7 +8,6 @@ Method *class_copyMethodList(Class cls, unsigned int *count);
 SEL method_getName(Method method);
 IMP method_getImplementation(Method method);
 IMP method_setImplementation(Method method, IMP implementation);
-const char *method_getTypeEncoding(Method method);
 
 /// Called with the name of a class that objc_getClass does not find; returns the class, or nil.
 using ClassHandler = Class (*)(const char *name);

@@ -46,7 +46,7 @@ UIView findContainer(InCallDisplay display);
 
 struct Placed {
     UIView view;
-    CGRect frame;
+    CGRect frame{};
 };
 
 /// Sets the frames one after the other, as long as no other pass lays `display` out meanwhile.

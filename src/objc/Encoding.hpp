@@ -87,7 +87,8 @@ constexpr std::string_view takeType(std::string_view &encoding) {
         const char c = end < encoding.size() ? encoding[end++] : '\0';
         depth += c == '{' || c == '(' || c == '[' ? 1 : c == '}' || c == ')' || c == ']' ? -1 : 0;
     } while (depth > 0 && end < encoding.size());
-    const std::string_view type(encoding.data(), end);
+    std::string_view type = encoding;
+    type.remove_suffix(encoding.size() - end);
     encoding.remove_prefix(end);
     encoding.remove_prefix(std::min(encoding.find_first_not_of(kDigits), encoding.size()));
     return type;

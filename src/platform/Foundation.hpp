@@ -73,9 +73,6 @@ class NSString : public NSObject {
     /// Zero-terminated, valid as long as the innermost pool; null for nil.
     const char *UTF8String() const { return send<const char *()>("UTF8String"_sel); }
 
-    static NSString withString(NSString text) {
-        return objc::send<NSString(NSString)>(classObject(), "stringWithString:"_sel, text);
-    }
     static NSString withUTF8String(const char *text) {
         return objc::send<NSString(const char *)>(classObject(), "stringWithUTF8String:"_sel, text);
     }

@@ -63,7 +63,6 @@ class UIView : public NSObject {
     void setFrame(CGRect frame) const { send<void(CGRect)>("setFrame:"_sel, frame); }
     CGRect bounds() const { return send<CGRect()>("bounds"_sel); }
     CGSize intrinsicContentSize() const { return send<CGSize()>("intrinsicContentSize"_sel); }
-    bool isHidden() const { return send<bool()>("isHidden"_sel); }
     void setHidden(bool hidden) const { send<void(bool)>("setHidden:"_sel, hidden); }
     NSInteger tag() const { return send<NSInteger()>("tag"_sel); }
     void setTag(NSInteger tag) const { send<void(NSInteger)>("setTag:"_sel, tag); }
