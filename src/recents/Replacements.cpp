@@ -65,8 +65,8 @@ void replace_PhoneViewController_viewWillAppear_(PhoneViewController self, SEL s
 }
 
 void replace_PHRecentsCell_layoutSubviews(PHRecentsCell self, SEL selector) {
-    const LayoutPass pass(self);
     objc::saved<&replace_PHRecentsCell_layoutSubviews>(self, selector);
+    const LayoutPass pass(self);
     const auto layOut = [&] { recents::layOutCell(self); };
     if (!silently([&] { LayoutPass::untilCurrent(self, layOut); })) {
         silently([&] { recents::restoreCell(self); });

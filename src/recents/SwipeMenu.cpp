@@ -77,10 +77,8 @@ int32_t addButtons(UIView confirmation, OfferedActions offered, CGFloat height) 
 /// Asks what the row's call allows and adds the buttons; returns the slots of the whole menu.
 int32_t addOfferedButtons(PHRecentsCell cell, RecentCall call, UIView confirmation) {
     const NSString number = call.number();
-    const OfferedActions offered = [&] {
-        const auto identity = identityOf(number);
-        return offeredActions(phonePureNumber(), identity);
-    }();
+    const auto identity = identityOf(number);  // leaves the pure number in the lookup context
+    const OfferedActions offered = offeredActions(phonePureNumber(), identity);
     const CGFloat height = cell.frame().size.height - CGFloat(0.5);
     const bool hasButtons = !call.isOfContact() && isUsable(number);
     return hasButtons ? addButtons(confirmation, offered, height) : 1;
