@@ -55,12 +55,6 @@ TEST_P(DialerOn, AKnownMarkStandsCentredInTheNameLinesPlace) {
     EXPECT_EQ(dialer_.lcd().nameAndLabelView().frame(), rect(0, top, 320, 25));
 }
 
-TEST_P(DialerOn, AnUnknownNumberShowsItsRegionAndOperator) {
-    dialer_.type("13800138000");
-    ASSERT_TRUE(dialer_.showsRow());
-    EXPECT_EQ(dialer_.text(1002), "北京 移动");
-}
-
 TEST_P(DialerOn, AWideDescriptionIsCutAt165Points) {
     dialer_.type("075501238001");
     ASSERT_TRUE(dialer_.showsRow());

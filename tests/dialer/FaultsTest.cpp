@@ -54,27 +54,6 @@ TEST_F(DialerFaults, NothingIsAskedForShortTexts) {
     EXPECT_EQ(stub.queries.size(), 1U);
 }
 
-TEST_F(DialerFaults, ACompanionThatRaisesHidesAnEarlierDescription) {
-    type("02012345678"_ns);
-    ASSERT_FALSE(showsNameLineOnly());
-    stub.raises = true;
-    type("02012345678"_ns);
-    EXPECT_TRUE(showsNameLineOnly());
-    stub.raises = false;
-    type("02012345678"_ns);
-    EXPECT_TRUE(isHidden(lcd.nameAndLabelView()));
-    EXPECT_FALSE(isHidden(row()));
-}
-
-TEST_F(DialerFaults, AMissingPictureLeavesAnEmptyIcon) {
-    type("02012345678"_ns);
-    EXPECT_EQ(stub.imagesAskedFor, 1);
-    EXPECT_EQ(lcd.viewWithTag(1001).frame(), rect(0, 5, 15, 15));
-    type("020123456789"_ns);
-    type("02012345678"_ns);
-    EXPECT_EQ(stub.imagesAskedFor, 1) << "the row is made once";
-}
-
 TEST_F(DialerFaults, ARowThatCannotBeLaidOutLeavesThePhoneApplicationsLine) {
     type("02012345678"_ns);
     // A view that is no label has no font and no text: the row cannot be laid out.

@@ -15,22 +15,6 @@ bool operator==(const RowPlaces &a, const RowPlaces &b) {
            a.addContactX == b.addContactX;
 }
 
-TEST(DialerGeometry, TheRowTakesTheNameLinesPlace) {
-    EXPECT_EQ(dialer::rowTop(true, false), 48);
-    EXPECT_EQ(dialer::rowTop(false, false), 41);
-    EXPECT_EQ(dialer::rowTop(true, true), 44);
-    EXPECT_EQ(dialer::rowTop(false, true), 37);
-}
-
-TEST(DialerGeometry, NewViewsHaveTheirFixedSizes) {
-    constexpr auto row = dialer::newRow(48, 25);
-    EXPECT_EQ(row.container, rect(0, 48, 0, 25));
-    EXPECT_EQ(row.icon, rect(0, 5, 15, 15));
-    EXPECT_EQ(row.description, rect(0, 0, 0, 25));
-    EXPECT_EQ(row.separator, rect(0, 5, 1, 15));
-    EXPECT_EQ(row.addContact, rect(0, 0, 97, 25));
-}
-
 TEST(DialerGeometry, TheRowIsCentredAsAWhole) {
     struct Case {
         const char *what;

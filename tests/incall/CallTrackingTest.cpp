@@ -190,11 +190,4 @@ TEST_F(CallTracking, AnotherAddOnOfThisKindHasTheCallsToItself) {
     method_setImplementation(exists, real);
 }
 
-TEST_F(CallTracking, TheConferenceFlagIsLeftToOthers) {
-    EXPECT_EQ(g_isThreePartyCall, 0);
-    const auto first = begin({"10001"});
-    const auto second = begin({"10002"});
-    EXPECT_EQ(g_isThreePartyCall, 0);
-}
-
 }  // namespace

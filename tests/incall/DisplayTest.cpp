@@ -15,8 +15,6 @@ using test::isHidden;
 using test::isShown;
 using test::textOf;
 
-const test::IdentityFacts kMark{
-    .label = "诈骗电话", .type = IdentityKind::UserMark, .numOfMark = 37};
 const test::IdentityFacts kBrand{
     .type = IdentityKind::Brand, .brandName = "云雀速递", .brandLogoPath = "/stub/logo.png"};
 
@@ -34,38 +32,13 @@ class InCallScreen : public test::InCall {
     }
     UIView line() const { return lcd().viewWithTag(kDescriptionTag); }
     UIView container() const { return findContainer(test::InCall::lcd()); }
-    /// The end of a label's text is dimmer than its beginning.
-    static bool hasTwoTones(UIView label) {
-        const auto text = send<NSAttributedString()>(label, "attributedText"_sel);
-        const NSUInteger end = send<NSUInteger()>(text, "length"_sel) - 1;
-        return test::alphaAt(text, 0) == 1 && test::alphaAt(text, end) == 0.5;
+    /// On the wallpaper, as before 7.1.
+    static void showBigPicture(NSObject picture) {
+        const auto wallpaper =
+            Owned<NSObject>::adopt(NSObject(send<id()>("TPWallpaperView"_cls, "new"_sel)));
+        send<void(NSObject, bool)>(wallpaper, "setContactImage:animated:"_sel, picture, false);
     }
 };
-
-TEST_F(InCallScreen, TheLCDViewShowsAMarkLowInIt) {
-    start(7.0);
-    stub.identities["10001"] = kMark;
-    const auto call = begin({"10001"});
-    layOut(lcd());
-    EXPECT_EQ(container().frame(), rect(0, 74, 320, 16));
-    EXPECT_EQ(textOf(line()), "诈骗电话 | 37人标记");
-    EXPECT_TRUE(hasTwoTones(line()));
-    const CGFloat x = lcd().textView().frame().origin.x;
-    EXPECT_EQ(line().frame(), rect(x + 18, 0, 262, 16));
-    // 7 Chinese units and 5 others, 3 points and the icon, in 280.
-    EXPECT_EQ(lcd().viewWithTag(kIconTag).frame(), rect(x + 64.5, 0, 15, 15));
-    EXPECT_EQ(lcd().textView().frame().origin.y, 5);
-    EXPECT_EQ(lcd().labelView().frame().origin.y, 45);
-    EXPECT_EQ(lcd().labelView().frame().size.width, 280);
-    EXPECT_FALSE(lcd().viewWithTag(kPictureTag));
-
-    stub.identities["10001"] = {.label = "四川老家", .type = IdentityKind::OwnMark};
-    stub.deliver("msgSystemProcessReloadAllNum"_ns, nullptr);
-    layOut(lcd());
-    EXPECT_EQ(textOf(line()), "四川老家") << "the line is brought up to date";
-    EXPECT_FALSE(hasTwoTones(line())) << "and in one tone again";
-    EXPECT_EQ(send<NSArray()>(container(), "subviews"_sel).count(), 2U) << "nothing is added twice";
-}
 
 TEST_F(InCallScreen, AShortScreenIsTighter) {
     start(7.1, false);
@@ -99,6 +72,12 @@ TEST_F(InCallScreen, ABrandsLogoStandsBesideTheText) {
     EXPECT_EQ(line().frame(), rect(38, 0, 202, 16));
     EXPECT_EQ(field().textView().frame().size.width, 220);
     EXPECT_EQ(textOf(field().viewWithTag(kFieldDescriptionTag)), "云雀速递");
+
+    const auto second = begin({"10002"});
+    for (const auto display : {UIView(lcd()), UIView(field())}) {
+        layOut(display);
+        EXPECT_TRUE(isHidden(display.viewWithTag(kPictureTag)));
+    }
 }
 
 TEST_F(InCallScreen, APictureOfTheSystemsComesFirst) {
@@ -111,49 +90,13 @@ TEST_F(InCallScreen, APictureOfTheSystemsComesFirst) {
     layOut(lcd());
     EXPECT_TRUE(isHidden(logo));
     EXPECT_EQ(lcd().textView().frame().size.width, 190);
-    hook().hasSystemBigAvatar(true);
+    showBigPicture(image());
     layOut(lcd());
     EXPECT_TRUE(isHidden(logo));
     EXPECT_EQ(lcd().textView().frame().size.width, 280);
-}
-
-TEST_F(InCallScreen, ASecondCallHidesEverythingAndMovesNothing) {
-    start(7.0);
-    stub.identities["10001"] = kBrand;
-    stub.identities["10002"] = kMark;
-    auto first = begin({"10001"});
+    showBigPicture(nullptr);
     layOut(lcd());
-    layOut(field());
-    const auto second = begin({"10002"});
-    layOut(lcd());
-    layOut(field());
-    for (const UIView view :
-         {container(), lcd().viewWithTag(kPictureTag), field().viewWithTag(kPictureTag),
-          field().viewWithTag(kFieldDescriptionTag), field().viewWithTag(kFieldIconTag)}) {
-        EXPECT_TRUE(view && isHidden(view));
-    }
-    EXPECT_NE(lcd().textView().frame().origin.y, 5) << "the Phone application's own layout stands";
-
-    first = {};
-    layOut(lcd());
-    layOut(field());
-    EXPECT_TRUE(isShown(container()));
-    EXPECT_EQ(textOf(line()), "诈骗电话 | 37人标记");
-    EXPECT_TRUE(isShown(field().viewWithTag(kFieldDescriptionTag)));
-}
-
-TEST_F(InCallScreen, TheLCDFieldShowsTheLineBelowItsOwn) {
-    start(7.0);
-    stub.identities["10001"] = kMark;
-    const auto call = begin({"10001"});
-    layOut(field());
-    const UIView description = field().viewWithTag(kFieldDescriptionTag);
-    EXPECT_EQ(description.superview(), field().contentView());
-    const CGFloat x = field().textView().frame().origin.x;
-    EXPECT_EQ(description.frame(), rect(x + 18, 75, 262, 20));
-    EXPECT_EQ(field().viewWithTag(kFieldIconTag).frame(), rect(x + 64.5, 77.5, 15, 15));
-    EXPECT_EQ(field().labelView().frame().origin.y, 55);
-    EXPECT_TRUE(hasTwoTones(description));
+    EXPECT_EQ(lcd().textView().frame().size.width, 190);
 }
 
 TEST_F(InCallScreen, AContactWithoutAPictureGetsTheCompanionsAvatar) {
@@ -288,27 +231,8 @@ TEST_F(InCallScreen, AStrangerAfterAContactHasNoIconLeftInTheLabel) {
 }
 
 // What the Phone application's own implementation is told in the end.
-bool g_centred = false;
 CGFloat g_points = 0;
-void recordCentring(id, SEL, BOOL centred) { g_centred = centred != 0; }
 void recordFont(id, SEL, UIFont font) { g_points = font.pointSize(); }
-
-TEST_F(InCallScreen, OneCallIsCentredAndTwoAsTheCallerSays) {
-    start(7.0);
-    *objc::saved<&replace_TPLCDTextView_setCenterText_>.slot() =
-        reinterpret_cast<IMP>(&recordCentring);
-    const auto center = [&](bool centred) {
-        send<void(bool)>(lcd().textView(), "setCenterText:"_sel, centred);
-        return g_centred;
-    };
-    const auto first = begin({"10001"});
-    EXPECT_TRUE(center(false));
-    const auto second = begin({"10002"});
-    EXPECT_FALSE(center(false));
-    EXPECT_TRUE(center(true));
-    layOut(lcd());
-    EXPECT_FALSE(g_centred) << "two calls stand one below the other";
-}
 
 TEST_F(InCallScreen, AStrangersSmallNumberIsSmallerOnAShortScreen) {
     start(7.1, false);
@@ -325,18 +249,6 @@ TEST_F(InCallScreen, AStrangersSmallNumberIsSmallerOnAShortScreen) {
                            UIFont::systemFontOfSize(points));
         EXPECT_EQ(g_points, shown) << contact << ' ' << points;
     }
-}
-
-TEST_F(InCallScreen, TheWallpapersPictureCountsAsTheSystems) {
-    start(7.0);
-    const auto wallpaper =
-        Owned<NSObject>::adopt(NSObject(send<id()>("TPWallpaperView"_cls, "new"_sel)));
-    const auto show = [&](NSObject picture) {
-        send<void(NSObject, bool)>(wallpaper, "setContactImage:animated:"_sel, picture, false);
-        return objc::read<bool>(hook(), "_hasSystemBigAvatar"_ivar);
-    };
-    EXPECT_TRUE(show(image()));
-    EXPECT_FALSE(show(nullptr));
 }
 
 }  // namespace

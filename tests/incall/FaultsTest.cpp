@@ -9,7 +9,6 @@ namespace {
 using namespace incall;
 using objc::Owned;
 using objc::send;
-using test::isHidden;
 
 const char *const kParts[] = {"_textView", "_labelView", "_imageView", "_contentView"};
 
@@ -54,12 +53,6 @@ class InCallFaults : public test::InCall {
         }
         hook().addAvatarView(lcdField);
     }
-    void expectNothingShown() const {
-        for (const UIView view : {findContainer(lcd()), field().viewWithTag(kFieldDescriptionTag),
-                                  field().viewWithTag(kFieldIconTag)}) {
-            EXPECT_TRUE(!view || isHidden(view));
-        }
-    }
 };
 
 TEST_F(InCallFaults, DisplaysWithoutSomeOrAllOfTheirPartsAreLaidOutAsFarAsTheyGo) {
@@ -90,55 +83,19 @@ TEST_F(InCallFaults, ARegionNeedsALabel) {
     EXPECT_EQ(bare->subviews().count(), 0U);
 }
 
-TEST_F(InCallFaults, ACompanionThatKnowsNothingShowsNothing) {
-    stub.knowsNothing = true;
-    for (const int contact : {-1, 4}) {
-        if (!objc::Shared<ZQDialWaitUIHook>::get()) {
-            start(7.0);
-        }
-        const auto call = begin({"10001", true, contact});
-        layOut(lcd());
-        layOut(field());
-        EXPECT_FALSE(lcd().viewWithTag(kDescriptionTag));
-        EXPECT_FALSE(field().viewWithTag(kFieldDescriptionTag));
-    }
-}
-
-TEST_F(InCallFaults, ACompanionThatRaisesLeavesThePhoneApplicationsScreen) {
+TEST_F(InCallFaults, WithoutANumberOrWhereNothingIsKnownNothingIsShown) {
     start(7.0);
-    auto call = begin({"10001"});
-    layOut(lcd());
-    layOut(field());
-    ASSERT_TRUE(test::isShown(findContainer(lcd())));
-    stub.raises = true;
-    layOut(lcd());
-    layOut(field());
-    expectNothingShown();
-    call = {};
-    call = begin({"10001", true});
-    EXPECT_EQ(hook().currentOutCall().get(), call.get().get()) << "calls are followed all the same";
-    layOut(lcd());
-    layOut(field());
-    expectNothingShown();
-    stub.raises = false;
-    layOut(lcd());
-    layOut(field());
-    EXPECT_TRUE(test::isShown(findContainer(lcd())));
-    EXPECT_TRUE(test::isShown(field().viewWithTag(kFieldDescriptionTag)));
-}
-
-TEST_F(InCallFaults, ACallWithoutANumberHasNoInformation) {
-    for (const double version : {7.1}) {
-        start(version);
+    for (const char *const number : {static_cast<const char *>(nullptr), "10001"}) {
+        stub.knowsNothing = number != nullptr;
         for (const int contact : {-1, 4}) {
-            const auto call = begin({nullptr, true, contact});
+            const auto call = begin({number, true, contact});
             layOut(lcd());
             layOut(field());
             EXPECT_FALSE(lcd().viewWithTag(kDescriptionTag));
             EXPECT_FALSE(field().viewWithTag(kFieldDescriptionTag));
         }
-        EXPECT_TRUE(stub.cloudQueries.empty());
     }
+    EXPECT_TRUE(stub.cloudQueries.empty());
 }
 
 TEST_F(InCallFaults, AMissingLogoFallsBackToTheCompanionsAndThenToNone) {
@@ -166,24 +123,6 @@ TEST_F(InCallFaults, ACallMayDieDuringALayoutPass) {
     stub.onParse = {};
     layOut(lcd());
     layOut(field());
-}
-
-TEST_F(InCallFaults, ADownloadThatNeverArrivesLeavesTheDefaultLogo) {
-    start(7.0);
-    stub.identities["10001"] = {
-        .label = "诊所", .type = IdentityKind::StoredCloudAnswer, .numOfMark = 6000};
-    stub.partners[6000] = {.id = 6000,
-                           .name = "安澜诊所",
-                           .icon = "far/logo.png",
-                           .iconImagePath = "/nowhere/logo.png"};
-    auto call = begin({"10001"});
-    layOut(lcd());
-    call = {};
-    stub.identities.clear();
-    call = begin({"10001"});
-    layOut(lcd());
-    EXPECT_EQ(test::textOf(lcd().viewWithTag(kDescriptionTag)), "四川成都");
-    EXPECT_FALSE(hook().isBrandNumber()) << "the next call has its own information";
 }
 
 }  // namespace

@@ -30,18 +30,6 @@ TEST(InCallGeometry, IconAndTextAreCentredTogetherButStayInTheColumn) {
     EXPECT_EQ(descriptionFrame({20, 220}, 70, 20), rect(38, 70, 202, 20));
 }
 
-TEST(InCallGeometry, NewViewsHaveTheirFixedSizes) {
-    const NewLine line = newLine({320, 96});
-    EXPECT_EQ(line.container, rect(0, 0, 320, 16));
-    EXPECT_EQ(line.label, rect(37, 0, 218, 16));
-    EXPECT_EQ(line.icon, rect(0, 0, 15, 15));
-    EXPECT_EQ(newFieldLabel(true), rect(0, 70, 320, 20));
-    EXPECT_EQ(newFieldLabel(false), rect(0, 75, 320, 20));
-    EXPECT_EQ(newFieldIcon(newFieldLabel(true)), rect(0, 72.5, 15, 15));
-    EXPECT_EQ(newFieldIcon(newFieldLabel(false)), rect(0, 77.5, 15, 15));
-    EXPECT_EQ(shownLogo(kLogo), rect(29, 0, 44, 45));
-}
-
 TEST(InCallGeometry, AnAvatarIsRoundAndSmallerOnAShortScreen) {
     const AvatarPlaces tall = placeAvatar(false);
     EXPECT_EQ(tall.container, rect(0, 0, 74, 74));
@@ -66,11 +54,6 @@ TEST(InCallGeometry, TheLCDViewMakesRoomForPictureAndDescription) {
          false,
          false,
          {rect(0, 0, 74, 74), rect(22, 12, 280, 42), rect(24, 54, 280, 21), rect(0, 0, 320, 16)}},
-        {"a description",
-         Beside::Nothing,
-         true,
-         false,
-         {rect(0, 0, 74, 74), rect(22, 5, 280, 42), rect(24, 45, 280, 21), rect(0, 74, 320, 16)}},
         {"beside a picture of the system's",
          Beside::SystemPicture,
          true,
@@ -117,18 +100,6 @@ TEST(InCallGeometry, TheLCDFieldPutsTheDescriptionBelowItsLines) {
         CGRect icon;
     };
     const Case cases[] = {
-        {"7.0",
-         Beside::Nothing,
-         false,
-         false,
-         {rect(0, 0, 74, 74), rect(22, 12, 280, 42), rect(24, 55, 280, 21), rect(40, 75, 262, 20)},
-         rect(103, 77.5, 15, 15)},
-        {"7.1",
-         Beside::Nothing,
-         false,
-         true,
-         {rect(0, 0, 74, 74), rect(22, 12, 280, 42), rect(24, 53, 280, 21), rect(40, 75, 262, 20)},
-         rect(103, 77.5, 15, 15)},
         {"7.0, short screen, logo",
          Beside::Logo,
          true,
