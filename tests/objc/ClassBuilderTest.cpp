@@ -41,7 +41,7 @@ TEST_F(DefinedClass, HasItsIvarsWhereCPlusPlusHasItsMembers) {
     EXPECT_GE(class_getInstanceSize(derived), sizeof(DerivedProbe));
 }
 
-TEST_F(DefinedClass, CallsItsSuperclassAndAnswersClassMessages) {
+TEST_F(DefinedClass, CallsItsSuperclassAndTakesClassMessages) {
     EXPECT_EQ(send<int32_t()>(test::newProbe(), "order"_sel), 1);
     EXPECT_EQ(send<int32_t()>(test::newDerivedProbe(), "order"_sel), 12);
     const auto probe = test::newProbe();

@@ -25,7 +25,7 @@ class Bridge : public testing::Test {
     objc::AutoreleasePool pool_;
 };
 
-TEST_F(Bridge, NilAnswersZeroOfEveryType) {
+TEST_F(Bridge, NilReturnsZeroOfEveryType) {
     EXPECT_EQ(send<int32_t()>(kNil, "type"_sel), 0);
     EXPECT_EQ(send<double()>(kNil, "doubleValue"_sel), 0.0);
     EXPECT_EQ(send<float()>(kNil, "floatValue"_sel), 0.0F);
@@ -137,7 +137,7 @@ TEST_F(Bridge, SilentlyEndsEveryException) {
     EXPECT_EQ(after, 0);
 }
 
-TEST_F(Bridge, AnUnfilledSlotAnswersZero) {
+TEST_F(Bridge, AnUnfilledSlotReturnsZero) {
     objc::Saved<CGRect(NSObject, SEL, NSInteger)> rectangle;
     objc::Saved<void(NSObject, SEL)> nothing;
     EXPECT_EQ(rectangle(nullptr, "frame"_sel, 3), CGRect());

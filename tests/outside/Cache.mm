@@ -19,6 +19,16 @@ static void checkCache() {
     expectEqual([cache count], 3);  // calls of one second are one
     expectEqual([Stage timesAsked:@"getRecordForNumber:atSysDate:"], 3);
 
+    // Who was shown a text has let it go again.
+    NSString *text = nil;
+    inPool([&] {
+        [service getInfoWithRecentCall:callFrom(@"4", 9)];
+        [service getInfoWithRecentCall:callFrom(@"4", 9)];
+        text = [[cache objectForKey:@"4_9"] retain];
+        [cache removeObjectForKey:@"4_9"];
+    });
+    expectEqual([text retainCount], 1);
+
     // The companion learns more, and says so.
     [Stage know:identity(7, @"推销", 12) of:kPure];
     PHRecentsCell *row = rowOf(callFrom(kNumber, 2.5));

@@ -25,6 +25,11 @@ static void expectTones(NSAttributedString *toned) {
     expectEqual(NSMaxRange(run), [[toned string] length]);
 }
 
+static NSString *fileOf(NSString *part) {
+    NSString *const kFile = @"/resources/btn_%@in_systemCallHistoryDetailsView.png";
+    return [NSString stringWithFormat:kFile, part];
+}
+
 // The looks that a picture does not show, of a header with three buttons.
 static void checkLooks() {
     [Stage reset];
@@ -56,13 +61,12 @@ static void checkLooks() {
         expectEqual(found->events, 1 << 6);
         expectEqual(NSStringFromSelector(found->action), action);
         expectEqual(found->insets, UIEdgeInsets{0, 20, 0, 0});
-        NSString *file = @"_in_systemCallHistoryDetailsView.png";
         expectEqual(((UIImageView *)[[found subviews] lastObject])->image->path,
-                    [NSString stringWithFormat:@"/resources/btn_icon_%@%@", icon, file]);
+                    fileOf([NSString stringWithFormat:@"icon_%@_", icon]));
         for (NSUInteger state : {0, 1}) {
             UIImage *image = [found get:@"image" forState:state];
-            expectEqual(image->path, [NSString stringWithFormat:@"/resources/btn_%@%@%@", part,
-                                                                state ? @"_pressed" : @"", file]);
+            NSString *suffix = state ? @"_pressed_" : @"_";
+            expectEqual(image->path, fileOf([part stringByAppendingString:suffix]));
             expectEqual(image->caps, caps);
             expectEqual([found get:@"color" forState:state], rgb(145, 145, 145));
         }
@@ -99,6 +103,7 @@ static void checkTexts() {
         {@"brand", brandOf(@"某店"), 2, nil, nil, @"某店", 71, 167, 112, @"纠错标记搜索"},
         {@"marks", identity(7, @"推销", 37), 1, nil, nil, mark, 71, 167, 112, @"纠错搜索"},
         {@"search", identity(7, @"推销", 1), 2, nil, nil, @"推销", 71, 167, 112, @"纠错搜索"},
+        {@"marks, tag", identity(7, @"推销", 37), 1, nil, word, mark, 71, 187, 112, @"纠错搜索", k7},
         {@"long", identity(8, many, 99), 0, nil, nil, cut, 71, 167, 112, @"纠错搜索"},
     };
     const CGFloat left = margin(), width = 320 - left - 13;
@@ -125,14 +130,39 @@ static void checkTexts() {
         expectFrame(header->_nameLabel, {7, 53, 200, 30});
         expectTrue([header->_taglineLabel isHidden]);
         expectEqual(titles(header), each.titles);
-        // The buttons share their row, search at its end.
+        // The buttons share their row.
         const CGFloat kWidths[][3] = {{272, 135, 90}, {292, 145, 97}};
         const NSUInteger others = [each.titles length] / 2 - 1;
         const CGFloat wide = kWidths[isNewer()][others];
-        expectFrame(button(header, kSearch), {left + others * (wide + 1), each.rowY, wide, 44});
+        NSString *const kParts[] = {others ? @"left_" : @"", others == 2 ? @"middle_" : @"right_",
+                                    @"right_"};
+        NSUInteger at = 0;
+        for (NSUInteger index : {kCorrect, kMark, kSearch}) {
+            UIButton *found = button(header, index);
+            if (isShown(found)) {
+                expectFrame(found, {left + at * (wide + 1), each.rowY, wide, 44});
+                UIImage *background = [found get:@"image" forState:0];
+                expectEqual(background->path, fileOf(kParts[at++]));
+            }
+        }
     }
 }
 static const Group g_texts("header, texts", kPhone, checkTexts);
+
+// Since 8.0 the tag line is repeated for numbers from abroad alone.
+static void checkForeign() {
+    [Stage reset];
+    for (NSString *number : {(id)kNumber, (id) @"0044 20"}) {
+        Contact *contact = contactWith(number);
+        [hook() updatePhoneNumberFromContact:contact];
+        ABContactHeaderView *header = headerOf(contact);
+        [header->_taglineLabel setText:@"手机"];
+        layOut(header);
+        expectEqual([labelWith(1001, header) text],
+                    isNewer() && number == (id)kNumber ? @"广东广州" : @"手机  广东广州");
+    }
+}
+static const Group g_foreign("header, numbers from abroad", kPhone, checkForeign);
 
 // Buttons are met on the first pass alone; labels on every one.
 static void checkLaterPasses() {

@@ -92,6 +92,7 @@ NSString *textOf(PHRecentsCell *row, Place place = Place::current());
 + (void)addButtonMenuToCell:(UIView *)cell;
 + (BOOL)isOneIncomingCall:(id)call;
 + (CGFloat)getHeaderViewHeight;
++ (void)updatePhoneNumberFromContact:(id)contact;
 + (void)addNumberInfoToHeaderView:(UIView *)header withContact:(id)contact;
 + (UIImage *)getRecordIcon;
 @end

@@ -15,8 +15,8 @@ struct RecentCallFacts {
     int32_t contact = 0;
 };
 
-/// Which accessors a call answers: AddressBookless is iOS 7's other way to name a contact and has
-/// no status, Bare answers nothing but its date.
+/// Which accessors a call has: AddressBookless is iOS 7's other way to name a contact and has
+/// no status, Bare has nothing but its date.
 enum class CallKind : unsigned char { Ios7, AddressBookless, Ios8, Bare };
 
 /// Its number is a string that may change; it is the same one every time.

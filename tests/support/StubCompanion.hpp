@@ -53,14 +53,6 @@ struct CloudQuery {
     std::string pureNumber;
     id delegate;
 };
-/// A row's text as it was asked for.
-struct RowTextQuery {
-    std::string label;
-    int displayType;
-    NSInteger callDirection;
-    bool hasOriginal;
-    bool operator==(const RowTextQuery &) const = default;
-};
 /// A stored call as it was asked for; without a date it has none.
 struct RecordQuery {
     std::string number;
@@ -102,21 +94,18 @@ struct StubCompanion {
     double iosVersion = 7.1;
     bool isFourInch = true;
     bool showNumberArea = true;
-    bool raises = false;        // every lookup raises instead of answering
+    bool raises = false;        // every lookup raises
     std::string raisesAt;       // the one message, by its selector, that raises
     bool knowsNothing = false;  // all objects that are asked for are nil, the preference apart
     // Labels are short for identities that have nothing but a label.
     std::map<std::string, std::string> labels, areas, descriptions, mobiles;
     std::map<std::string, IdentityFacts> identities;
-    std::map<std::string, std::string> rowTexts;     // by label
-    std::map<std::string, std::string> storedCalls;  // the pure number by the number as asked for
     std::map<std::string, std::vector<int>> histories;  // action types, by number as asked for
     std::map<int, PartnerFacts> partners;
-    std::vector<std::string> contacts, blackList, foreignNumbers;
+    std::vector<std::string> contacts, blackList;
     std::map<std::string, std::vector<std::string>> persons;  // all numbers by one of them
     std::map<std::string, objc::Owned<UIImage>> avatars;
     std::map<std::string, WeiboFacts> profiles;
-    std::string resourceDir = "/stub";
 
     // Questions and deeds, oldest first.
     std::map<std::string, int> timesAsked;  // by selector
@@ -129,17 +118,14 @@ struct StubCompanion {
     std::vector<Observer> observers;
     std::vector<PostedMessage> posted;  // observers hear nothing until it is delivered
     std::vector<RoundRect> roundRects;
-    std::vector<RowTextQuery> rowTextQueries;
     std::vector<RecordQuery> recordQueries;
-    std::vector<std::string> openedLinks;
     int parsedNumbers = 0;
-    int imagesAskedFor = 0;
     std::function<void()> onInitializePreferences, onParse;
 
     /// Ends the oldest cloud query, with an answer or by calling it off; throws when none waits.
     void answerCloudQuery(NSDictionary answer, NSObject error = nullptr);
     void cancelCloudQuery();
-    /// Tells the message's observers; answers how many there were.
+    /// Tells the message's observers; returns how many there were.
     int deliver(NSString message, NSDictionary userInfo) const;
 
     static StubCompanion &current();

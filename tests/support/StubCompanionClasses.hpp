@@ -16,7 +16,7 @@ MaybeText maybe(NSString text);
 NSString string(const MaybeText &text);
 
 /// Every message that asks or does something passes here: it is counted and raises when it is told
-/// to. Answers whether an object that is asked for may be given.
+/// to. Returns whether an object that is asked for may be given.
 bool asked(const char *message);
 
 /// The entry of `number` among `answers`; nil for a number without one.
@@ -28,7 +28,7 @@ NSObject autoreleased(T *object) {
     return objc::Owned<NSObject>::adopt(NSObject(*object)).autorelease();
 }
 
-/// The object that a shared-instance message answers.
+/// The object that a shared-instance message returns.
 template <class T>
 NSObject onlyOne() {
     static auto *const instance = objc::make<T>().leak();

@@ -1,6 +1,4 @@
 // The stub companion's knowledge of numbers: parsing, identities and the queries for them.
-#include <algorithm>
-
 #include "support/StubCompanionClasses.hpp"
 
 extern "C" {
@@ -29,7 +27,6 @@ class PhoneNumber : public objc::Instance {
     }
     NSString pureNumber() const { return asked("pureNumber") ? string(pure_) : nullptr; }
     NSString areaName() const { return answerFor("areaName", stub().areas, pure_); }
-    int32_t type() const { return std::ranges::count(stub().foreignNumbers, pure_) != 0 ? 6 : 0; }
 
     static NSString descriptionOfNumber(NSString digits) {
         return answerFor("descriptionOfNumber:", stub().descriptions, utf8(digits));
@@ -40,9 +37,6 @@ class PhoneNumber : public objc::Instance {
     static NSString mobileNumber(NSString text) {
         return answerFor("getMobileNumberFromNumber:", stub().mobiles, digitsOf(text));
     }
-    static NSString formattedNumber(NSString text) {
-        return asked("getFormattedNumberWithNumber:") ? string("#" + digitsOf(text)) : nullptr;
-    }
 
   private:
     std::string origin_, pure_;
@@ -50,13 +44,6 @@ class PhoneNumber : public objc::Instance {
 
 NSString digitNumber(NSString text) {
     return asked("getDigitNumber:") ? string(digitsOf(text)) : nullptr;
-}
-
-/// Stands for a longer rule: what is left without the first two characters, if they are "86".
-NSString trimLeading86(NSString number) {
-    const std::string text = utf8(number);
-    return asked("trimLeading86:") ? string(text.starts_with("86") ? text.substr(2) : text)
-                                   : nullptr;
 }
 
 class CallRecord : public objc::Instance {
@@ -123,14 +110,6 @@ NSObject identityOfRecord(NSObject record, bool ignoreDiagnose, bool onlyLocal, 
                                                                     : nullptr;
 }
 
-NSString rowText(ZQNumberIdentity identity, int32_t displayType, NSInteger callDirection,
-                 NSString original) {
-    const std::string label = utf8(identity.identity());
-    stub().rowTextQueries.push_back({label, displayType, callDirection, original != nullptr});
-    return answerFor("getFormattedInfoFromNumIdentity:displayType:callDirection:originalInfo:",
-                     stub().rowTexts, label);
-}
-
 }  // namespace
 
 IdentityFacts factsOf(ZQNumberIdentity identity) {
@@ -156,15 +135,12 @@ void registerNumberClasses() {
         .method("parse"_sel, member<&PhoneNumber::parse>)
         .method("pureNumber"_sel, member<&PhoneNumber::pureNumber>)
         .method("areaName"_sel, member<&PhoneNumber::areaName>)
-        .method("type"_sel, member<&PhoneNumber::type>)
         .classMethod("descriptionOfNumber:"_sel, function<&PhoneNumber::descriptionOfNumber>)
         .classMethod("areaNameOfNumber:"_sel, function<&PhoneNumber::areaNameOfNumber>)
         .classMethod("getMobileNumberFromNumber:"_sel, function<&PhoneNumber::mobileNumber>)
-        .classMethod("getFormattedNumberWithNumber:"_sel, function<&PhoneNumber::formattedNumber>)
         .finish();
     objc::ClassBuilder<Namespace<0>>("ZQPhoneNumberHelper", "NSObject")
         .classMethod("getDigitNumber:"_sel, function<&digitNumber>)
-        .classMethod("trimLeading86:"_sel, function<&trimLeading86>)
         .finish();
     objc::ClassBuilder<CallRecord>("ZQCallRecord", "NSObject")
         .property<&CallRecord::_phoneNumber, objc::Keeping::Copied>("phoneNumber")
@@ -185,8 +161,6 @@ void registerNumberClasses() {
         .classMethod(
             "getIdentityOfRecord:ignoreDiagnose:onlyLocal:delegate:retryPeriod:displayType:"_sel,
             function<&identityOfRecord>)
-        .classMethod("getFormattedInfoFromNumIdentity:displayType:callDirection:originalInfo:"_sel,
-                     function<&rowText>)
         .finish();
 }
 
