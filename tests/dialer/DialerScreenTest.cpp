@@ -31,7 +31,7 @@ constexpr Place kPlaces[] = {
 
 class DialerOn : public testing::TestWithParam<Place> {
   protected:
-    Dialer dialer_{{.model = GetParam().model, .fixedMeasurer = true}};
+    Dialer dialer_{{.model = GetParam().model}};
 };
 
 INSTANTIATE_TEST_SUITE_P(Phones, DialerOn, testing::ValuesIn(kPlaces), [](const auto &phone) {
@@ -50,7 +50,7 @@ TEST_P(DialerOn, AKnownMarkStandsCentredInTheNameLinesPlace) {
     EXPECT_EQ(dialer_.frame(1002), rect(20, 0, 56, 25));
     EXPECT_EQ(dialer_.frame(1003), hasOffer ? rect(81, 5, 1, 15) : CGRect());
     EXPECT_EQ(dialer_.frame(1004), hasOffer ? rect(87, 0, 97, 25) : CGRect());
-    EXPECT_EQ(dialer_.text(1004), hasOffer ? "添加到通讯录" : "");
+    EXPECT_EQ(dialer_.text(1004), hasOffer ? "添加到通讯录" : "(nil)");
     EXPECT_EQ(dialer_.lcd().frame().size.width, 320);
     EXPECT_EQ(dialer_.lcd().nameAndLabelView().frame(), rect(0, top, 320, 25));
 }
@@ -128,7 +128,7 @@ TEST_P(DialerOn, TypedTextOfEveryKindLeavesEveryViewInPlace) {
 }
 
 TEST(Dialer, WithoutTheAddOnOrFromIos8OnIsThePhoneApplicationsOwn) {
-    Dialer dialer({.model = {"8.0", "4"}, .fixedMeasurer = true});
+    Dialer dialer({.model = {"8.0", "4"}});
     dialer.type("17700000061");
     EXPECT_FALSE(dialer.hasRow());
     EXPECT_TRUE(dialer.showsNameLine());
@@ -138,14 +138,14 @@ TEST(Dialer, ShowsNothingWhereTheUserDoesNotWantIt) {
     const auto world = std::filesystem::path(testing::TempDir()) / "quiet-world.json";
     std::ofstream(world) << R"({"preferences": {"showNumberArea": false},
         "marks": [{"number": "17700000061", "label": "诈骗电话", "count": 37}]})";
-    Dialer dialer({.model = {"7.0", "4"}, .world = world, .fixedMeasurer = true});
+    Dialer dialer({.model = {"7.0", "4"}, .world = world});
     dialer.type("17700000061");
     EXPECT_FALSE(dialer.hasRow());
     EXPECT_TRUE(dialer.showsNameLine());
 }
 
 TEST(Dialer, ANewContactTakesTheFirstLabelOffTheScreenThatIsShown) {
-    Dialer dialer({.model = {"7.0", "4"}, .fixedMeasurer = true});
+    Dialer dialer({.model = {"7.0", "4"}});
     const auto hint = withFrame<UILabel>(rect(0, 0, 10, 10));
     objc::send<UIView()>(dialer.controller(), "view"_sel).addSubview(hint);
     const auto contactCreated = [&] {

@@ -138,6 +138,12 @@ TEST_F(CallTracking, ANewCallSweepsOutThoseThatHaveEnded) {
     const auto third = begin({"10003"});
     EXPECT_EQ(current(), third.get().get());
     EXPECT_FALSE(hook().moreThanOneCall());
+
+    const auto fourth = begin({"10004"});
+    setStatus(fourth, kEnded);
+    const auto fifth = begin({"10005"});
+    hook().clearCurrentCall(TUTelephonyCall(third.get()));
+    EXPECT_EQ(current(), fifth.get().get());
 }
 
 TEST_F(CallTracking, TheBlackListIsAskedOnceForEachCall) {

@@ -78,27 +78,6 @@ TEST_P(InCallSession, APartnersLogoArrivesAndShowsAtTheNextLayoutPass) {
     EXPECT_NE(bytes("before.png"), bytes("after.png"));
 }
 
-TEST_P(InCallSession, TheSecondCallTakesOverWhenTheFirstEnds) {
-    perform(Kind::Incoming, "17700000061");
-    perform(Kind::Answer);
-    EXPECT_TRUE(says("诈骗电话 | 37人标记"));
-    perform(Kind::Second, "18900000062");
-    EXPECT_FALSE(says("诈骗电话") || says("骚扰电话")) << said();
-    perform(Kind::End);
-    EXPECT_TRUE(says("骚扰电话")) << said();
-    EXPECT_FALSE(says("诈骗电话"));
-}
-
-TEST_P(InCallSession, AContactsRegionFollowsTheRunningTime) {
-    perform(Kind::Incoming, "13800130011");
-    EXPECT_TRUE(says("北京")) << said();
-    perform(Kind::Answer);
-    session_.wait(2s);
-    EXPECT_TRUE(says("北京") && says("00:02")) << said();
-    perform(Kind::Second, "18900000062");
-    EXPECT_FALSE(says("北京")) << said();
-}
-
 TEST_P(InCallSession, AThousandCallsLeaveNoObjectBehind) {
     const auto call = [&](int number) {
         static constexpr std::array kCallers = {"17700000061",  "021-01065012", "15000000031",

@@ -138,11 +138,8 @@ TEST_F(HistoryDescription, ActionsAreOfferedByHistoryAndIdentity) {
         bool correct = false, mark = false;
     };
     const Case cases[] = {
-        {std::nullopt, {1, 1, 2}, false, true},
         {std::nullopt, {1, 1}, false, false},
         {IdentityFacts{.type = Region}, {2}, false, false},
-        {IdentityFacts{.type = UserMark, .numOfMark = 1}, {2}, true, false},
-        {IdentityFacts{.type = UserMark, .numOfMark = 2}, {2}, true, true},
         {IdentityFacts{.type = Brand}, {}, true, false},
         {IdentityFacts{.type = Foreign}, {0}, false, true},
     };
