@@ -193,12 +193,6 @@ TEST_F(CloudQuery, StartsAfreshWhenDataChangedElsewhere) {
     EXPECT_EQ(cached().size() + withoutInfo().size(), 0U) << "for a new call";
 }
 
-TEST_F(CloudQuery, IsOneInstancesWork) {
-    const auto shared = send<id()>("ZQDialCloudQueryService"_cls, "currentService"_sel);
-    ASSERT_TRUE(shared);
-    EXPECT_EQ(id(*ZQDialCloudQueryService::currentService()), shared);
-}
-
 TEST_F(CloudQuery, StoresCachesAndAnnouncesItsAnswer) {
     const auto expected = stored({.source = "", .numOfMark = 37, .markText = "标签 x 37"});
     EXPECT_EQ(companion::readCloudAnswer("300"_ns, json(kMarked)).identity.type(),

@@ -23,8 +23,8 @@ class OlderHint : public testing::Test {
         hook::registerClasses();
         objc::ClassBuilder<LCDField>("DialerLCDField", "UIView").finish();
         hook = objc::make<ZQDialNumberInputUIHook>().as<NSObject>();
-        controller = objc::create<UIViewController>();
-        field = objc::create<DialerLCDField>();
+        controller = made<NSObject>("UIViewController"_cls);
+        field = made<UIView>("DialerLCDField"_cls);
         field->setFrame(rect(0, 20, 320, 74));
         field->addSubview(number);
     }
@@ -42,22 +42,16 @@ class OlderHint : public testing::Test {
     }
     UIView screen() const { return send<UIView()>(controller, "view"_sel); }
 
-    class UIViewController : public NSObject {
-      public:
-        using NSObject::NSObject;
-        static Class classObject() { return "UIViewController"_cls; }
-    };
-    class DialerLCDField : public UIView {
-      public:
-        using UIView::UIView;
-        static Class classObject() { return "DialerLCDField"_cls; }
-    };
+    template <class T>
+    static objc::Owned<T> made(Class cls) {
+        return objc::Owned<T>::adopt(T(send<id()>(cls, "new"_sel)));
+    }
 
     objc::AutoreleasePool pool_;
     StubCompanion &stub = StubCompanion::current();
     objc::Owned<NSObject> hook;
-    objc::Owned<UIViewController> controller;
-    objc::Owned<DialerLCDField> field;
+    objc::Owned<NSObject> controller;
+    objc::Owned<UIView> field;
     objc::Owned<UIView> number = withFrame<UIView>(rect(0, 0, 100, 20));
 };
 

@@ -1,7 +1,6 @@
 // The entry routine against a companion and a Phone application whose every answer a test sets.
 #include <gtest/gtest.h>
 
-#include "dialer/Replacements.hpp"
 #include "dialer/ZQDialNumberInputUIHook.hpp"
 #include "hook/Installation.hpp"
 #include "stage/MainBundle.hpp"
@@ -51,16 +50,6 @@ TEST_F(Entry, InstallsTheDialerAloneBelowIos7) {
     EXPECT_TRUE(substrate::hookLog().empty());
     hook::initializeDialerHook();
     EXPECT_EQ(substrate::hookLog().size(), 6U);
-}
-
-TEST_F(Entry, ReplacementsThatAreNotInstalledDoNothing) {
-    const SEL selector = "setName:numberLabel:"_sel;
-    replace_PHHandsetDialerLCDView_setName_numberLabel_(nullptr, selector, nullptr, nullptr);
-    replace_PHHandsetDialerLCDView_touchesBegan_withEvent_(nullptr, selector, nullptr, nullptr);
-    replace_DialerController_viewWillAppear(nullptr, selector, 1);
-    replace_DialerController_newPersonViewController_didCompleteWithNewPerson_(nullptr, selector,
-                                                                               nullptr, nullptr);
-    EXPECT_TRUE(stub.queries.empty());
 }
 
 TEST_F(Entry, MakesTheDialersInstanceWhereNoneOfItsRowsBelong) {

@@ -40,18 +40,11 @@ void registerClasses() {
     define<StubCallBare>("StubCallBare").finish();
 }
 
-objc::Owned<StubCall *> makeCall(CallKind kind) {
-    switch (kind) {
-    case CallKind::Ios7:
-        return objc::make<StubCallIos7>().as<StubCall *>();
-    case CallKind::AddressBookless:
-        return objc::make<StubCallAddressBookless>().as<StubCall *>();
-    case CallKind::Ios8:
-        return objc::make<StubCallIos8>().as<StubCall *>();
-    case CallKind::Bare:
-        return objc::make<StubCallBare>().as<StubCall *>();
-    }
-    return {};
+objc::Owned<NSObject> makeCall(CallKind kind) {
+    constexpr const char *kNames[] = {"StubCallIos7", "StubCallAddressBookless", "StubCallIos8",
+                                      "StubCallBare"};
+    const Class cls = objc::findClass(kNames[static_cast<size_t>(kind)]);
+    return objc::Owned<NSObject>::adopt(NSObject(objc::send<id()>(cls, "new"_sel)));
 }
 
 }  // namespace
@@ -60,7 +53,8 @@ objc::Owned<NSObject> recentCall(CallKind kind, const RecentCallFacts &facts) {
     if (!objc::findClass("StubCallBare")) {
         registerClasses();
     }
-    auto call = makeCall(kind);
+    auto made = makeCall(kind);
+    StubCall *const call = objc::Wire<StubCall *>::from(made.get());
     if (facts.number) {
         call->_number = objc::Owned<NSString>::adopt(
             objc::send<NSString()>(NSString::withUTF8String(facts.number), "mutableCopy"_sel));
@@ -74,7 +68,7 @@ objc::Owned<NSObject> recentCall(CallKind kind, const RecentCallFacts &facts) {
     }
     call->_status = facts.status;
     call->_contactId = facts.contact;
-    return std::move(call).as<NSObject>();
+    return made;
 }
 
 recents::RecentCall asCall(const objc::Owned<NSObject> &call) {

@@ -100,6 +100,7 @@ struct StubCompanion {
     // Labels are short for identities that have nothing but a label.
     std::map<std::string, std::string> labels, areas, descriptions, mobiles;
     std::map<std::string, IdentityFacts> identities;
+    std::map<std::string, std::string> rowTexts;        // by label
     std::map<std::string, std::vector<int>> histories;  // action types, by number as asked for
     std::map<int, PartnerFacts> partners;
     std::vector<std::string> contacts, blackList;

@@ -110,6 +110,12 @@ NSObject identityOfRecord(NSObject record, bool ignoreDiagnose, bool onlyLocal, 
                                                                     : nullptr;
 }
 
+NSString rowText(ZQNumberIdentity identity, int32_t /*displayType*/, NSInteger /*callDirection*/,
+                 NSString /*original*/) {
+    return answerFor("getFormattedInfoFromNumIdentity:displayType:callDirection:originalInfo:",
+                     stub().rowTexts, utf8(identity.identity()));
+}
+
 }  // namespace
 
 IdentityFacts factsOf(ZQNumberIdentity identity) {
@@ -161,6 +167,8 @@ void registerNumberClasses() {
         .classMethod(
             "getIdentityOfRecord:ignoreDiagnose:onlyLocal:delegate:retryPeriod:displayType:"_sel,
             function<&identityOfRecord>)
+        .classMethod("getFormattedInfoFromNumIdentity:displayType:callDirection:originalInfo:"_sel,
+                     function<&rowText>)
         .finish();
 }
 
