@@ -42,48 +42,29 @@ TEST(InCallGeometry, AnAvatarIsRoundAndSmallerOnAShortScreen) {
 }
 
 TEST(InCallGeometry, TheLCDViewMakesRoomForPictureAndDescription) {
+    const auto frames = [](CGPoint picture, CGPoint text, CGPoint label, CGFloat width, CGFloat y) {
+        return Frames{.picture = {picture, {74, 74}},
+                      .text = {text, {width, 42}},
+                      .label = {label, {width, 21}},
+                      .line = rect(0, y, 320, 16)};
+    };
+    using enum Beside;
     struct Case {
-        const char *what;
         Beside beside;
         bool describes, shortScreen;
         Frames after;
     };
     const Case cases[] = {
-        {"nothing to show",
-         Beside::Nothing,
-         false,
-         false,
-         {rect(0, 0, 74, 74), rect(22, 12, 280, 42), rect(24, 54, 280, 21), rect(0, 0, 320, 16)}},
-        {"beside a picture of the system's",
-         Beside::SystemPicture,
-         true,
-         false,
-         {rect(0, 0, 74, 74), rect(22, 5, 190, 42), rect(24, 45, 190, 21), rect(0, 74, 320, 16)}},
-        {"beside a logo",
-         Beside::Logo,
-         true,
-         false,
-         {rect(220, 12, 74, 74), rect(20, 5, 220, 42), rect(20, 45, 220, 21),
-          rect(0, 74, 320, 16)}},
-        {"beside a logo, nothing to say",
-         Beside::Logo,
-         false,
-         true,
-         {rect(220, 12, 74, 74), rect(20, 12, 220, 42), rect(20, 54, 220, 21),
-          rect(0, 0, 320, 16)}},
-        {"beside a logo on a short screen",
-         Beside::Logo,
-         true,
-         true,
-         {rect(220, 5, 74, 74), rect(20, 5, 220, 42), rect(20, 44, 220, 21), rect(0, 64, 320, 16)}},
-        {"beside an avatar on a short screen",
-         Beside::Avatar,
-         true,
-         true,
-         {rect(220, 5, 74, 74), rect(22, 5, 190, 42), rect(24, 44, 190, 21), rect(0, 64, 320, 16)}},
+        {Nothing, false, false, frames({0, 0}, {22, 12}, {24, 54}, 280, 0)},
+        {SystemPicture, true, false, frames({0, 0}, {22, 5}, {24, 45}, 190, 74)},
+        {Logo, true, false, frames({220, 12}, {20, 5}, {20, 45}, 220, 74)},
+        {Logo, false, true, frames({220, 12}, {20, 12}, {20, 54}, 220, 0)},
+        {Logo, true, true, frames({220, 5}, {20, 5}, {20, 44}, 220, 64)},
+        {Avatar, true, true, frames({220, 5}, {22, 5}, {24, 44}, 190, 64)},
     };
-    for (const auto &[what, beside, describes, shortScreen, after] : cases) {
-        EXPECT_EQ(place(LCDView{kBefore, 96, beside, describes, shortScreen}), after) << what;
+    for (const Case &one : cases) {
+        const LCDView view{kBefore, 96, one.beside, one.describes, one.shortScreen};
+        EXPECT_EQ(place(view), one.after) << &one - cases;
     }
     EXPECT_EQ(columnOf({kBefore, 96, Beside::Avatar, true, false}), (Column{22, 190}));
     EXPECT_EQ(columnOf({kBefore, 96, Beside::Logo, true, false}), (Column{20, 220}));
@@ -92,53 +73,39 @@ TEST(InCallGeometry, TheLCDViewMakesRoomForPictureAndDescription) {
 TEST(InCallGeometry, TheLCDFieldPutsTheDescriptionBelowItsLines) {
     Frames before = kBefore;
     before.line = rect(0, 75, 320, 20);
+    const auto frames = [](CGPoint picture, CGRect text, CGFloat labelY, CGFloat lineY) {
+        return Frames{.picture = {picture, {74, 74}},
+                      .text = text,
+                      .label = rect(24, labelY, text.size.width, 21),
+                      .line = rect(40, lineY, text.size.width - 18, 20)};
+    };
+    using enum Beside;
     struct Case {
-        const char *what;
         Beside beside;
         bool shortScreen, is71;
         Frames after;
-        CGRect icon;
+        CGPoint icon;
     };
     const Case cases[] = {
-        {"7.0, short screen, logo",
-         Beside::Logo,
-         true,
-         false,
-         {rect(220, 15, 74, 74), rect(22, 15, 220, 55), rect(24, 54, 220, 21),
-          rect(40, 68, 202, 20)},
-         rect(73, 70.5, 15, 15)},
-        {"7.1, short screen",
-         Beside::Nothing,
-         true,
-         true,
-         {rect(0, 15, 74, 74), rect(22, 15, 280, 55), rect(24, 42, 280, 21), rect(40, 54, 262, 20)},
-         rect(103, 56.5, 15, 15)},
-        {"avatar",
-         Beside::Avatar,
-         false,
-         false,
-         {rect(220, 20, 74, 74), rect(22, 12, 190, 42), rect(24, 55, 190, 21),
-          rect(40, 75, 172, 20)},
-         rect(58, 77.5, 15, 15)},
-        {"the system's picture",
-         Beside::SystemPicture,
-         false,
-         false,
-         {rect(0, 0, 74, 74), rect(22, 12, 190, 42), rect(24, 55, 190, 21), rect(40, 75, 172, 20)},
-         rect(58, 77.5, 15, 15)},
+        {Logo, true, false, frames({220, 15}, rect(22, 15, 220, 55), 54, 68), {73, 70.5}},
+        {Nothing, true, true, frames({0, 15}, rect(22, 15, 280, 55), 42, 54), {103, 56.5}},
+        {Avatar, false, false, frames({220, 20}, rect(22, 12, 190, 42), 55, 75), {58, 77.5}},
+        {SystemPicture, false, false, frames({0, 0}, rect(22, 12, 190, 42), 55, 75), {58, 77.5}},
     };
-    for (const auto &[what, beside, shortScreen, is71, after, icon] : cases) {
-        const LCDField field{before, kIcon, beside, 100, shortScreen, is71};
+    for (const Case &one : cases) {
+        SCOPED_TRACE(&one - cases);
+        const CGRect icon{one.icon, {15, 15}};
+        const LCDField field{before, kIcon, one.beside, 100, one.shortScreen, one.is71};
         const FieldPlaces first = place(field);
-        EXPECT_EQ(first.frames, after) << what;
-        EXPECT_EQ(first.icon, icon) << what;
+        EXPECT_EQ(first.frames, one.after);
+        EXPECT_EQ(first.icon, icon);
         // The Phone application puts its own views back before a second pass; ours stay.
         LCDField again = field;
         again.frames.picture = first.frames.picture;
         again.frames.line = first.frames.line;
         again.icon = first.icon;
-        EXPECT_EQ(place(again).frames, after) << what << ", second pass";
-        EXPECT_EQ(place(again).icon, icon) << what << ", second pass";
+        EXPECT_EQ(place(again).frames, one.after) << "second pass";
+        EXPECT_EQ(place(again).icon, icon) << "second pass";
     }
 }
 
