@@ -59,12 +59,6 @@ TEST_F(DialerDescription, AsksForLocalDataOnlyAndNotAtAllForANamedNumber) {
     EXPECT_EQ(stub.parsedNumbers, 1);
 }
 
-TEST_F(DialerDescription, OutlivesTheParserThatGaveIt) {
-    const auto area = dialer::describeTypedNumber("13800138000"_ns, nullptr, nullptr);
-    EXPECT_EQ(utf8(area), "北京 移动");
-    EXPECT_EQ(stub.parsedNumbers, 2);
-}
-
 TEST_F(DialerDescription, OfTheOlderHintIsEmptyForContactsAndShortOrUnknownNumbers) {
     struct Case {
         NSString text;

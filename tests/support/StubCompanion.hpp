@@ -104,7 +104,6 @@ struct StubCompanion {
     std::map<std::string, std::vector<int>> histories;  // action types, by number as asked for
     std::map<int, PartnerFacts> partners;
     std::vector<std::string> contacts, blackList;
-    std::map<std::string, std::vector<std::string>> persons;  // all numbers by one of them
     std::map<std::string, objc::Owned<UIImage>> avatars;
     std::map<std::string, WeiboFacts> profiles;
 

@@ -24,27 +24,6 @@ class ContactService : public objc::Instance {
     bool isInAddressBook(NSString digits) const {
         return std::ranges::count(stub().contacts, utf8(digits)) != 0;
     }
-    /// A person without a name.
-    NSObject person(NSString digits) const {
-        const auto known = stub().persons.find(utf8(digits));
-        if (!asked("getPersonWithRecordID:") || known == stub().persons.end()) {
-            return nullptr;
-        }
-        const auto numbers = objc::send<NSArray()>("NSMutableArray"_cls, "array"_sel);
-        for (const std::string &number : known->second) {
-            objc::send<void(NSString)>(numbers, "addObject:"_sel, string(number));
-        }
-        const auto phones = made("ABMultiValueRecord", "initWithValues:labels:"_sel, numbers);
-        return made("ABPersonRecord", "initWithName:phones:"_sel, NSArray(), phones);
-    }
-
-  private:
-    static NSObject made(const char *className, auto init, NSArray values, NSObject labels = {}) {
-        const id memory = objc::send<id()>(objc::findClass(className), "alloc"_sel);
-        return objc::Owned<NSObject>::adopt(
-                   objc::send<NSObject(NSArray, NSObject)>(memory, init, values, labels))
-            .autorelease();
-    }
 };
 
 bool isBlackListed(NSString number, bool /*inAddressBook*/) {
@@ -150,7 +129,6 @@ void registerServiceClasses() {
         .finish();
     objc::ClassBuilder<ContactService>("ZQContactService", "NSObject")
         .method("isInAddressBook:"_sel, member<&ContactService::isInAddressBook>)
-        .method("getPersonWithRecordID:"_sel, member<&ContactService::person>)
         .classMethod("currentService"_sel, function<&onlyOneIfAny<ContactService>>)
         .finish();
     objc::ClassBuilder<Namespace<2>>("ZQBlackListService", "NSObject")
