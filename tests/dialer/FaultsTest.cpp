@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "dialer/Hint.hpp"
-#include "dialer/Replacements.hpp"
 #include "hook/Installation.hpp"
 #include "phone/Parts.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "companion/ZQDialCloudQueryService.hpp"
-#include "incall/Replacements.hpp"
 #include "substrate/RuntimeMethods.hpp"
 #include "support/InCall.hpp"
 

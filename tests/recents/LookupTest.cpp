@@ -125,6 +125,7 @@ TEST_F(RecentsLookup, RowsAreLookedUpWhileAnotherThreadEmptiesTheCache) {
     done = true;
     emptying.join();
     EXPECT_LE(cached(), NSUInteger{kCalls});
+    EXPECT_EQ(objc::read<NSObject>(hook(), "numberInfoAndCallCacheDict"_ivar).get(), cache().get());
 }
 
 }  // namespace
