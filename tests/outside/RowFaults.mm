@@ -50,6 +50,15 @@ static void checkContents() {
         [Stage reload];
         expectEqual(textOf(row), nil);
     }
+    // A row that is given a call without a line of its own does not show the last call's.
+    [Stage reset];
+    PHRecentsCell *reused = rowOf(callFrom(kNumber));
+    reused->writesOnce = YES;
+    expectEqual(textOf(reused), @"广东广州");
+    give(reused, callFrom(nil));
+    [reused->_callerLabelLabel setText:nil];
+    [reused layoutSubviews];
+    expectEqual([reused->_callerLabelLabel text], nil);
 }
 static const Group g_contents("rows, a content view that is missing", kPhone, checkContents);
 
