@@ -28,6 +28,7 @@ static void checkCache() {
         [cache removeObjectForKey:@"4_9"];
     });
     expectEqual([text retainCount], 1);
+    [text release];
 
     // The companion learns more, and says so.
     [Stage know:identity(7, @"推销", 12) of:kPure];

@@ -120,7 +120,7 @@ TEST_F(HistoryDescription, ATextOfTwoPartsIsCutShortAndPaintedInTwoTones) {
         NSRange first{};
         send<NSObject(NSString, NSUInteger, NSRange *)>(
             painted, "attribute:atIndex:effectiveRange:"_sel,
-            NSString(NSForegroundColorAttributeName), 0, &first);
+            NSString(NSForegroundColorAttributeName), NSUInteger{0}, &first);
         EXPECT_EQ(first.length, split != 0 ? split : whole.length()) << shown;
     }
     EXPECT_FALSE(recents::twoToned(nullptr));
