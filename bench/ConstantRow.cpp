@@ -29,6 +29,7 @@ objc::Saved<void(PHRecentsCell, SEL)> g_layOutCell;
 id number(id, SEL) { return g_answers->number; }
 id date(id, SEL) { return g_answers->date; }
 id contact(id, SEL) { return g_answers->contact; }
+id formatted(id, SEL, id number) { return number; }
 id personWithNumber(id, SEL, id) { return g_answers->contact; }
 CGFloat ceiling(id, SEL, CGFloat value) { return std::ceil(value); }
 void putLabelBack(PHRecentsCell self, SEL) { self.callerLabel().setText("未知"_ns); }
@@ -44,7 +45,11 @@ void install() {
     replace(call, "destination"_sel, &number);
     replace(call, "date"_sel, &date);
     replace(call, "addressBookRecord"_sel, &contact);
-    replace("ZQContactService"_cls, "getPersonWithRecordID:"_sel, &personWithNumber);
+    // These the stub does without.
+    class_addMethod("ZQContactService"_cls, "getPersonWithRecordID:"_sel,
+                    reinterpret_cast<IMP>(&personWithNumber), "@@:@");
+    class_addMethod(object_getClass(objc::asObject("ZQPhoneNumber"_cls)),
+                    "getFormattedNumberWithNumber:"_sel, reinterpret_cast<IMP>(&formatted), "@@:@");
     replace(object_getClass(objc::asObject("ZQMathUtil"_cls)), "getCeilCGFloat:"_sel, &ceiling);
     replace("PHRecentsCell"_cls, "layoutSubviews"_sel, &putLabelBack, g_layOutCell.slot());
     hook::registerClasses();

@@ -26,10 +26,10 @@ constexpr double kDate = 1400000000;  // seconds since 1970
 constexpr std::u16string_view kKeyEnd = u"_1400000000";
 
 // Messages that requiredSends() dispatches; what others send to answer them is not counted.
-constexpr int kSendsOfText = 49;
+constexpr int kSendsOfText = 51;
 constexpr int kSendsWithoutText = 25;
-constexpr int kSendsOfContact = 72;
-constexpr int kSendsBefore71 = 57;
+constexpr int kSendsOfContact = 74;
+constexpr int kSendsBefore71 = 59;
 
 recents::RowTexts &rowTexts() { return *recents::RowTexts::shared(); }
 
@@ -139,7 +139,8 @@ void requiredSends(PHRecentsCell cell, RowKind kind, bool isBefore71) {
     }
     const CGFloat width = sendWidths(cell, text);
     const auto line = content.viewWithTag(2534).as<UILabel>();
-    cell.callerLabel().text();
+    cell.callerLabel().text().length();
+    cell.callerLabel().setText(nullptr);
     sendShowing(line, content, rect(34, 28, 150, 15));
     line.text();
     sendShowing(cell.viewWithTag(2533), content, rect(width, 29, 15, 12));
