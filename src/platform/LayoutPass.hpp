@@ -21,14 +21,7 @@ class LayoutPass {
     }
 
     /// No other pass over the view is under way.
-    bool isOutermost() const {
-        for (const LayoutPass *pass = outer_; pass; pass = pass->outer_) {
-            if (pass->view_ == view_) {
-                return false;
-            }
-        }
-        return true;
-    }
+    bool isOutermost() const { return !innermost(view_, outer_); }
 
     /// Whether the pass over `view` that is under way was interrupted by another one, which has
     /// laid the view out as a whole and knew more: what is left of the interrupted pass is stale.
@@ -49,8 +42,7 @@ class LayoutPass {
     }
 
   private:
-    static LayoutPass *innermost(id view) {
-        LayoutPass *pass = g_innermost;
+    static LayoutPass *innermost(id view, LayoutPass *pass = g_innermost) {
         while (pass && pass->view_ != view) {
             pass = pass->outer_;
         }
