@@ -83,14 +83,14 @@ void SimView::layoutIfNeeded() {
         needsLayout_ = false;
         objc::send<void(SimLayer *)>(id(*this), "layoutSublayersOfLayer:"_sel, layer());
     }
-    // By a copy: a layout may add and remove views.
-    std::vector<objc::Owned<UIView>> subviews;
-    subviews.reserve(subviews_.size());
-    for (const objc::Owned<UIView> &subview : subviews_) {
-        subviews.push_back(objc::Owned<UIView>::share(subview));
-    }
-    for (const objc::Owned<UIView> &subview : subviews) {
-        objc::send<void()>(subview, "layoutIfNeeded"_sel);
+    // Subviews get no message of their own, since it is their layers that UIKit walks. A layout may
+    // add and remove views, so each is held while it is laid out.
+    for (std::size_t i = 0; i < subviews_.size(); ++i) {
+        auto *const subview = instance<SimView>(subviews_[i].get());
+        if (subview->needsLayout_ || !subview->subviews_.empty()) {
+            const auto held = Owned<UIView>::share(subviews_[i]);
+            subview->SimView::layoutIfNeeded();
+        }
     }
 }
 
