@@ -9,6 +9,7 @@ set(ZQDIAL_VERSION_DATE 2026-11-23)
 # classes with them too.
 set(ZQDIAL_BRIDGE_SOURCES
     objc/ClassBuilder.cpp
+    objc/Ivar.cpp
     objc/Owned.cpp
     platform/Foundation.cpp
     platform/Format.cpp)

@@ -89,7 +89,8 @@ FUNCTIONS: dict[str, tuple[str, Callable[..., Any]]] = {
     "_class_getInstanceSize": ("L#", instance_size),
     "_class_getInstanceVariable": ("p#*", instance_variable),
     "_ivar_getOffset": ("lp", lambda runtime, ivar: runtime.machine.number(ivar, 4)),
-    # No method is shown, so no encoding of one is compared.
+    # No encodings are kept: variables are read as what is wanted, and no method is shown.
+    "_ivar_getTypeEncoding": ("*p", lambda runtime, ivar: None),
     "_class_getInstanceMethod": ("p#:", lambda runtime, objc_class, selector: 0),
     "_method_getTypeEncoding": ("*p", lambda runtime, method: None),
     "_class_getMethodImplementation": ("p#:", implementation),

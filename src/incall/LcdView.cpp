@@ -17,10 +17,9 @@ UIView addContainer(InCallLCDView lcd, CGRect frame) {
     return container;
 }
 
-/// Two calls stand one below the other, from the left.
-void alignTextsLeft(InCallLCDView lcd) {
+void alignTextsLeft(UIView parent) {
     const auto centring = "setCenterText:"_sel;
-    for (const UIView subview : lcd.subviews()) {
+    for (const UIView subview : parent.subviews()) {
         if (subview.respondsToSelector(centring)) {
             objc::send<void(bool)>(subview, centring, false);
         }
@@ -72,7 +71,9 @@ void layOutView(InCallLCDView lcd, const Caller &caller, bool withPicture, bool 
     findRegionIcon(label).setHidden(true);
     if (caller.hasSecondCall()) {
         if (!ios::is71()) {
+            // Two calls stand one below the other, from the left.
             alignTextsLeft(lcd);
+            alignTextsLeft(lcd.contentView());
         }
         container.setHidden(true);
         picture.setHidden(true);

@@ -1,10 +1,14 @@
 // Instance variables of other people's classes, read by name: read<UIView>(cell, "_table"_ivar). A
-// missing one, or one of a missing object, reads as nil, 0 or a zero struct.
+// missing one, or one of a missing object, reads as nil or 0. Nobody promises what such a variable
+// is, so it is read as what the runtime says: a number by its own width, whatever that is, and what
+// is no number, or no object, where one is wanted counts as missing.
 #pragma once
 
 #include <array>
 #include <atomic>
+#include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "objc/Literal.hpp"
 #include "objc/Runtime.hpp"
@@ -12,60 +16,71 @@
 
 namespace objc {
 
-template <Literal name>
-class InstanceVariable {
+/// Where a variable is in its object, in bytes, and the first letter of its type's encoding: '?'
+/// where the runtime does not say, 0 where there is no such variable.
+struct VariablePlace {
+    ptrdiff_t offset = 0;
+    char type = 0;
+};
+
+/// Asks the runtime once for each class that is read, a few classes being remembered for each name;
+/// what does not fit is asked anew.
+class VariableFinder {
   public:
-    /// Bytes from the start of an instance of `cls`, or a negative number when there is no such
-    /// variable. Asked of the runtime once for each class that is read, a few classes being
-    /// remembered for each name; what does not fit is asked anew.
-    static ptrdiff_t offset(Class cls) {
-        for (Known &known : g_known) {
-            const Class knownClass = known.cls.load(std::memory_order_acquire);
-            if (knownClass == cls) [[likely]] {
-                return known.offset;
-            }
-            if (!knownClass) {
-                return remember(known, cls);
-            }
-        }
-        return search(cls);
-    }
+    constexpr explicit VariableFinder(const char *name) : name_(name) {}
+    VariablePlace find(Class cls);
 
   private:
     struct Known {
         std::atomic<bool> taken{false};
         std::atomic<Class> cls{nullptr};
-        ptrdiff_t offset = 0;
+        VariablePlace place;
     };
 
-    static ptrdiff_t search(Class cls) {
-        const Ivar ivar = class_getInstanceVariable(cls, name.chars);
-        return ivar ? ivar_getOffset(ivar) : -1;
-    }
+    VariablePlace search(Class cls) const;
+    VariablePlace remember(Known &known, Class cls) const;
 
-    static ptrdiff_t remember(Known &known, Class cls) {
-        const ptrdiff_t found = search(cls);
-        if (!known.taken.exchange(true, std::memory_order_relaxed)) {
-            known.offset = found;
-            known.cls.store(cls, std::memory_order_release);
-        }
-        return found;
-    }
-
-    static inline constinit std::array<Known, 8> g_known{};
+    const char *name_;
+    std::array<Known, 8> known_{};
 };
 
-/// The variable as a T, which is a handle, a number or a struct; exactly its bytes are copied.
+/// What stands at `place` as a number: 0 where there is no variable or it is none. One whose type
+/// is unknown is a `width` bytes wide integer, or floating-point number.
+int64_t integerAt(id object, VariablePlace place, size_t width);
+double floatingAt(id object, VariablePlace place, size_t width);
+
+template <Literal name>
+class InstanceVariable {
+  public:
+    static VariablePlace place(Class cls) { return g_finder.find(cls); }
+
+  private:
+    static inline constinit VariableFinder g_finder{name.chars};
+};
+
+/// The variable as a T, which is a handle or a number; a number that a T cannot hold reads as 0.
 template <class T, Literal name>
 T read(id object, InstanceVariable<name>) {
-    WireType<T> value{};
-    if (object) {
-        const ptrdiff_t offset = InstanceVariable<name>::offset(object_getClass(object));
-        if (offset >= 0) {
-            std::memcpy(&value, reinterpret_cast<const char *>(object) + offset, sizeof value);
-        }
+    using Value = WireType<T>;
+    static_assert(std::is_arithmetic_v<Value> || std::is_same_v<Value, id>);
+    if (!object) {
+        return T();
     }
-    return Wire<T>::from(value);
+    const VariablePlace place = InstanceVariable<name>::place(object_getClass(object));
+    if constexpr (std::is_floating_point_v<Value>) {
+        return static_cast<Value>(floatingAt(object, place, sizeof(Value)));
+    } else if constexpr (std::is_arithmetic_v<Value>) {
+        const int64_t number = integerAt(object, place, sizeof(Value));
+        const auto value = static_cast<Value>(number);
+        return static_cast<int64_t>(value) == number ? Wire<T>::from(value) : T();
+    } else {
+        Value value = nullptr;
+        if (place.type == '@' || place.type == '?') {
+            std::memcpy(&value, reinterpret_cast<const char *>(object) + place.offset,
+                        sizeof value);
+        }
+        return Wire<T>::from(value);
+    }
 }
 
 }  // namespace objc

@@ -65,6 +65,7 @@ IMP class_getMethodImplementation(Class cls, SEL selector);
 const char *method_getTypeEncoding(Method method);
 Ivar class_getInstanceVariable(Class cls, const char *name);
 ptrdiff_t ivar_getOffset(Ivar ivar);
+const char *ivar_getTypeEncoding(Ivar ivar);
 
 Class objc_allocateClassPair(Class superclass, const char *name, size_t extraBytes);
 void objc_registerClassPair(Class cls);

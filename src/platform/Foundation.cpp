@@ -1,7 +1,9 @@
-// Comparing texts.
+// Comparing texts, and asking what a message returns.
 #include "platform/Foundation.hpp"
 
 #include <algorithm>
+
+#include "objc/Encoding.hpp"
 
 bool isSameText(NSString a, NSString b) {
     if (a.get() == b.get()) {
@@ -20,4 +22,12 @@ bool isSameText(NSString a, NSString b) {
     a.getCharacters(mine, {0, length});
     b.getCharacters(other, {0, length});
     return std::equal(mine, mine + length, other);
+}
+
+bool returnsObject(NSObject object, SEL selector) {
+    const Method method =
+        object ? class_getInstanceMethod(object_getClass(object), selector) : nullptr;
+    const char *const text = method ? method_getTypeEncoding(method) : nullptr;
+    std::string_view encoding = text ? text : "";
+    return objc::takeType(encoding).starts_with('@');
 }

@@ -99,6 +99,10 @@ T ifKnown(NSObject object, objc::Selector<name> selector) {
     return object.respondsToSelector(selector) ? objc::send<T()>(object, selector) : T();
 }
 
+/// Whether the method that `object` has for this message returns an object, as far as the runtime
+/// knows.
+bool returnsObject(NSObject object, SEL selector);
+
 // What a container holds, as a number; 0 or NO when it is neither a number nor a text of one.
 inline NSInteger integerOf(NSObject object) {
     return ifKnown<NSInteger>(object, "integerValue"_sel);

@@ -57,7 +57,7 @@ class TPLCDTextView : public UIView {
         send<id(SEL, NSString)>("performSelector:withObject:"_sel, "setText:"_sel, text);
     }
     /// In points.
-    CGFloat fontSize() const { return CGFloat{objc::read<float>(*this, "_fontSize"_ivar)}; }
+    CGFloat fontSize() const { return objc::read<CGFloat>(*this, "_fontSize"_ivar); }
     /// Where the text stands in the view's own bounds.
     CGRect textRect() const { return send<CGRect()>("textRect"_sel); }
 };
@@ -68,6 +68,8 @@ class InCallDisplay : public UIView {
     using UIView::UIView;
     TPLCDTextView textView() const { return objc::read<TPLCDTextView>(*this, "_textView"_ivar); }
     TPLCDTextView labelView() const { return objc::read<TPLCDTextView>(*this, "_labelView"_ivar); }
+    /// Where the texts are, if not in the display itself.
+    UIView contentView() const { return objc::read<UIView>(*this, "_contentView"_ivar); }
     /// The contact's picture.
     UIView imageView() const { return objc::read<UIView>(*this, "_imageView"_ivar); }
 };
@@ -80,7 +82,6 @@ class InCallLCDView : public InCallDisplay {
 class InCallLCDField : public InCallDisplay {
   public:
     using InCallDisplay::InCallDisplay;
-    UIView contentView() const { return objc::read<UIView>(*this, "_contentView"_ivar); }
 };
 
 class TPWallpaperView : public UIView {

@@ -7,7 +7,10 @@ namespace recents {
 
 bool RecentCall::isOfContact(bool from80) const {
     if (from80) {
-        return ifKnown<int32_t>(*this, "addressBookRecordId"_sel) != 0;
+        // A text on some systems and a number on others, of which only the lower half is certain.
+        const auto identifier = "addressBookRecordId"_sel;
+        return returnsObject(*this, identifier) ? send<id()>(identifier) != nullptr
+                                                : ifKnown<int32_t>(*this, identifier) != 0;
     }
     if (const auto record = "addressBookRecord"_sel; respondsToSelector(record)) {
         return send<id()>(record) != nullptr;

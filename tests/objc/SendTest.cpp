@@ -97,17 +97,21 @@ TEST_F(Bridge, TextConstantsAreOneObjectFromEveryThread) {
     EXPECT_EQ(seen[0].get(), seen[1].get());
 }
 
-TEST_F(Bridge, NamedInstanceVariablesReadWithTheirOwnSize) {
+TEST_F(Bridge, NamedInstanceVariablesReadAsWhatTheyAre) {
     const auto probe = test::newProbe();
     const auto derived = test::newDerivedProbe();
     EXPECT_EQ(read<float>(probe, "_ratio"_ivar), 0.25F);
     EXPECT_TRUE(read<bool>(probe, "_flag"_ivar));
-    EXPECT_EQ(read<CGRect>(probe, "_frame"_ivar), CGRect());
+    EXPECT_EQ(read<double>(probe, "_ratio"_ivar), 0.25) << "of another width";
+    EXPECT_FALSE(read<NSObject>(probe, "_ratio"_ivar)) << "no object";
+    EXPECT_EQ(read<int32_t>(probe, "_frame"_ivar), 0) << "no number";
     EXPECT_EQ(read<float>(derived, "_ratio"_ivar), 0.25F) << "inherited";
     EXPECT_EQ(read<int32_t>(derived, "_count"_ivar), 42);
     EXPECT_EQ(read<int32_t>(probe, "_count"_ivar), 0) << "missing";
     EXPECT_FALSE(read<NSString>(probe, "_absent"_ivar));
-    EXPECT_EQ(read<CGRect>(kNil, "_frame"_ivar), CGRect()) << "of nil";
+    EXPECT_EQ(read<int64_t>(derived, "_count"_ivar), 42) << "of another width";
+    EXPECT_FALSE(read<bool>(probe, "_title"_ivar)) << "no number";
+    EXPECT_EQ(read<CGFloat>(kNil, "_ratio"_ivar), 0) << "of nil";
 }
 
 TEST_F(Bridge, AnExceptionLeavesTheMonitorAndThePool) {

@@ -101,7 +101,9 @@ def contact_region(load: Load) -> None:
         small = view(process, "TPLCDLabelView", 21.5, 50.0, 120.5, 20.0)
         small.textRect = (text_x, 0.0, 80.0, 20.0)
         small.set_variable("_text", text(process, own))
-        process.machine.write(small.place("_fontSize"), struct.pack("<f", 16.5))
+        process.machine.write(
+            small.place("_fontSize"), struct.pack("<d" if process.runtime.abi.wide else "<f", 16.5)
+        )
         field.set_variable("_labelView", small)
         process.send(field, "layoutSubviews")
         expect("the label's text", small.variable("_text").text, f"北京 联通 | {own}")
