@@ -15,7 +15,7 @@ set(compileOptions
     # Nothing may run at load but ZQDialMain.
     -Wglobal-constructors -Wexit-time-destructors
     -Werror
-    -I "${SOURCE_ROOT}/src"
+    -I "${SOURCE_ROOT}/src" [[-DOBJC_LEDGER="members/Ledger.hpp"]]
     "-ffile-prefix-map=${SOURCE_ROOT}/=")
 if(ZQDIAL_SEARCH_HOST)
     list(APPEND compileOptions "-DZQDIAL_SEARCH_HOST=\"${ZQDIAL_SEARCH_HOST}\"")

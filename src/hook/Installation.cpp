@@ -6,6 +6,7 @@
 #include "hook/Gates.hpp"
 #include "hook/Table.hpp"
 #include "incall/ZQDialWaitUIHook.hpp"
+#include "objc/EncodingText.hpp"
 #include "objc/Silently.hpp"
 #include "platform/Format.hpp"
 #include "platform/Log.hpp"

@@ -67,5 +67,10 @@ inline constexpr std::array kRows{
 };
 
 static_assert(noDuplicates(kRows));
+#if defined(OBJC_LEDGER)
+static_assert(std::ranges::all_of(kRows, [](const HookRow &row) {
+    return members::isReplaceable(row.className, row.selectorName, row.encoding);
+}));
+#endif
 
 }  // namespace hook

@@ -104,7 +104,7 @@ void replace_InCallController__callStatusChangedNotification_(InCallController s
                                                               NSNotification notification) {
     withHook([&](auto &hook) {
         // Read, but the calls that were taken note of are what counts.
-        [[maybe_unused]] const auto count = objc::read<int32_t>(self, "_currentCallCount"_ivar);
+        [[maybe_unused]] const auto count = objc::read<uint32_t>(self, "_currentCallCount"_ivar);
         const NSDictionary info = notification.userInfo();
         if (hook.moreThanOneCall() && info &&
             integerOf(info.objectForKey("TUCallCenterCallStatus"_ns)) == kCallEnded) {

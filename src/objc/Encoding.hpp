@@ -3,8 +3,6 @@
 // platform/CoreGraphics.hpp).
 #pragma once
 
-#include <algorithm>
-#include <string_view>
 #include <type_traits>
 
 #include "objc/Literal.hpp"
@@ -75,36 +73,5 @@ constexpr auto encoding() {
 /// "v@:@" for a method that takes one object and returns nothing.
 template <class R, class... Args>
 inline constexpr auto kMethodEncoding = ((encoding<R>() + Literal("@:")) + ... + encoding<Args>());
-
-/// Takes the first type off a method's encoding, as the runtime writes it: qualifiers before a type
-/// and the numbers behind it, which are places in the frame, do not count.
-constexpr std::string_view takeType(std::string_view &encoding) {
-    constexpr std::string_view kQualifiers = "rnNoORVA", kDigits = "0123456789";
-    encoding.remove_prefix(std::min(encoding.find_first_not_of(kQualifiers), encoding.size()));
-    size_t end = std::min(encoding.find_first_not_of('^'), encoding.size());
-    int depth = 0;
-    do {
-        const char c = end < encoding.size() ? encoding[end++] : '\0';
-        depth += c == '{' || c == '(' || c == '[' ? 1 : c == '}' || c == ')' || c == ']' ? -1 : 0;
-    } while (depth > 0 && end < encoding.size());
-    std::string_view type = encoding;
-    type.remove_suffix(encoding.size() - end);
-    encoding.remove_prefix(end);
-    encoding.remove_prefix(std::min(encoding.find_first_not_of(kDigits), encoding.size()));
-    return type;
-}
-
-/// Whether a replacement of encoding `ours` may stand in for a method of encoding `theirs`: every
-/// pointer is like every other, and where they return nothing nobody looks at what ours returns.
-constexpr bool sameEncoding(std::string_view ours, std::string_view theirs) {
-    for (bool isResult = true; !ours.empty() || !theirs.empty(); isResult = false) {
-        const std::string_view mine = takeType(ours), other = takeType(theirs);
-        const bool arePointers = mine.starts_with('^') && other.starts_with('^');
-        if (mine != other && !arePointers && !(isResult && other == "v")) {
-            return false;
-        }
-    }
-    return true;
-}
 
 }  // namespace objc

@@ -102,7 +102,7 @@ class Shared {
 template <InstanceClass T, class Signature, Literal name, class... Args>
 typename Message<Signature>::Result sendSuper(const T *self, Selector<name> selector,
                                               const Args &...args) {
-    checkArity<Signature, name>();
+    checkMessage<Signature, name>();
     const IMP inherited =
         Message<Signature>::implementation(class_getSuperclass(classOf<T>()), selector);
     return Message<Signature>::call(inherited, *self, selector, args...);

@@ -1,7 +1,7 @@
 // Looking variables up, and reading numbers by the width that they have.
 #include "objc/Ivar.hpp"
 
-#include "objc/Encoding.hpp"
+#include "objc/EncodingText.hpp"
 
 namespace objc {
 namespace {

@@ -10,8 +10,10 @@
 #include <cstring>
 #include <type_traits>
 
+#include "objc/Encoding.hpp"
 #include "objc/Literal.hpp"
 #include "objc/Runtime.hpp"
+#include "objc/Selector.hpp"
 #include "objc/Wire.hpp"
 
 namespace objc {
@@ -63,6 +65,10 @@ template <class T, Literal name>
 T read(id object, InstanceVariable<name>) {
     using Value = WireType<T>;
     static_assert(std::is_arithmetic_v<Value> || std::is_same_v<Value, id>);
+#if defined(OBJC_LEDGER)
+    static_assert(members::isListedVariable(name.chars, encoding<T>().chars),
+                  "no class is listed with this variable of this type");
+#endif
     if (!object) {
         return T();
     }

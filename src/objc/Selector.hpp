@@ -8,6 +8,12 @@
 #include "objc/Literal.hpp"
 #include "objc/Runtime.hpp"
 
+// A list of other people's classes and members, of whoever builds with one: what it does not have
+// does not compile.
+#if defined(OBJC_LEDGER)
+#include OBJC_LEDGER
+#endif
+
 namespace objc {
 
 template <Literal name>
@@ -41,6 +47,9 @@ struct ClassName {
     /// The class, or nil while the process has none of that name: only a class that was found is
     /// remembered, so one that is registered later is found later.
     static Class get() {
+#if defined(OBJC_LEDGER)
+        static_assert(members::isListedClass(name.chars), "no class of this name is listed");
+#endif
         Class cls = g_cached.load(std::memory_order_relaxed);
         if (!cls) [[unlikely]] {
             cls = findClass(name.chars);

@@ -5,6 +5,7 @@
 
 #include <type_traits>
 
+#include "objc/Encoding.hpp"
 #include "objc/Runtime.hpp"
 #include "objc/Selector.hpp"
 #include "objc/Wire.hpp"
@@ -25,6 +26,7 @@ struct Message<R(Args...)> {
     using Result = R;
     using Function = WireType<R>(id, SEL, WireType<Args>...);
     static constexpr auto arity = sizeof...(Args);
+    static constexpr const char *encoding() { return kMethodEncoding<R, Args...>.chars; }
 
     /// Calls one given implementation.
     static R call(IMP implementation, id receiver, SEL selector, Args... args) {
@@ -68,16 +70,20 @@ struct Message<R(Args...)> {
 };
 
 template <class Signature, Literal name>
-constexpr void checkArity() {
+constexpr void checkMessage() {
     static_assert(Selector<name>::arity == Message<Signature>::arity,
                   "the selector's colons and the signature's arguments disagree in number");
+#if defined(OBJC_LEDGER)
+    static_assert(members::isListedMethod(name.chars, Message<Signature>::encoding()),
+                  "no class is listed with this method of these types");
+#endif
 }
 
 /// `receiver` is an id or a handle; what it returns is the signature's result.
 template <class Signature, Literal name, class... Args>
 typename Message<Signature>::Result send(id receiver, Selector<name> selector,
                                          const Args &...args) {
-    checkArity<Signature, name>();
+    checkMessage<Signature, name>();
     return Message<Signature>::send(receiver, selector, args...);
 }
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "objc/Encoding.hpp"
+#include "objc/EncodingText.hpp"
 
 bool isSameText(NSString a, NSString b) {
     if (a.get() == b.get()) {

@@ -15,6 +15,14 @@ struct NSRange {
     bool operator==(const NSRange &) const = default;
 };
 
+/// A text encoding's number, as wide as each Foundation has it.
+#if defined(__APPLE__)
+using NSStringEncoding = NSUInteger;
+#else
+using NSStringEncoding = unsigned;
+#endif
+inline constexpr NSStringEncoding kAsciiEncoding = 1;
+
 /// What a search that found nothing gives as location.
 inline constexpr NSUInteger kNotFound = static_cast<NSUInteger>(~NSUInteger{0} >> 1U);
 

@@ -78,11 +78,10 @@ NSString searchLink(NSString number) {
     if (number.length() == 0) {
         return nullptr;
     }
-    constexpr NSUInteger kAscii = 1;
     const NSString digits =
         ZQPhoneNumberHelper::getDigitNumber(ZQPhoneNumberHelper::trimLeading86(number));
-    const auto keyword = objc::send<NSString(NSUInteger)>(
-        digits, "stringByAddingPercentEscapesUsingEncoding:"_sel, kAscii);
+    const auto keyword = objc::send<NSString(NSStringEncoding)>(
+        digits, "stringByAddingPercentEscapesUsingEncoding:"_sel, kAsciiEncoding);
     return keyword ? format<"http://" ZQDIAL_SEARCH_HOST
                             "/web/searchList.jsp?uID=q-R-MwzzPa7KLcdE&v=5&w=1278&t=1368328313424"
                             "&keyword=%@&pg=webSearchList&s=">(keyword)

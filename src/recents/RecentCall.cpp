@@ -13,14 +13,14 @@ bool RecentCall::isOfContact(bool from80) const {
                                                 : ifKnown<int32_t>(*this, identifier) != 0;
     }
     if (const auto record = "addressBookRecord"_sel; respondsToSelector(record)) {
-        return send<id()>(record) != nullptr;
+        return send<const void *()>(record) != nullptr;
     }
     return ifKnown<id>(*this, "addressBookDestination"_sel) != nullptr;
 }
 
 bool RecentCall::isIncoming(bool from80) const {
-    const auto status =
-        from80 ? ifKnown<int32_t>(*this, "callStatus"_sel) : ifKnown<int32_t>(*this, "type"_sel);
+    const auto status = from80 ? static_cast<int32_t>(ifKnown<uint32_t>(*this, "callStatus"_sel))
+                               : ifKnown<int32_t>(*this, "type"_sel);
     if (ios::isFrom(6.0)) {
         return status == 1 || status == 4 || status == 8;
     }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "hook/Table.hpp"
+#include "objc/EncodingText.hpp"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #import "Rows.h"
 
 /// As the address book keeps it; one made for a call has no record.
-@interface Contact : UIObject {
+@interface CNContact : UIObject {
   @public
     int recordID;
     NSArray *phoneNumbers;
@@ -12,7 +12,7 @@
 }
 @end
 
-Contact *contactWith(NSString *number, int record = -1);
+CNContact *contactWith(NSString *number, int record = -1);
 
 @interface ABContactHeaderView : UIView {
   @public

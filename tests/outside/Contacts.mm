@@ -2,16 +2,16 @@
 #import "Contacts.h"
 
 // Each of its numbers is an entry that gives its value, and so is the contact.
-@implementation Contact
+@implementation CNContact
 - (int)recordID { return recordID; }
 - (NSArray *)phoneNumbers { return phoneNumbers; }
 - (id)value { return self; }
 - (NSString *)formattedStringValue { return number; }
 @end
 
-Contact *contactWith(NSString *number, int record) {
-    Contact *contact = [[[Contact alloc] init] autorelease];
-    Contact *entry = [[[Contact alloc] init] autorelease];
+CNContact *contactWith(NSString *number, int record) {
+    CNContact *contact = [[[CNContact alloc] init] autorelease];
+    CNContact *entry = [[[CNContact alloc] init] autorelease];
     entry->number = number ? [entry own:[number mutableCopy]] : nil;
     contact->recordID = record;
     contact->phoneNumbers = [contact own:[list({entry, @"another"}) retain]];

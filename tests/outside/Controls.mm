@@ -66,5 +66,6 @@
 @end
 
 @implementation UIViewController
+- (UIView *)view { return nil; }
 - (void)viewWillAppear:(BOOL)animated { appeared += animated; }
 @end

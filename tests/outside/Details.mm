@@ -37,7 +37,7 @@ static void checkController() {
     expectSpacer(controller, 71);
     expectEqual(correctLink(), @"zequor://errorCorrect?17700000061/");
 
-    Contact *unnumbered = contactWith(kNumber), *odd = contactWith(kNumber);
+    CNContact *unnumbered = contactWith(kNumber), *odd = contactWith(kNumber);
     unnumbered->phoneNumbers = nil;
     odd->phoneNumbers = list({number(5)});
     for (id contact : {(id)contactWith(kNumber, 0), (id)nil, (id) @"no contact"}) {
@@ -92,7 +92,7 @@ static const Group g_oddities("details, odd answers", k7, checkOddities);
 static void checkGates() {
     [Stage reset];
     [hook() setPhonePureNumber:kPure];
-    Contact *unnumbered = contactWith(kNumber);
+    CNContact *unnumbered = contactWith(kNumber);
     unnumbered->phoneNumbers = list({});
     ABContactHeaderView *edited = headerOf(contactWith(kNumber));
     edited->isEditing = YES;

@@ -1,13 +1,13 @@
 // Somebody else's dialer, and what the add-on does to it.
-#include "Checks.h"
+#import "Rows.h"
 
-@interface DialerNameLine : UIView {
+@interface PHHandsetDialerNameLabelView : UIView {
   @public
     UILabel *offer;
 }
 @end
 
-@implementation DialerNameLine
+@implementation PHHandsetDialerNameLabelView
 - (id)initWithFrame:(CGRect)frame {
     self = [super initWithFrame:frame];
     offer = [self own:[[UILabel alloc] initWithFrame:CGRect{{0, 0}, {320, 25}}]];
@@ -19,7 +19,7 @@
 @interface PHHandsetDialerLCDView : UIView {
   @public
     UILabel *number;
-    DialerNameLine *line;
+    PHHandsetDialerNameLabelView *line;
 }
 @end
 
@@ -27,14 +27,23 @@
 - (id)initWithFrame:(CGRect)frame {
     self = [super initWithFrame:frame];
     number = [self own:[[UILabel alloc] initWithFrame:CGRect{{0, 0}, {320, 46}}]];
-    line = [self own:[[DialerNameLine alloc] initWithFrame:CGRect{{0, 48}, {320, 25}}]];
+    line = [self own:[[PHHandsetDialerNameLabelView alloc] initWithFrame:CGRect{{0, 48}, {320, 25}}]];
     return self;
 }
 - (UILabel *)numberLabel { return number; }
-- (DialerNameLine *)nameAndLabelView { return line; }
+- (PHHandsetDialerNameLabelView *)nameAndLabelView { return line; }
 - (void)setName:(NSString *)name numberLabel:(NSString *)label {
     [line->offer setText:@"+ 添加到通讯录"];
 }
+@end
+
+@interface DialerController : PhoneViewController
+- (void)newPersonViewController:(id)controller didCompleteWithNewPerson:(void *)person;
+@end
+
+@implementation DialerController
+- (void)viewWillDisappear:(BOOL)animated {}
+- (void)newPersonViewController:(id)controller didCompleteWithNewPerson:(void *)person {}
 @end
 
 static PHHandsetDialerLCDView *newDisplay() {

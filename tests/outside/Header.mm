@@ -153,7 +153,7 @@ static const Group g_texts("header, texts", kPhone, checkTexts);
 static void checkForeign() {
     [Stage reset];
     for (NSString *number : {(id)kNumber, (id) @"0044 20"}) {
-        Contact *contact = contactWith(number);
+        CNContact *contact = contactWith(number);
         [hook() updatePhoneNumberFromContact:contact];
         ABContactHeaderView *header = headerOf(contact);
         [header->_taglineLabel setText:@"手机"];

@@ -21,7 +21,7 @@ void end(TUTelephonyCall *call);
 /// Either of a display's texts.
 @interface TPLCDTextView : UIView {
     NSString *_text;
-    float _fontSize;
+    CGFloat _fontSize;
   @public
     BOOL centred;
 }
@@ -31,7 +31,10 @@ void end(TUTelephonyCall *call);
 @end
 
 /// Both displays have the same parts, and lay them out as if nobody else did.
-@interface TPLCDView : UIView {
+@interface TPLCDBar : UIView
+@end
+
+@interface TPLCDView : TPLCDBar {
   @public
     TPLCDTextView *_textView, *_labelView;
     UIView *_imageView, *_contentView;

@@ -2,8 +2,9 @@
 #import "InCall.h"
 
 @implementation TUTelephonyCall
-- (id)initWithCall:(NSDictionary *)call {
+- (id)initWithCall:(const void *)begun {
     self = [super init];
+    NSDictionary *call = (NSDictionary *)begun;
     number = [self own:[[call objectForKey:@"number"] copy]];
     contact = [[call objectForKey:@"contact"] intValue];
     isOutgoing = [[call objectForKey:@"outgoing"] boolValue];
@@ -17,7 +18,7 @@
 @end
 
 @interface InCallController : UIObject {
-    NSInteger _currentCallCount;
+    unsigned _currentCallCount;
   @public
     int heard;
 }
@@ -51,6 +52,9 @@
 - (void)setLCDTextFont:(UIFont *)font {}
 @end
 
+@implementation TPLCDBar
+@end
+
 @implementation TPLCDView
 - (id)initWithFrame:(CGRect)frame {
     self = [super initWithFrame:frame];
@@ -74,6 +78,14 @@
 @end
 
 @implementation InCallLCDField
+@end
+
+@interface TPWallpaperView : UIView
+- (void)setContactImage:(UIImage *)image animated:(BOOL)animated;
+@end
+
+@implementation TPWallpaperView
+- (void)setContactImage:(UIImage *)image animated:(BOOL)animated {}
 @end
 
 TUTelephonyCall *begin(NSString *number, BOOL outgoing, int contact) {
@@ -118,6 +130,11 @@ static void checkView() {
     expectEqual(display->_textView->centred, YES);
     [display layoutSubviews];
     expectEqual(display->_textView->centred, isRun(k71));
+    [display->_contentView addSubview:display->_textView];  // some keep their texts there
+    [display->_textView setCenterText:YES];
+    [display layoutSubviews];
+    expectEqual(display->_textView->centred, isRun(k71));
+    [display addSubview:display->_textView];
     expectEqual(picture(display), @"0(0 20 320 96) 0(20 12 280 42) 0(20 54 280 21)");
     end(call);
     [display layoutSubviews];

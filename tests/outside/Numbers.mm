@@ -143,7 +143,7 @@ CLASS(ZQSystemHistoryService)
     static ZQSystemHistoryService *service = [[self alloc] init];
     return answer(_cmd, service);
 }
-- (NSArray *)getAllCallHistoryByPhoneNumber:(NSString *)number fromRecentCalls:(int)count {
+- (NSArray *)getAllCallHistoryByPhoneNumber:(NSString *)number fromRecentCalls:(NSInteger)count {
     return answer(_cmd, count == 100 ? [Stage told:@"history" of:number] : nil, number);
 }
 @end
@@ -180,7 +180,7 @@ static id g_delegate;
 // The label and the direction of the call.
 + (NSString *)getFormattedInfoFromNumIdentity:(ZQNumberIdentity *)identity
                                   displayType:(int)displayType
-                                callDirection:(int)direction
+                                callDirection:(NSInteger)direction
                                  originalInfo:(NSString *)info {
     BOOL asExpected = identity && displayType == 2 && !info;
     NSString *text = [NSString stringWithFormat:@"%@ %d", [identity identity], direction];

@@ -80,7 +80,7 @@ static void checkGeometry() {
 
     PHRecentsCell *bare = rowOf(callFrom(kNumber));
     bare->_callerLabelLabel = nil;
-    bare->_callerDateLabel = (DateLabel *)[[[NSObject alloc] init] autorelease];
+    bare->_callerDateLabel = (UIDateLabel *)[[[NSObject alloc] init] autorelease];
     expectQuiet([&] { [bare layoutSubviews]; });
     bare->_callerDateLabel = nil;
     [bare layoutSubviews];

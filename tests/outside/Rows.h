@@ -8,7 +8,7 @@
 static NSString *const kNumber = @"020-0000 0001";
 static NSString *const kPure = @"02000000001";
 
-/// A recent call as the running system keeps it.
+/// A recent call, of the class that the running system keeps it in.
 @interface RecentCall : UIObject {
   @public
     NSDate *date;
@@ -24,7 +24,7 @@ RecentCall *contactCallFrom(NSString *number);
 /// A call that raises when it is asked for its date.
 RecentCall *faultyCall();
 
-@interface DateLabel : UILabel {
+@interface UIDateLabel : UILabel {
   @public
     NSString *timeDesignator;
 }
@@ -34,7 +34,7 @@ RecentCall *faultyCall();
   @public
     RecentCall *call;
     UILabel *_callerLabelLabel;
-    DateLabel *_callerDateLabel;
+    UIDateLabel *_callerDateLabel;
     BOOL raises, writesOnce;  // its own line, when it is given a call, or in each layout
     int edits;
     // There while it is swiped:

@@ -3,7 +3,6 @@
 
 #import "Rows.h"
 
-// Of the two systems' accessors, those of the other one say nothing.
 @implementation RecentCall
 - (NSDate *)date {
     if (fails) {
@@ -11,18 +10,35 @@
     }
     return date;
 }
-- (id)addressBookRecord { return isContact && !isNewer() ? self : nil; }
-- (int)type { return isNewer() ? 0 : status; }
-- (NSString *)destination { return isNewer() ? nil : number; }
-- (NSString *)addressBookRecordId { return isContact && isNewer() ? @"-7" : nil; }
-- (int)callStatus { return isNewer() ? status : 0; }
-- (NSString *)callerId { return isNewer() ? number : nil; }
+@end
+
+@interface PHRecentCall : RecentCall
+@end
+
+@implementation PHRecentCall
+- (const void *)addressBookRecord { return isContact ? self : nil; }
+- (int)type { return status; }
+- (NSString *)destination { return number; }
+@end
+
+@interface CHRecentCall : RecentCall
+@end
+
+@implementation CHRecentCall
+// Nobody looks into it. Where addresses have 64 bits, the lower half of this one is zero.
+- (NSString *)addressBookRecordId {
+    const uintptr_t kAddress = UINTPTR_MAX - (sizeof(id) == 8 ? UINT32_MAX : 15);
+    return isContact ? (NSString *)kAddress : nil;
+}
+- (unsigned)callStatus { return status; }
+- (NSString *)callerId { return number; }
 @end
 
 NSDate *dateAt(double seconds) { return [NSDate dateWithTimeIntervalSince1970:seconds]; }
 
 RecentCall *callFrom(NSString *number, double seconds, int status) {
-    RecentCall *call = [[[RecentCall alloc] init] autorelease];
+    Class cls = isNewer() ? [CHRecentCall class] : [PHRecentCall class];
+    RecentCall *call = [[[cls alloc] init] autorelease];
     call->number = number ? [call own:[number mutableCopy]] : nil;
     call->date = [call own:[dateAt(seconds) retain]];
     call->status = status;
@@ -41,7 +57,7 @@ RecentCall *faultyCall() {
     return call;
 }
 
-@implementation DateLabel
+@implementation UIDateLabel
 - (NSString *)timeDesignator { return timeDesignator; }
 @end
 
@@ -83,7 +99,7 @@ static id g_place;
     _callerLabelLabel = [self own:[[UILabel alloc] init]];
     [_callerLabelLabel setFont:[UIFont systemFontOfSize:CGFloat(11.66)]];
     [_callerLabelLabel setTextColor:rgb(127, 127, 127)];
-    _callerDateLabel = [self own:[[DateLabel alloc] init]];
+    _callerDateLabel = [self own:[[UIDateLabel alloc] init]];
     [_callerDateLabel setFont:[UIFont systemFontOfSize:CGFloat(10.1)]];
     [_callerDateLabel setText:@"昨天下午"];
     [contentView addSubview:_callerLabelLabel];

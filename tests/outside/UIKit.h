@@ -122,7 +122,7 @@ extern std::function<void()> g_onText;
 @property(nonatomic) UIEdgeInsets contentInset;
 @end
 
-@interface UITableView : UIView {
+@interface UITableView : UIScrollView {
   @public
     int reloads;
 }
@@ -142,6 +142,7 @@ extern std::function<void()> g_onText;
   @public
     int appeared;
 }
+- (UIView *)view;
 - (void)viewWillAppear:(BOOL)animated;
 @end
 

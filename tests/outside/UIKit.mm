@@ -39,6 +39,9 @@ const std::string &wokenClasses() { return g_woken; }
     std::copy_n(components, 4, color->_components);
     return color;
 }
++ (id)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha {
+    return [self colorWithRed:white green:white blue:white alpha:alpha];
+}
 + (id)clearColor { return [self colorWithRed:0 green:0 blue:0 alpha:0]; }
 + (id)whiteColor { return [self colorWithRed:1 green:1 blue:1 alpha:1]; }
 + (id)blackColor { return [self colorWithRed:0 green:0 blue:0 alpha:1]; }
@@ -110,6 +113,8 @@ const std::string &wokenClasses() { return g_woken; }
     [_backgroundColor release];
     [super dealloc];
 }
+- (CGRect)bounds { return CGRect{{0, 0}, _frame.size}; }
+- (CGSize)intrinsicContentSize { return CGSize{-1, -1}; }
 - (void)addSubview:(UIView *)view {
     if (view && !keepsNothing) {
         [[view retain] removeFromSuperview];
