@@ -42,11 +42,11 @@ set(stubSuffix_armv7 yaml)
 # What a source depends on beside the headers that its compilation names.
 file(GLOB_RECURSE sysroot CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/sysroot/*.h")
 
-# zqdial_device_object(<result variable> <slice> <source below src/>)
+# zqdial_device_object(<result variable> <slice> <source below the root>)
 # The object file of one source. The names of its headers come back by a dependency file.
 function(zqdial_device_object result slice source)
-    set(input "${SOURCE_ROOT}/src/${source}")
-    set(object "${CMAKE_CURRENT_BINARY_DIR}/${slice}/src/${source}.o")
+    set(input "${SOURCE_ROOT}/${source}")
+    set(object "${CMAKE_CURRENT_BINARY_DIR}/${slice}/${source}.o")
     get_filename_component(folder "${object}" DIRECTORY)
     file(MAKE_DIRECTORY "${folder}")
     set(compile "${CLANG}" ${targetOptions_${slice}} ${compileOptions}
@@ -65,24 +65,26 @@ function(zqdial_device_object result slice source)
     add_custom_command(OUTPUT "${object}" ${commands}
         DEPENDS "${input}" ${sysroot} ${changes}
         DEPFILE "${object}.d"
-        COMMENT "${slice}: src/${source}"
+        COMMENT "${slice}: ${source}"
         VERBATIM)
     set(${result} "${object}" PARENT_SCOPE)
 endfunction()
 
-# zqdial_device_stubs(<result variable> <slice>)
-# The stubs that a slice is linked against, in the order of the list of foreign symbols, which becomes
-# the order of the library's load commands.
-function(zqdial_device_stubs result slice)
-    set(folder "${CMAKE_CURRENT_BINARY_DIR}/${slice}/stubs")
+# zqdial_device_stubs(<result variable> <slice> <list of foreign symbols> <folder>)
+# The stubs that a slice is linked against, in the order of the list, which becomes the order of the
+# load commands.
+function(zqdial_device_stubs result slice list folder)
+    set(folder "${CMAKE_CURRENT_BINARY_DIR}/${slice}/${folder}")
     set(stubs)
+    file(STRINGS "${list}" foreignImages REGEX "^/")
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${list}")
     foreach(image IN LISTS foreignImages)
         get_filename_component(name "${image}" NAME)
         list(APPEND stubs "${folder}/${name}.${stubSuffix_${slice}}")
     endforeach()
     add_custom_command(OUTPUT ${stubs}
-        COMMAND ${RUN_PYTHON} "${TOOLS}/make_stubs.py" "${IMPORTS}" ${slice} "${folder}"
-        DEPENDS "${IMPORTS}" "${TOOLS}/make_stubs.py" "${TOOLS}/imports.py"
+        COMMAND ${RUN_PYTHON} "${TOOLS}/make_stubs.py" "${list}" ${slice} "${folder}"
+        DEPENDS "${list}" "${TOOLS}/make_stubs.py" "${TOOLS}/imports.py"
         COMMENT "${slice}: stubs of the foreign images"
         VERBATIM)
     set(${result} ${stubs} PARENT_SCOPE)
@@ -95,10 +97,10 @@ function(zqdial_device_slice result slice)
     set(folder "${CMAKE_CURRENT_BINARY_DIR}/${slice}")
     set(objects)
     foreach(source IN LISTS ZQDIAL_BRIDGE_SOURCES ZQDIAL_ADDON_SOURCES)
-        zqdial_device_object(object ${slice} ${source})
+        zqdial_device_object(object ${slice} src/${source})
         list(APPEND objects "${object}")
     endforeach()
-    zqdial_device_stubs(stubs ${slice})
+    zqdial_device_stubs(stubs ${slice} "${IMPORTS}" stubs)
 
     set(checked "${folder}/imports.checked")
     add_custom_command(OUTPUT "${checked}"

@@ -76,7 +76,7 @@ def main() -> int:
     parser.add_argument("linked", type=Path, help="the slice as the linker left it")
     parser.add_argument("finished", type=Path, help="where the finished slice goes")
     parser.add_argument("--architecture", required=True, choices=("armv7", "arm64"))
-    parser.add_argument("--init", required=True, help="symbol of the init routine")
+    parser.add_argument("--init", help="symbol of the init routine, if there is one")
     parser.add_argument("--identifier", required=True, help="the signature's identifier")
     parser.add_argument("--root", type=Path, required=True, help="folder that holds src/")
     arguments = parser.parse_args()
@@ -84,7 +84,8 @@ def main() -> int:
         image = Image(arguments.linked.read_bytes())
         image.remove(mach_image.LC_RPATH)
         name_build(image, arguments.architecture, arguments.root)
-        name_init_routine(image, arguments.init)
+        if arguments.init:
+            name_init_routine(image, arguments.init)
         discard_local_symbols(image)
         sign(image, arguments.identifier)
         arguments.finished.write_bytes(image.data)

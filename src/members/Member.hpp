@@ -44,7 +44,9 @@ struct Member {
 
     constexpr bool isVariable() const { return !name.starts_with('-') && !name.starts_with('+'); }
     constexpr bool isOfClass() const { return name.starts_with('+'); }
-    constexpr std::string_view selector() const { return isVariable() ? name : name.substr(1); }
+    constexpr std::string_view selector() const {
+        return isVariable() ? name : std::string_view(name.data() + 1, name.size() - 1);
+    }
 };
 
 }  // namespace members
