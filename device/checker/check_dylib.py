@@ -7,10 +7,13 @@ from collections.abc import Callable, Iterator, Sequence
 from pathlib import Path
 
 from checker import code_checks, command_checks, layout_checks
-from checker import pointer_checks, signature_checks, symbol_checks
+from checker import pointer_checks, registered_checks, signature_checks, symbol_checks
+from checker import unwind_checks
 from checker.bounded import BadImage, Block
 from checker.contract import ARCHS, BadContract, Contract, load
+from checker.exception_tables import read_tables
 from checker.fat_checks import arch_of, check_fat
+from checker.functions import function_starts
 from checker.macho import FatEntry, Slice, fat_entries
 from checker.report import DAMAGED, REBUILD, Problem, collected, print_problems
 
@@ -32,11 +35,14 @@ CHECKS: tuple[Callable[[Slice, Contract], Iterator[Problem]], ...] = (
     symbol_checks.check_binds,
     code_checks.check_branches,
     pointer_checks.check_places,
-    pointer_checks.check_targets,
+    pointer_checks.check_slid,
     pointer_checks.check_slots,
     pointer_checks.check_lazy,
     pointer_checks.check_helper,
     pointer_checks.check_stubs,
+    unwind_checks.check_frames,
+    unwind_checks.check_tables,
+    registered_checks.check_tables,
     signature_checks.check_signature,
 )
 
@@ -56,6 +62,8 @@ def summary(image: Slice) -> str:
         f"{len(image.exports())} exports",
         f"{len(symbol_checks.undefined(image))} imports bound",
         f"{len(image.rebases())} pointers slid",
+        *([f"{len(function_starts(image))} functions unwound"] if image.wide else []),
+        f"{len(list(read_tables(image)))} exception tables",
         f"{sum(sizes.values())} bytes of code and data",
         f"{signature_checks.page_count(image)} pages hashed",
         f"cdhash {signature_checks.code_directory_hash(image)}",

@@ -5,15 +5,14 @@ import bisect
 import struct
 from collections.abc import Iterator
 
-from checker.bounded import Block, Cursor
 from checker.contract import Contract
-from checker.macho import LC_DATA_IN_CODE, LC_FUNCTION_STARTS, Slice, body
+from checker.functions import CODE, WORD, data_in_code, function_starts
+from checker.macho import Slice
 from checker.records import Section
 from checker.report import MEND_BUILD, Problem
 from checker.stubs import signed
 
-CODE, STUBS = ("__TEXT", "__text"), ("__TEXT", "__stubs")
-WORD = 4
+STUBS = ("__TEXT", "__stubs")
 # armv7: how far ahead of an instruction its pc reads.
 ARMV7_PC_AHEAD = 8
 ARMV7_ALWAYS_AND_MORE = 0xF  # in place of a condition: not a plain branch
@@ -43,47 +42,20 @@ def check_branches(image: Slice, _: Contract) -> Iterator[Problem]:
             yield Problem(f"{here} leads into another function, to {target:#x}", MEND_BUILD)
 
 
-def function_starts(image: Slice) -> list[int]:
-    """Returns the addresses at which functions begin, in order; empty without the table."""
-    starts: list[int] = []
-    address = image.segments[0].address if image.segments else 0
-    for command in image.commands_of(LC_FUNCTION_STARTS):
-        offset, size = body(command).numbers("<2I", 8)
-        cursor = Cursor(Block(image.block.take(offset, size), "the table of function starts"))
-        while not cursor.at_end():
-            step = cursor.unsigned()
-            if not step:  # the end, and what fills the table up
-                break
-            address += step
-            starts.append(address)
-    return starts
-
-
 def _function(starts: list[int], address: int, target: int) -> bool:
     """Tells whether two addresses lie in different functions."""
     return bisect.bisect_right(starts, address) != bisect.bisect_right(starts, target)
-
-
-def _data_in_code(image: Slice) -> Iterator[tuple[int, int]]:
-    """Yields the ranges of the file, as offset and end, that are data amid the code."""
-    for command in image.commands_of(LC_DATA_IN_CODE):
-        offset, size = body(command).numbers("<2I", 8)
-        for at in range(0, size - size % 8, 8):
-            start, length, _ = struct.unpack("<IHH", image.block.take(offset + at, 8))
-            yield start, start + length
 
 
 def _branches(image: Slice, code: Section) -> Iterator[tuple[int, int, bool]]:
     """Yields address and target of every direct branch, and whether it is a call."""
     decode = _arm64_branch if image.wide else _armv7_branch
     content = image.content(code)
-    data = {at for start, end in _data_in_code(image) for at in range(start, end, WORD)}
+    data = {at for d in data_in_code(image) for at in range(d.start, d.end, WORD)}
     for index, (word,) in enumerate(struct.iter_unpack("<I", content[: len(content) & -WORD])):
-        if code.offset + WORD * index in data:
-            continue
-        branch = decode(word)
+        address = code.address + WORD * index
+        branch = None if address in data else decode(word)
         if branch:
-            address = code.address + WORD * index
             distance, is_call = branch
             yield address, address + distance, is_call
 

@@ -21,10 +21,13 @@ READ, WRITE, EXECUTE = 1, 2, 4
 # The segments in order, each with its protection.
 SEGMENTS = {"__TEXT": READ | EXECUTE, "__DATA": READ | WRITE, "__LINKEDIT": READ}
 PAGE_SIZES = {"armv7": 0x1000, "arm64": 0x4000}
+# The signature's room in memory is made of these in either slice.
+LARGEST_PAGE = 0x4000
 MEASURED = ("__TEXT", "__DATA")
 LARGEST_SHOWN = 4
 MOST_ALIGNMENT = 14
 SIGNATURE = "code signature"
+TABLE_ALIGNMENTS = {SIGNATURE: 16}
 
 NO_RUN = "nothing but ZQDialMain may run at load: take the global object out of src/"
 NO_CLASSES = "build classes at run time: no Objective-C metadata may be compiled in"
@@ -52,15 +55,15 @@ FORBIDDEN_TYPES = {
 
 
 def check_segments(image: Slice, _: Contract) -> Iterator[Problem]:
-    """Checks the segments' names, order, protection and ranges."""
+    """Checks the segments' names, order and protection, and that no hole is between them."""
     names = [segment.name for segment in image.segments]
     if names != list(SEGMENTS):
         yield Problem(f"its segments are {', '.join(names)}, not {', '.join(SEGMENTS)}", MEND_BUILD)
     for segment in image.segments:
         yield from _check_segment(image, segment)
     for before, after in pairwise(image.segments):
-        if before.address + before.size > after.address:
-            yield Problem(f"{after.name} begins inside {before.name} in memory", MEND_BUILD)
+        if before.address + before.size != after.address:
+            yield Problem(f"{after.name} does not follow {before.name} in memory", MEND_BUILD)
         if before.file_offset + before.file_size != after.file_offset:
             what = f"{after.name} does not follow {before.name} in the file"
             yield Problem(what, MEND_BUILD)
@@ -83,26 +86,43 @@ def _check_segment(image: Slice, segment: Segment) -> Iterator[Problem]:
         yield Problem(f"{segment.name} has the protection {values}", MEND_BUILD)
     if segment.address % page or segment.file_offset % page or segment.size % page:
         yield Problem(f"{segment.name} is not made of whole pages of {page} bytes", MEND_BUILD)
-    if segment.file_size > segment.size:
-        yield Problem(f"{segment.name} is larger in the file than in memory", MEND_BUILD)
+    sizes = (segment.size, segment.file_size)
+    if sizes != _whole_pages(image, segment):
+        what = f"{segment.name} takes {sizes[0]:#x} bytes, {sizes[1]:#x} in the file"
+        yield Problem(f"{what}: not the whole pages of what is in it", MEND_BUILD)
     if segment.file_offset + segment.file_size > len(image.data):
         yield Problem(f"{segment.name} reaches beyond the slice", MEND_BUILD)
     if segment.flags:
         yield Problem(f"{segment.name} has the flags {segment.flags:#x}", MEND_BUILD)
 
 
+def _whole_pages(image: Slice, segment: Segment) -> tuple[int, int]:
+    """Returns a segment's size in memory and in the file as its content makes them."""
+    page = PAGE_SIZES[image.arch]
+    if not segment.sections:  # the tables, whose end check_segments compares with the slice's
+        return _up_to(LARGEST_PAGE, segment.file_size), segment.file_size
+    ends = [(s.address + s.size - segment.address, s.zero_fill) for s in segment.sections]
+    in_file = max((end for end, zero_fill in ends if not zero_fill), default=0)
+    return _up_to(page, max(end for end, _ in ends)), _up_to(page, in_file)
+
+
+def _up_to(unit: int, size: int) -> int:
+    """Returns a size that is filled up to whole units."""
+    return -(-size // unit) * unit
+
+
 def check_sections(image: Slice, _: Contract) -> Iterator[Problem]:
-    """Checks that the sections lie in their segments and apart from each other."""
+    """Checks that the sections follow each other in their segments as their alignment lets them."""
     end = image.header_size + sum(len(command.data) for command in image.commands)
     for segment in image.segments:
         for section in segment.sections:
             yield from _check_section(image, segment, section)
-        ordered = sorted(segment.sections, key=lambda section: section.address)
-        for before, after in pairwise(ordered):
-            if before.address + before.size > after.address:
-                yield Problem(f"{after.name} begins inside {before.name}", MEND_BUILD)
-        if ordered and segment.file_offset == 0 and ordered[0].offset < end:
-            yield Problem(f"{ordered[0].name} begins inside the load commands", MEND_BUILD)
+        for before, after in pairwise(segment.sections):
+            if _up_to(1 << after.alignment, before.address + before.size) != after.address:
+                yield Problem(f"{after.name} does not follow {before.name}", MEND_BUILD)
+        first = segment.sections[0] if segment.sections else None
+        if first and segment.file_offset == 0 and first.offset < end:
+            yield Problem(f"{first.name} begins inside the load commands", MEND_BUILD)
 
 
 def _check_section(image: Slice, segment: Segment, section: Section) -> Iterator[Problem]:
@@ -135,17 +155,19 @@ def check_kinds(image: Slice, _: Contract) -> Iterator[Problem]:
 
 
 def check_tables(image: Slice, _: Contract) -> Iterator[Problem]:
-    """Checks that the tables lie apart inside __LINKEDIT and that the signature is the last."""
+    """Checks that the tables fill __LINKEDIT without a hole and that the signature is the last."""
     linkedit = image.segment("__LINKEDIT")
     if not linkedit:
         return
     tables = sorted(table for table in _tables(image) if table[1])
+    end, before = linkedit.file_offset, linkedit.name
     for offset, size, name in tables:
-        if offset < linkedit.file_offset or offset + size > len(image.data):
-            yield Problem(f"the {name} lies outside __LINKEDIT", MEND_BUILD)
-    for (offset, size, before), (start, _size, after) in pairwise(tables):
-        if offset + size > start:
-            yield Problem(f"the {after} begins inside the {before}", MEND_BUILD)
+        if offset != _up_to(TABLE_ALIGNMENTS.get(name, 1), end):
+            where = f"at {offset:#x}, {before} ends at {end:#x}"
+            yield Problem(f"the {name} does not follow what is before it: {where}", MEND_BUILD)
+        end, before = offset + size, f"the {name}"
+    if end != len(image.data):
+        yield Problem(f"the {SIGNATURE} ends at {end:#x}, not with the slice", MEND_BUILD)
     if tables and tables[-1][2] != SIGNATURE:
         yield Problem("the code signature is not the last thing in the slice", MEND_BUILD)
 

@@ -1,17 +1,18 @@
 """Checks of the pointers that the loader fills or slides, and of the stubs that jump through them.
 A pointer that the linker lost would otherwise show only on the device, as a jump to nowhere."""
 
+import struct
 from collections import Counter
 from collections.abc import Iterator
 
 from checker.contract import Contract
+from checker.functions import CODE, function_starts
 from checker.macho import Slice
-from checker.records import Section
+from checker.records import Section, Segment
 from checker.report import MEND_BUILD, Problem
 from checker.stubs import STUB_BINDER, STUB_SIZES, helper_offset, helper_words, stub_pointer
 
 NON_LAZY_POINTERS, LAZY_POINTERS, STUBS = 0x6, 0x7, 0x8
-INSTRUCTIONS = 0x80000400
 LOCAL_SYMBOL = 0x80000000
 WRITABLE = 2
 # Words that the armv7 build names itself, since its linker loses the bindings of unnamed ones.
@@ -42,20 +43,43 @@ def _twice(addresses: list[int]) -> list[int]:
     return [address for address, count in Counter(addresses).items() if count > 1]
 
 
-def check_targets(image: Slice, _: Contract) -> Iterator[Problem]:
-    """Checks that what slides points into a section of the image, at whole instructions in code."""
-    for address in image.rebases():
-        target = image.word(address)
-        if target is None:
-            yield Problem(f"the pointer at {address:#x} slides without a value", MEND_BUILD)
+def check_slid(image: Slice, _: Contract) -> Iterator[Problem]:
+    """Checks that what slides is every word of the data that leads into the image, and no other.
+
+    The image begins at 0, so a large number could be taken for an address. Where it lies beside
+    pointers, in the data, that number must move to a table of its own, which goes to __TEXT.
+    """
+    slid, eager = set(image.rebases()), {b.address for b in image.binds() if b.kind != "lazy"}
+    beginnings = set(function_starts(image))
+    pointers = set()
+    for segment in image.segments:
+        if not segment.protection & WRITABLE:
             continue
-        near = [s for s in image.sections if s.address <= target <= s.address + s.size]
-        inside = [section for section in near if section.holds(target)]
-        if not near:
-            yield Problem(f"the pointer at {address:#x} leads out, to {target:#x}", MEND_BUILD)
-        elif inside and inside[0].flags & INSTRUCTIONS and target % 4:
-            what = f"the pointer at {address:#x} leads to the odd code address {target:#x}"
-            yield Problem(what, "compile for armv7 with -marm")
+        for address, value in _words(image, segment):
+            if address not in eager and _leads_in(image, value, beginnings):
+                pointers.add(address)
+                if address not in slid:
+                    what = f"the pointer at {address:#x} to {value:#x} does not slide"
+                    yield Problem(what, f"{MEND_BUILD}, or keep such numbers apart from pointers")
+    for address in sorted(slid - pointers):
+        target = image.word(address)
+        where = "without a value" if target is None else f"to {target:#x}, where nothing begins"
+        yield Problem(f"the pointer at {address:#x} slides {where}", MEND_BUILD)
+
+
+def _words(image: Slice, segment: Segment) -> Iterator[tuple[int, int]]:
+    """Yields address and value of every aligned word of a segment that the file holds."""
+    content = image.block.take(segment.file_offset, segment.file_size & -image.pointer_size)
+    words = struct.iter_unpack("<Q" if image.wide else "<I", content)
+    for index, (value,) in enumerate(words):
+        yield segment.address + index * image.pointer_size, value
+
+
+def _leads_in(image: Slice, value: int, beginnings: set[int]) -> bool:
+    """Tells whether a word can be an address: where a function begins, or, outside of the code, at
+    any byte of a section or at its end."""
+    others = (s for s in image.sections if (s.segment, s.name) != CODE)
+    return value in beginnings or any(s.address <= value <= s.address + s.size for s in others)
 
 
 def check_slots(image: Slice, _: Contract) -> Iterator[Problem]:
