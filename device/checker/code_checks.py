@@ -5,22 +5,18 @@ import bisect
 import struct
 from collections.abc import Iterator
 
+from checker.branches import WORD, branch
 from checker.contract import Contract
-from checker.functions import CODE, WORD, data_in_code, function_starts
+from checker.functions import CODE, data_in_code, function_starts
 from checker.macho import Slice
 from checker.records import Section
 from checker.report import MEND_BUILD, Problem
-from checker.stubs import signed
-
-STUBS = ("__TEXT", "__stubs")
-# armv7: how far ahead of an instruction its pc reads.
-ARMV7_PC_AHEAD = 8
-ARMV7_ALWAYS_AND_MORE = 0xF  # in place of a condition: not a plain branch
+from checker.stubs import STUB_SECTION
 
 
 def check_branches(image: Slice, _: Contract) -> Iterator[Problem]:
     """Checks that calls lead to the beginning of a function or to a stub, jumps into either."""
-    code, stubs = image.section(*CODE), image.section(*STUBS)
+    code, stubs = image.section(*CODE), image.section(*STUB_SECTION)
     if code is None or stubs is None:
         yield Problem("it has no code, or no stubs", MEND_BUILD)
         return
@@ -49,28 +45,10 @@ def _function(starts: list[int], address: int, target: int) -> bool:
 
 def _branches(image: Slice, code: Section) -> Iterator[tuple[int, int, bool]]:
     """Yields address and target of every direct branch, and whether it is a call."""
-    decode = _arm64_branch if image.wide else _armv7_branch
     content = image.content(code)
     data = {at for d in data_in_code(image) for at in range(d.start, d.end, WORD)}
     for index, (word,) in enumerate(struct.iter_unpack("<I", content[: len(content) & -WORD])):
         address = code.address + WORD * index
-        branch = None if address in data else decode(word)
-        if branch:
-            distance, is_call = branch
-            yield address, address + distance, is_call
-
-
-def _armv7_branch(word: int) -> tuple[int, bool] | None:
-    if word >> 25 & 7 != 5 or word >> 28 == ARMV7_ALWAYS_AND_MORE:
-        return None
-    return ARMV7_PC_AHEAD + WORD * signed(word, 24), bool(word >> 24 & 1)
-
-
-def _arm64_branch(word: int) -> tuple[int, bool] | None:
-    if word >> 26 & 0x1F == 0x05:  # b, bl
-        return WORD * signed(word, 26), bool(word >> 31)
-    if word >> 24 == 0x54 or word >> 25 & 0x3F == 0x1A:  # on a condition, on a register being zero
-        return WORD * signed(word >> 5, 19), False
-    if word >> 25 & 0x3F == 0x1B:  # on a bit
-        return WORD * signed(word >> 5, 14), False
-    return None
+        found = None if address in data else branch(image.wide, word)
+        if found:
+            yield address, address + found.distance, found.is_call

@@ -127,8 +127,8 @@ class _Reader:
             seen.add(position)
             cursor = Cursor(self.block, position)
             clause = cursor.signed()
-            if clause < 0:
-                raise self.broken("has a list of allowed types")
+            if clause <= 0:
+                raise self.broken("has a clause that does not catch")
             clauses = max(clauses, clause)
             before_next = cursor.position
             distance = cursor.signed()

@@ -5,10 +5,10 @@ from collections.abc import Iterator
 from dataclasses import dataclass
 
 from checker.bounded import BadImage, Block, Cursor
+from checker.branches import WORD
 from checker.macho import LC_DATA_IN_CODE, LC_FUNCTION_STARTS, Slice, body
 
 CODE = ("__TEXT", "__text")
-WORD = 4
 
 
 @dataclass(frozen=True)

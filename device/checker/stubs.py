@@ -4,6 +4,7 @@ from checker.macho import Slice
 from checker.records import Section
 
 HELPER_SECTION = ("__TEXT", "__stub_helper")
+STUB_SECTION = ("__TEXT", "__stubs")
 STUB_BINDER = "dyld_stub_binder"
 STUB_SIZES = {"armv7": 16, "arm64": 12}
 
@@ -59,6 +60,17 @@ def stub_pointer(image: Slice, section: Section, address: int) -> int | None:
         target = (address + ARMV7_PC_IN_STUB + words[3]) & 0xFFFFFFFF
         return target if words[:3] == ARMV7_STUB else None
     return _loaded_from(words, address) if _matches(words, ARM64_STUB) else None
+
+
+def stub_names(image: Slice) -> dict[int, str]:
+    """Returns the symbol that each stub jumps to, by the stub's address."""
+    section, size = image.section(*STUB_SECTION), STUB_SIZES[image.arch]
+    if section is None:
+        return {}
+    symbols = {bind.address: bind.symbol for bind in image.binds()}
+    stubs = range(section.address, section.address + section.size, size)
+    pointers = {stub: stub_pointer(image, section, stub) for stub in stubs}
+    return {stub: symbols[at] for stub, at in pointers.items() if at is not None and at in symbols}
 
 
 def helper_words(image: Slice) -> tuple[int, int] | None:

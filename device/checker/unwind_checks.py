@@ -6,22 +6,16 @@ from collections.abc import Iterator
 from itertools import pairwise
 
 from checker import frames
+from checker.branches import ARM64_CALL_BY_REGISTER, WORD, branch, leaves, matches
 from checker.contract import Contract
 from checker.exception_tables import Site, read_tables
-from checker.functions import WORD, Function, read_functions
+from checker.functions import Function, read_functions
+from checker.landing_pads import LandingPads
 from checker.macho import Slice
 from checker.report import MEND_BUILD, Problem
 from checker.unwind_index import PLACE, Entry, Index, read_index
 
 PERSONALITY = "___gxx_personality_v0"
-# Instructions by which code leaves for elsewhere: masks and values.
-CALLS = ((0xFC000000, 0x94000000), (0xFFFFFC1F, 0xD63F0000))  # bl, blr
-LEAVES = (
-    (0x7C000000, 0x14000000),  # b, or bl to what does not return
-    (0xFFFFFC1F, 0xD61F0000),  # br
-    (0xFFFFFC1F, 0xD65F0000),  # ret
-    (0xFFE0001F, 0xD4200000),  # brk
-)
 
 
 def check_frames(image: Slice, _: Contract) -> Iterator[Problem]:
@@ -59,9 +53,10 @@ def check_tables(image: Slice, _: Contract) -> Iterator[Problem]:
         return
     functions = {function.start: function for function in read_functions(image)}
     yield from _check_owners(image, index, functions)
+    pads = LandingPads(image)
     for (start, _table), table in zip(index.tables, tables):
         if start in functions:
-            yield from _check_sites(functions[start], table.sites)
+            yield from _check_sites(pads, functions[start], table.sites)
 
 
 def _check_owners(image: Slice, index: Index, functions: dict[int, Function]) -> Iterator[Problem]:
@@ -89,17 +84,23 @@ def _check_owners(image: Slice, index: Index, functions: dict[int, Function]) ->
         yield Problem(f"the exception table of {start:#x} has no function", MEND_BUILD)
 
 
-def _check_sites(function: Function, sites: tuple[Site, ...]) -> Iterator[Problem]:
+def _check_sites(
+    pads: LandingPads, function: Function, sites: tuple[Site, ...]
+) -> Iterator[Problem]:
     size, done = function.end - function.start, 0
     for site, limit in zip(sites, [*(site.start for site in sites[1:]), size]):
-        fault = _fault_of(function, site, done, limit)
+        fault = _place_fault(function, site, done, limit)
+        if not fault and site.pad:
+            fault = _pad_fault(function, site) or pads.fault(
+                function, function.start + site.pad, site
+            )
         if fault:
             what = f"the exception table of {function.start:#x}: its stretch at {site.start:#x}"
             yield Problem(f"{what} {fault}", MEND_BUILD)
         done = site.start + site.length
 
 
-def _fault_of(function: Function, site: Site, done: int, limit: int) -> str | None:
+def _place_fault(function: Function, site: Site, done: int, limit: int) -> str | None:
     """Returns what is wrong with a stretch between the end of the last and the start of the next."""
     end = site.start + site.length
     if (site.start | site.length) % WORD or not done <= site.start < end <= limit:
@@ -107,14 +108,21 @@ def _fault_of(function: Function, site: Site, done: int, limit: int) -> str | No
     if not site.pad:
         whole = (site.start, end, site.action) == (done, limit, 0)
         return None if whole else "has no pad, and leaves a gap or has an action"
+    code = function.code[site.start // WORD : end // WORD]
+    return None if any(map(_is_call, code)) else "calls nothing"
+
+
+def _pad_fault(function: Function, site: Site) -> str | None:
+    """Returns what is wrong with a pad: it must be an instruction that no other runs into."""
     before = function.word(function.start + site.pad - WORD)
     if before is None or function.word(function.start + site.pad) is None:
         return f"goes to {site.pad:#x}, which is no instruction of the function"
-    if not _is(before, LEAVES):
-        return f"goes to {site.pad:#x}, which the code before runs into"
-    stretch = function.code[site.start // WORD : end // WORD]
-    return None if any(_is(word, CALLS) for word in stretch) else "calls nothing"
+    jump = branch(True, before)
+    if leaves(True, before) or (jump and jump.always):
+        return None
+    return f"goes to {site.pad:#x}, which the code before runs into"
 
 
-def _is(word: int, patterns: tuple[tuple[int, int], ...]) -> bool:
-    return any(word & mask == value for mask, value in patterns)
+def _is_call(word: int) -> bool:
+    jump = branch(True, word)
+    return bool(jump and jump.is_call) or matches(word, ARM64_CALL_BY_REGISTER)

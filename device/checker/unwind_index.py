@@ -71,19 +71,26 @@ class _Reader:
             self.block.numbers("<3I", pages_at + PAGE_ENTRY * number)
             for number in range(page_count)
         ]
-        self.tables_at, self.pages_end = pages[0][2], pages[-1][2]
+        self.done = pages[-1][2]
         laid_out = [
             HEADER_SIZE,
             HEADER_SIZE + 4 * common_count,
             personalities_at + 4 * personality_count,
             pages_at + PAGE_ENTRY * page_count,
         ]
-        if laid_out != [common_at, personalities_at, pages_at, self.tables_at] or pages[-1][1]:
+        if laid_out != [common_at, personalities_at, pages_at, pages[0][2]] or pages[-1][1]:
             raise BadImage("the unwind index has gaps between its parts")
         index = Index([], [], [self.base + at for at in personalities], self.base + pages[-1][0])
         for page, after in pairwise(pages):
             self.add(index, page, after)
+        self.skip_to(len(self.block))
         return index
+
+    def skip_to(self, at: int) -> None:
+        """Goes on to where the next page begins: what is between must be the last one's room."""
+        if at < self.done or any(self.block.take(self.done, at - self.done)):
+            raise BadImage("the unwind index has pages inside each other, or more than pages")
+        self.done = at
 
     def words(self, at: int, count: int) -> tuple[int, ...]:
         return self.block.numbers(f"<{count}I", at)
@@ -92,8 +99,9 @@ class _Reader:
         """Reads a page of entries, and the exception tables of its functions."""
         first, at, tables = page
         end, _, tables_end = after
-        if at < self.pages_end or tables_end < tables or (tables_end - tables) % TABLE_ENTRY:
-            raise BadImage(f"the unwind index has no room for its page of {first:#x}")
+        if tables_end < tables or (tables_end - tables) % TABLE_ENTRY:
+            raise BadImage(f"the unwind index's page of {first:#x} has no whole number of tables")
+        self.skip_to(at)
         entries = self.page_entries(first, at)
         named = [
             self.block.numbers("<2I", place) for place in range(tables, tables_end, TABLE_ENTRY)
@@ -111,11 +119,13 @@ class _Reader:
         """Returns start and encoding of each entry of a page, addresses from the image's start."""
         kind, entries_at, count = self.block.numbers("<I2H", at)
         if kind == PLAIN_PAGE and entries_at == 8:
+            self.done = at + 8 + 8 * count
             numbers = self.words(at + 8, 2 * count)
             return list(zip(numbers[::2], numbers[1::2]))
         encodings_at, encodings_count = self.block.numbers("<2H", at + 8)
         if kind != SHORT_PAGE or (entries_at, encodings_at) != (12, 12 + 4 * count):
             raise BadImage(f"the unwind index's page of {first:#x} is of an unknown kind")
+        self.done = at + encodings_at + 4 * encodings_count
         encodings = self.common + self.words(at + encodings_at, encodings_count)
         found = []
         for word in self.words(at + entries_at, count):

@@ -5,8 +5,10 @@ from collections.abc import Callable
 from pathlib import Path
 
 import code_signature
-from checker import macho
+from checker import check_dylib, macho, pointer_checks, registered_checks, unwind_checks
+from checker.contract import load
 from checker.macho import Slice
+from checker.report import collected
 from scratch import BUILD, ROOT, Scratch
 
 
@@ -32,6 +34,26 @@ def header(image: Slice, segment: str, name: str) -> int:
 def command(image: Slice, kind: int, text: bytes = b"") -> int:
     """Where in the slice the first command of a kind begins that has a text in it."""
     return next(c.offset for c in image.commands_of(kind) if text in c.data)
+
+
+def field(image: Slice, segment: str, number: int) -> int:
+    """Where in the slice a field of a segment stands: address, size, offset and size in the file."""
+    return place_of(image, segment.encode() + b"\0") + 16 + image.pointer_size * number
+
+
+def section(image: Slice, name: str) -> range:
+    """Where in the slice a section of __TEXT stands; nowhere if the slice has none."""
+    found = image.section("__TEXT", name)
+    return range(found.offset, found.offset + found.size) if found else range(0)
+
+
+def rebases(image: Slice) -> range:
+    """Where in the slice the operations that slide pointers stand."""
+    offset, size = struct.unpack_from("<2I", image.commands_of(0x80000022)[0].data, 8)
+    return range(offset, offset + size)
+
+
+FAR = struct.pack("<I", 0x70000000)
 
 
 # What is changed in each slice: the fault that must be named, the offset, and the bytes put there.
@@ -71,7 +93,46 @@ FAULTS: list[tuple[str, Callable[[Slice], int], bytes]] = [
         lambda s: place_of(s, b"_MSHookMessageEx\0", "__LINKEDIT"),
         b"_MSHookMessageEy",
     ),
+    ("__LINKEDIT does not follow __DATA in memory", lambda s: field(s, "__LINKEDIT", 0), FAR),
+    ("__LINKEDIT takes 0x70000000 bytes", lambda s: field(s, "__LINKEDIT", 1), FAR),
+    ("__TEXT does not begin with the header", lambda s: field(s, "__TEXT", 0), FAR),
+    ("__DATA takes", lambda s: field(s, "__DATA", 1), FAR),
+    ("__cstring does not follow", lambda s: header(s, "__TEXT", "__cstring") + 32, b"\x04"),
+    (
+        "the indirect symbol table does not follow what is before it",
+        lambda s: command(s, 0xB) + 56,
+        bytes(4),
+    ),
+    (
+        "whatever is raised ends the process",
+        lambda s: header(s, "__TEXT", "__unwind_info" if s.wide else "__gcc_except_tab"),
+        b"__x",
+    ),
+    ("does not slide: ", lambda s: rebases(s).start + len(rebases(s)) // 2, b"\0"),
+    # A table's first pad: the code runs into another one, or it is not numbered in order.
+    (
+        "the exception table of ",
+        lambda s: section(s, "__gcc_except_tab")[7 if s.wide else 5],
+        b"\4",
+    ),
 ]
+
+# Tables of which single bits are changed: where they stand, how many of their bits are tried, and
+# how many of a hundred may pass. Those in exception tables that move the beginning or the end of a
+# stretch, by instructions that raise nothing, or write a number differently, cannot be known.
+FLIPPED: list[tuple[Callable[[Slice], range], int, int]] = [
+    (rebases, 200, 0),
+    (lambda s: section(s, "__unwind_info"), 60, 0),
+    (lambda s: section(s, "__gcc_except_tab"), 60, 5),
+]
+CONTRACT = load(ROOT)
+CHECKS = (
+    pointer_checks.check_places,
+    pointer_checks.check_slid,
+    unwind_checks.check_frames,
+    unwind_checks.check_tables,
+    registered_checks.check_tables,
+)
 
 
 class LibraryFaults(Scratch):
@@ -97,14 +158,28 @@ class LibraryFaults(Scratch):
 
     def test_changed_and_signed_anew(self) -> None:
         for fault, place, data in FAULTS:
-            for entry, image in self.slices:
+            for _, image in self.slices:
                 with self.subTest(fault, slice=image.arch):
-                    changed = patched(image, place(image), data)
-                    end = entry.offset + entry.size
-                    self.refused_as(
-                        self.library[: entry.offset] + changed + self.library[end:],
-                        *(f"check_dylib: libZQDial.dylib ({image.arch}): ", fault),
-                    )
+                    changed = Slice(patched(image, place(image), data))
+                    problems = check_dylib.check_slice(changed, CONTRACT)
+                    self.assertIn(fault, "; ".join(": ".join(problem) for problem in problems))
+
+    def test_flipped_bits(self) -> None:
+        for _, image in self.slices:
+            slid = sorted(image.rebases())
+            for place, tried, may_pass in FLIPPED:
+                bits = 8 * len(place(image))
+                passed = []
+                for bit in range(0, bits, bits // tried | 1) if bits else ():
+                    flipped = bytearray(image.data)
+                    flipped[place(image)[bit // 8]] ^= 1 << bit % 8
+                    changed = Slice(bytes(flipped))
+                    found = (collected(check(changed, CONTRACT)) for check in CHECKS)
+                    if not any(map(list, found)) and (
+                        place is not rebases or sorted(changed.rebases()) != slid
+                    ):
+                        passed.append(bit)
+                self.assertLessEqual(len(passed), tried * may_pass // 100, (image.arch, passed))
 
     def test_changed_after_signing(self) -> None:
         for entry, image in self.slices:
