@@ -1,6 +1,6 @@
 """Where the code behind a landing pad leads: it begins to catch what was raised, or passes it on."""
 
-from checker.branches import WORD, branch, leaves
+from checker.branches import ARM64_JUMP_BY_REGISTER, WORD, branch, leaves, matches
 from checker.exception_tables import Site
 from checker.functions import Function, data_in_code, read_functions
 from checker.macho import Slice
@@ -53,21 +53,40 @@ class LandingPads:
             word = function.word(at)
             if word is None:
                 found.add(RUNS_OUT)
-            else:
-                waiting += self._next(function, at, word, found)
+                continue
+            ways, called = self._ways(function, at, word)
+            outcomes = set() if called is None else self._called(called)
+            found |= outcomes
+            waiting += [] if outcomes else ways
         return found
 
-    def _next(self, function: Function, at: int, word: int, found: set[str]) -> list[int]:
-        """Returns where the code goes on from an instruction; adds what it comes to there."""
+    def unreached(self, function: Function, pads: set[int]) -> int | None:
+        """Returns the first instruction that no way from a function's start or its pads reaches,
+        None without one, and where jumps by a register, as switches make them, hide the ways."""
+        seen: set[int] = set()
+        waiting = [function.start, *pads]
+        while waiting:
+            at = waiting.pop()
+            word = None if at in seen else function.word(at)
+            if word is None:
+                continue
+            if matches(word, ARM64_JUMP_BY_REGISTER):
+                return None
+            seen.add(at)
+            ways, called = self._ways(function, at, word)
+            waiting += [] if called is not None and self._called(called) == {RESUMES} else ways
+        return min(set(range(function.start, function.end, WORD)) - seen, default=None)
+
+    def _ways(self, function: Function, at: int, word: int) -> tuple[list[int], int | None]:
+        """Returns where the function goes on from an instruction, and what it calls there or
+        leaves for."""
         jump = branch(self.wide, word)
         if jump is None:
-            return [] if leaves(self.wide, word) else [at + WORD]
+            return ([] if leaves(self.wide, word) else [at + WORD]), None
         target = at + jump.distance
         if not jump.is_call and function.word(target) is not None:
-            return [target] if jump.always else [target, at + WORD]
-        outcomes = self._called(target)
-        found |= outcomes
-        return [at + WORD] if not outcomes and (jump.is_call or not jump.always) else []
+            return ([target] if jump.always else [target, at + WORD]), None
+        return ([at + WORD] if jump.is_call or not jump.always else []), target
 
     def _called(self, target: int) -> set[str]:
         name, function = self.stubs.get(target), self.functions.get(target)

@@ -98,6 +98,10 @@ def _check_sites(
             what = f"the exception table of {function.start:#x}: its stretch at {site.start:#x}"
             yield Problem(f"{what} {fault}", MEND_BUILD)
         done = site.start + site.length
+    lost = pads.unreached(function, {function.start + site.pad for site in sites if site.pad})
+    if lost is not None:
+        what = f"the exception table of {function.start:#x} has no pad for the code at {lost:#x}"
+        yield Problem(what, MEND_BUILD)
 
 
 def _place_fault(function: Function, site: Site, done: int, limit: int) -> str | None:

@@ -127,9 +127,10 @@ class _Reader:
             raise BadImage(f"the unwind index's page of {first:#x} is of an unknown kind")
         self.done = at + encodings_at + 4 * encodings_count
         encodings = self.common + self.words(at + encodings_at, encodings_count)
-        found = []
-        for word in self.words(at + entries_at, count):
-            if word >> 24 >= len(encodings):
-                raise BadImage(f"the unwind index's page of {first:#x} lacks an encoding")
-            found.append((first + (word & 0xFFFFFF), encodings[word >> 24]))
-        return found
+        words = self.words(at + entries_at, count)
+        most = max((word >> 24 for word in words), default=0)
+        if most >= len(encodings) or (encodings_count and most < len(encodings) - 1):
+            raise BadImage(
+                f"the unwind index's page of {first:#x} lacks encodings, or uses not all"
+            )
+        return [(first + (word & 0xFFFFFF), encodings[word >> 24]) for word in words]
