@@ -12,7 +12,7 @@ ENDS = {
     "__Unwind_Resume": RESUMES,
     "__Unwind_SjLj_Resume": RESUMES,
 }
-RUNS_OUT = "runs out of the function"
+ENDS_PROCESS = "__ZSt9terminatev"
 
 
 class LandingPads:
@@ -47,13 +47,10 @@ class LandingPads:
         waiting = [start]
         while waiting:
             at = waiting.pop()
-            if at in seen or at in self.data:
+            word = None if at in seen or at in self.data else function.word(at)
+            if word is None:
                 continue
             seen.add(at)
-            word = function.word(at)
-            if word is None:
-                found.add(RUNS_OUT)
-                continue
             ways, called = self._ways(function, at, word)
             outcomes = set() if called is None else self._called(called)
             found |= outcomes
@@ -86,7 +83,8 @@ class LandingPads:
         target = at + jump.distance
         if not jump.is_call and function.word(target) is not None:
             return ([target] if jump.always else [target, at + WORD]), None
-        return ([at + WORD] if jump.is_call or not jump.always else []), target
+        comes_back = jump.is_call and self.stubs.get(target) != ENDS_PROCESS
+        return ([at + WORD] if comes_back or not jump.always else []), target
 
     def _called(self, target: int) -> set[str]:
         name, function = self.stubs.get(target), self.functions.get(target)
