@@ -64,7 +64,7 @@ def _check_owners(image: Slice, index: Index, functions: dict[int, Function]) ->
     bound = {bind.address for bind in image.binds() if bind.symbol == PERSONALITY}
     for pointer in index.personalities:
         if pointer not in bound:
-            what = f"the unwind index's personality at {pointer:#x} is not bound to {PERSONALITY}"
+            what = f"the unwind index has, at {pointer:#x}, no personality that is bound"
             yield Problem(what, MEND_BUILD)
     owners = {start for start, _ in index.tables}
     for entry, after in pairwise([*index.entries, Entry(index.end, 0)]):

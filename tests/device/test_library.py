@@ -109,6 +109,12 @@ FAULTS: list[tuple[str, Callable[[Slice], int], bytes]] = [
         b"__x",
     ),
     ("does not slide: ", lambda s: rebases(s).start + len(rebases(s)) // 2, b"\0"),
+    (
+        "no personality that is bound",
+        lambda s: place_of(s, b"___gxx_personality_", "__LINKEDIT"),
+        b"___gxx_personalitz",
+    ),
+    (", not catches", lambda s: place_of(s, b"___cxa_begin_catch\0", "__LINKEDIT"), b"___cxb"),
     # A table's first pad: the code runs into another one, or it is not numbered in order.
     (
         "the exception table of ",
