@@ -1,0 +1,116 @@
+// The functions that cannot be handed through: where methods change hands, their implementations
+// are given thunks; what differs by processor stands in arm64/ and armv7/.
+extern "C" {
+#include <objc/message.h>
+#include <objc/runtime.h>
+}
+#include <map>
+#include <mutex>
+
+#include <dlfcn.h>
+
+#include "Imports.hpp"
+#include "Thunks.hpp"
+
+namespace loader {
+namespace {
+
+IMP inwardMethod(IMP method, const char *types) {
+    return reinterpret_cast<IMP>(inward(reinterpret_cast<void *>(method), types));
+}
+
+IMP outwardMethod(IMP method, const char *types) {
+    return reinterpret_cast<IMP>(outward(reinterpret_cast<void *>(method), types));
+}
+
+const char *typesOf(Class cls, SEL selector, IMP implementation = nullptr) {
+    const Method method = cls && selector ? class_getInstanceMethod(cls, selector) : nullptr;
+    const bool isIt =
+        method && (!implementation || method_getImplementation(method) == implementation);
+    return isIt ? method_getTypeEncoding(method) : nullptr;
+}
+
+BOOL addMethod(Class cls, SEL selector, IMP method, const char *types) {
+    return class_addMethod(cls, selector, inwardMethod(method, types), types);
+}
+
+IMP methodImplementation(Class cls, SEL selector) {
+    const IMP method = class_getMethodImplementation(cls, selector);
+    return outwardMethod(method, typesOf(cls, selector, method));
+}
+
+/// An inline function of this runtime's headers.
+Class classOf(id object) { return object_getClass(object); }
+
+void hookMessage(Class cls, SEL selector, IMP replacement, IMP *saved) {
+    using Hook = void (*)(Class, SEL, IMP, IMP *);
+    static const auto hook =
+        reinterpret_cast<Hook>(dlsym(dlopen("libsubstrate.so", RTLD_NOW), "MSHookMessageEx"));
+    const char *const types = typesOf(cls, selector);
+    hook(cls, selector, inwardMethod(replacement, types), saved);
+    if (saved) {
+        *saved = outwardMethod(*saved, types);
+    }
+}
+
+template <typename Function>
+auto code(Function *function) {
+    return reinterpret_cast<void (*)()>(function);
+}
+
+}  // namespace
+
+extern "C" {
+void loaderSend();
+void loaderPrint();
+void loaderLog();
+void loaderBinder();
+#ifdef __arm__
+void loaderSendStruct();
+void loaderEnterTry(void *);
+void loaderLeaveTry(void *);
+void loaderResume();
+void loaderPersonality();
+#endif
+
+/// The method that a message reaches, as the image is to call it.
+void *loaderLookUp(id receiver, SEL selector) {
+    static std::mutex g_lock;
+    static std::map<IMP, void *> g_known;
+    const IMP method = objc_msg_lookup(receiver, selector);
+    {
+        const std::scoped_lock hold(g_lock);
+        if (const auto known = g_known.find(method); known != g_known.end()) {
+            return known->second;
+        }
+    }
+    const char *const types = typesOf(object_getClass(receiver), selector, method);
+    void *const target = outward(reinterpret_cast<void *>(method), types);
+    const std::scoped_lock hold(g_lock);
+    return g_known[method] = target;
+}
+}
+
+const Substitute *substituteFor(const std::string &symbol) {
+    static const std::map<std::string, Substitute> kSubstitutes = {
+        {"_objc_msgSend", {loaderSend, nullptr}},
+        {"_snprintf", {loaderPrint, nullptr}},
+        {"_NSLog", {loaderLog, nullptr}},
+        {"dyld_stub_binder", {loaderBinder, nullptr}},
+        {"_object_getClass", {code(classOf), "#"}},
+        {"_class_addMethod", {code(addMethod), "C"}},
+        {"_class_getMethodImplementation", {code(methodImplementation), "?"}},
+        {"_MSHookMessageEx", {code(hookMessage), "v"}},
+#ifdef __arm__
+        {"_objc_msgSend_stret", {loaderSendStruct, nullptr}},
+        {"__Unwind_SjLj_Register", {code(loaderEnterTry), "v"}},
+        {"__Unwind_SjLj_Unregister", {code(loaderLeaveTry), "v"}},
+        {"__Unwind_SjLj_Resume", {loaderResume, nullptr}},
+        {"___gxx_personality_sj0", {loaderPersonality, nullptr}},
+#endif
+    };
+    const auto found = kSubstitutes.find(symbol);
+    return found == kSubstitutes.end() ? nullptr : &found->second;
+}
+
+}  // namespace loader
