@@ -63,7 +63,7 @@ device: packages-device $(if $(filter armv7,$(SLICES)),packages-armv7)
 	@cmake --build build/device
 	@cmake --build build/device --target check
 
-device-test: device packages-qemu packages-emulator
+device-test: device packages-qemu $(if $(filter armv7,$(SLICES)),packages-qemu-armv7)
 	@cmake -S device -B build/device >/dev/null
 	@cmake --build build/device --target outside
 	@ctest --test-dir build/device --output-on-failure --no-tests=error --parallel "$$(nproc)"

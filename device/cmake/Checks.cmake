@@ -23,10 +23,6 @@ add_custom_target(check
     VERBATIM)
 
 enable_testing()
-if(armv7 IN_LIST SLICES)
-    add_test(NAME emulator.armv7
-        COMMAND ${RUN_PYTHON} -m emulator.emulate "${LIBRARY}" --slices armv7)
-endif()
 include(cmake/Outside.cmake)
 add_test(NAME reproducible
     COMMAND "${SOURCE_ROOT}/tests/device/reproducible.sh" "${SOURCE_ROOT}"

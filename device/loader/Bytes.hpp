@@ -51,6 +51,7 @@ class Cursor {
   public:
     explicit Cursor(Bytes bytes) : bytes_(bytes) {}
 
+    size_t position() const { return at_; }
     bool isAtEnd() const { return at_ >= bytes_.size(); }
     uint8_t byte() { return bytes_.at<uint8_t>(at_++); }
 
