@@ -27,7 +27,7 @@ include(cmake/Outside.cmake)
 add_test(NAME reproducible
     COMMAND "${SOURCE_ROOT}/tests/device/reproducible.sh" "${SOURCE_ROOT}"
         "${CMAKE_CURRENT_BINARY_DIR}")
-foreach(faults IN ITEMS build library package)
+foreach(faults IN ITEMS build library package loader)
     add_test(NAME faults.${faults}
         COMMAND ${RUN_PYTHON} -m unittest -v test_${faults}
         WORKING_DIRECTORY "${SOURCE_ROOT}/tests/device")

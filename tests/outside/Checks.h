@@ -37,6 +37,9 @@ class Group {
     Group *next_;
 };
 
+/// What the add-on exports by that name, or null.
+void *exported(const std::string &name);
+
 /// The bundle identifier of the process.
 void setIdentifier(NSString *identifier);
 

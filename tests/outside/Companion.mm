@@ -168,7 +168,10 @@ CLASS(ZQUIUtil)
 static id g_preference;
 
 CLASS(ZQPreference)
-+ (void)InitializePreferences { g_preference = [[self alloc] init]; }
++ (void)InitializePreferences {
+    plain(_cmd, 0);
+    g_preference = [[self alloc] init];
+}
 + (id)currentPreference { return answer(_cmd, g_preference); }
 - (BOOL)showNumberArea { return plain(_cmd, YES); }
 @end

@@ -17,6 +17,7 @@
 static unsigned g_run;
 static NSString *g_identifier;
 static const char *g_library;
+static void *g_addOn;
 static int g_faults;
 /// Kept where the process that made this one reads it, should this one die.
 static char *g_case;
@@ -88,8 +89,11 @@ int Group::runAll(void (*load)(), const char *name) {
     return faults;
 }
 
+void *exported(const std::string &name) { return dlsym(g_addOn, name.c_str()); }
+
 static void loadAddOn() {
-    if (!dlopen(g_library, RTLD_NOW)) {
+    g_addOn = dlopen(g_library, RTLD_NOW);
+    if (!g_addOn) {
         std::printf("%s\n", dlerror());
         std::exit(1);
     }

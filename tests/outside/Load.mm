@@ -1,4 +1,10 @@
 // How the add-on comes into somebody else's process.
+#include <algorithm>
+#include <csignal>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
 #import "Rows.h"
 #import "Substrate.h"
 
@@ -26,6 +32,37 @@ static const Group g_zero("load, an identifier with a zero", kPhone, checkOut, [
     NSString *zero = [NSString stringWithCharacters:&kZero length:1];
     setIdentifier([NSString stringWithFormat:@"com.apple.mobilephone%@more", zero]);
 });
+
+static const Group g_raising("load, an identifier that raises", kPhone, checkOut,
+                             [] { setIdentifier((NSString *)number(1)); });
+static const Group g_preferences("load, preferences that raise", kPhone, checkIn,
+                                 [] { troubleAt(@"InitializePreferences", fail); });
+
+// Every replacement is exported by its name, the dialer's without the last underscore; the one that
+// must never be installed ends whoever calls it.
+static void checkExports() {
+    for (const auto &[method, replacement] : hookedMethods()) {
+        Case each([NSString stringWithUTF8String:method.c_str()]);
+        std::string name = method;
+        std::replace(name.begin(), name.end(), ' ', '_');
+        std::replace(name.begin(), name.end(), ':', '_');
+        void *whole = exported("replace_" + name);
+        name.pop_back();
+        expectTrue(replacement == (whole ? whole : exported("replace_" + name)));
+    }
+    auto tagline =
+        (void (*)())exported("replace_ABContactHeaderDisplayView__taglineStringForContact_");
+    const pid_t child = fork();
+    if (child == 0) {
+        tagline();
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    const int signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+    expectTrue(signal == SIGILL || signal == SIGTRAP);
+}
+static const Group g_exports("load, exports", kPhone, checkExports);
 
 // Of a companion that cannot make up its mind, each screen takes one answer for all its methods.
 static void checkVersions() {

@@ -5,16 +5,17 @@
 
 #include "Substrate.h"
 
-static std::multiset<std::string> g_methods;
+static std::multimap<std::string, void *> g_methods;
 
-const std::multiset<std::string> &hookedMethods() { return g_methods; }
+const std::multimap<std::string, void *> &hookedMethods() { return g_methods; }
 
 extern "C" void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP *saved) {
     Method method = class_getInstanceMethod(cls, selector);
     if (!method) {
         return;
     }
-    g_methods.insert(std::string(class_getName(cls)) + " " + sel_getName(selector));
+    g_methods.emplace(std::string(class_getName(cls)) + " " + sel_getName(selector),
+                      (void *)replacement);
     *saved = method_getImplementation(method);
     if (!class_addMethod(cls, selector, replacement, method_getTypeEncoding(method))) {
         method_setImplementation(method, replacement);

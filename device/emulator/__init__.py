@@ -1,1 +1,0 @@
-"""The device library at work: each slice runs on an emulated processor in a pretend process."""

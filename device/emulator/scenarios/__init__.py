@@ -1,1 +1,0 @@
-"""What is shown of the library, screen by screen: stories told to a pretended process."""
