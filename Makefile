@@ -18,7 +18,7 @@ help:
 	@echo 'make lint          check format and style of the sources'
 	@echo 'make contract      check what libZQDial.so shows and takes'
 	@echo 'make device        build the library for iOS and its package into build/device, check them'
-	@echo 'make device-test   run it on emulated CPUs, and break it on purpose to see the checks notice'
+	@echo 'make device-test   run it on emulated processors, and break it on purpose to see that noticed'
 
 packages-%:
 	@tools/install-packages.sh $*
@@ -51,7 +51,7 @@ clang: packages-build packages-lint
 format: packages-lint
 	@tools/format.sh
 
-lint: packages-build packages-lint
+lint: packages-build packages-lint packages-qemu packages-qemu-armv7
 	@tools/format.sh --check
 	@mypy device tests/device
 	@cmake --preset host >/dev/null

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Runs clang-tidy over every source that the given build folder compiles (build/ by default) and
-# prints each finding once, then their count. Headers are read with the sources that include them.
+# Runs clang-tidy over every source that the given build folder compiles (build/ by default), and over
+# the device library's loader as its processors' compilers see it; prints each finding once, then
+# their count. Headers are read with the sources that include them.
 set -euo pipefail
 
 cd "$(dirname "$(readlink -f "$0")")/.."
@@ -21,6 +22,14 @@ if [ ${#sources[@]} -eq 0 ]; then
     exit 1
 fi
 
+mapfile -t -O ${#sources[@]} sources < <(find device/loader -name '*.cpp' | sort)
+for triple in aarch64-linux-gnu arm-linux-gnueabi; do
+    if [ ! -e "/usr/lib/gcc-cross/$triple/12/include/objc" ]; then
+        echo "lint: no headers of $triple: run tools/install-packages.sh qemu qemu-armv7" >&2
+        exit 1
+    fi
+done
+
 # Every source that clang-tidy complains about leaves a report, and its other output beside it.
 reports="$(mktemp -d)"
 readonly finding='^[^ ].*: (warning|error): .*\]$'
@@ -28,7 +37,16 @@ trap 'rm -rf "$reports"' EXIT
 # shellcheck disable=SC2016 # the inner shell expands these
 printf '%s\0' "${sources[@]}" | REPORTS="$reports" xargs -0 -n 1 -P "$(nproc)" bash -c '
     report="$(mktemp -p "$REPORTS")"
-    if clang-tidy-19 -p "$0" --quiet --extra-arg=-Wno-unknown-warning-option "$1" \
+    how=(-p "$0" "$1")
+    triple=aarch64-linux-gnu
+    case "$1" in
+    device/loader/armv7/*) triple=arm-linux-gnueabi ;;&
+    device/loader/*)
+        how=("$1" -- --target=$triple -std=c++20 -I device/loader "-DZQDIAL_IMPORTS=\"\""
+            -idirafter /usr/lib/gcc-cross/$triple/12/include)
+        ;;
+    esac
+    if clang-tidy-19 --quiet --extra-arg=-Wno-unknown-warning-option "${how[@]}" \
         >"$report" 2>"$report.log"; then
         rm "$report" "$report.log"
     fi' "$build"

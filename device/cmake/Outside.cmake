@@ -12,13 +12,14 @@ set(triple_arm64 aarch64-linux-gnu)
 set(packages_arm64 arm64)
 set(emulator_arm64 qemu-aarch64 -cpu cortex-a57)
 set(group_arm64 qemu)
-set(processorOptions_arm64)
+set(loaderOptions_arm64)
 # Floats in core registers, as on iOS: armel, not armhf.
 set(triple_armv7 arm-linux-gnueabi)
 set(packages_armv7 armel)
 set(emulator_armv7 qemu-arm -cpu cortex-a8)
 set(group_armv7 qemu-armv7)
-set(processorOptions_armv7 -marm)
+# Its system is for older processors, whose C++ library has no futures for newer ones.
+set(loaderOptions_armv7 -marm -march=armv7-a -mtp=cp15)
 
 set(OUTSIDE_COMPILE -O1 -g0 -fPIC -Wno-psabi)
 set(LOADER_OPTIONS -std=c++20 -Wall -Wextra -Wshadow -Werror -I "${LOADER_SOURCES}"
@@ -78,7 +79,7 @@ function(zqdial_outside_slice slice)
         DEPENDS "${script}" "${LOADER_SOURCES}/sysroot.txt"
         COMMENT "${slice}: unpacking Foundation and what it needs"
         VERBATIM)
-    set(compile "${COMPILER_${slice}}" ${processorOptions_${slice}} ${OUTSIDE_COMPILE})
+    set(compile "${COMPILER_${slice}}" ${OUTSIDE_COMPILE})
     set(paths "${sysroot}/usr/lib" "${sysroot}/usr/lib/${triple}" "${sysroot}/lib/${triple}")
     list(JOIN paths ":" paths)
     set(link "${COMPILER_${slice}}" -L "${folder}" "-Wl,-rpath-link,${paths}"
@@ -104,7 +105,8 @@ function(zqdial_outside_slice slice)
     file(GLOB loader CONFIGURE_DEPENDS "${LOADER_SOURCES}/*.cpp" "${LOADER_SOURCES}/${slice}/*.cpp"
         "${LOADER_SOURCES}/${slice}/*.S")
     foreach(source IN LISTS loader)
-        zqdial_outside_object(object ${slice} "${source}" ${LOADER_OPTIONS})
+        zqdial_outside_object(object ${slice} "${source}" ${LOADER_OPTIONS}
+            ${loaderOptions_${slice}})
         list(APPEND objects "${object}")
     endforeach()
     set(host "${folder}/outside-host")

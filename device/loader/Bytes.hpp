@@ -27,7 +27,7 @@ class Bytes {
 
     template <typename Value>
     Value at(size_t offset) const {
-        Value value;
+        Value value = {};
         std::memcpy(&value, part(offset, sizeof value).data(), sizeof value);
         return value;
     }

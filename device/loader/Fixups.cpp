@@ -67,39 +67,45 @@ class BindList {
     void step(uint8_t opcode, uint8_t immediate, const std::function<void(const Bind &)> &use) {
         switch (opcode) {
         case 0x10:
-            return setLibrary(immediate);
+            setLibrary(immediate);
+            break;
         case 0x20:
-            return setLibrary(cursor_.uleb());
+            setLibrary(cursor_.uleb());
+            break;
         case 0x40:
             if (immediate) {
                 throw Fault("it imports " + cursor_.text() + " weakly", "import it plainly");
             }
             bind_.symbol = cursor_.text();
-            return;
+            break;
         case 0x50:
-            return immediate == kPointer ? void() : refuseOpcode("bind", opcode | immediate);
+            if (immediate != kPointer) {
+                refuseOpcode("bind", opcode | immediate);
+            }
+            break;
         case 0x60:
             bind_.addend = cursor_.sleb();
-            return;
+            break;
         case 0x70:
-            return place_.set(immediate, cursor_.uleb());
+            place_.set(immediate, cursor_.uleb());
+            break;
         case 0x80:
-            return place_.advance(cursor_.uleb());
+            place_.advance(cursor_.uleb());
+            break;
         case 0x90:
-            return bind(use);
+            bind(use, 1, 0);
+            break;
         case 0xa0:
-            bind(use);
-            return place_.advance(cursor_.uleb());
+            bind(use, 1, 0);
+            place_.advance(cursor_.uleb());
+            break;
         case 0xb0:
-            bind(use);
-            return place_.advance(immediate * sizeof(Word));
+            bind(use, 1, immediate * sizeof(Word));
+            break;
         case 0xc0: {
-            const uint64_t times = cursor_.uleb(), gap = cursor_.uleb();
-            for (uint64_t i = 0; i < times; ++i) {
-                bind(use);
-                place_.advance(gap);
-            }
-            return;
+            const uint64_t times = cursor_.uleb();
+            bind(use, times, cursor_.uleb());
+            break;
         }
         default:
             refuseOpcode("bind", opcode | immediate);
@@ -113,9 +119,12 @@ class BindList {
         bind_.library = slice_.libraries[ordinal - 1];
     }
 
-    void bind(const std::function<void(const Bind &)> &use) {
-        bind_.address = place_.next();
-        use(bind_);
+    void bind(const std::function<void(const Bind &)> &use, uint64_t times, uint64_t gap) {
+        for (uint64_t i = 0; i < times; ++i) {
+            bind_.address = place_.next();
+            use(bind_);
+            place_.advance(gap);
+        }
     }
 
     const Slice &slice_;

@@ -4,8 +4,8 @@ extern "C" {
 #include <objc/message.h>
 #include <objc/runtime.h>
 }
+#include <atomic>
 #include <map>
-#include <mutex>
 
 #include <dlfcn.h>
 
@@ -53,6 +53,15 @@ void hookMessage(Class cls, SEL selector, IMP replacement, IMP *saved) {
     }
 }
 
+/// What methods are called by, kept for ever. No lock: every message comes here, and the armv7
+/// system's locks take a way through its kernel.
+struct Target {
+    IMP method;
+    void *code;
+    const Target *next;
+};
+std::atomic<const Target *> g_targets[1024];
+
 template <typename Function>
 auto code(Function *function) {
     return reinterpret_cast<void (*)()>(function);
@@ -75,19 +84,19 @@ void loaderPersonality();
 
 /// The method that a message reaches, as the image is to call it.
 void *loaderLookUp(id receiver, SEL selector) {
-    static std::mutex g_lock;
-    static std::map<IMP, void *> g_known;
     const IMP method = objc_msg_lookup(receiver, selector);
-    {
-        const std::scoped_lock hold(g_lock);
-        if (const auto known = g_known.find(method); known != g_known.end()) {
-            return known->second;
+    auto &first = g_targets[reinterpret_cast<uintptr_t>(method) / 4 % std::size(g_targets)];
+    const Target *const known = first.load();
+    for (const Target *each = known; each; each = each->next) {
+        if (each->method == method) {
+            return each->code;
         }
     }
     const char *const types = typesOf(object_getClass(receiver), selector, method);
-    void *const target = outward(reinterpret_cast<void *>(method), types);
-    const std::scoped_lock hold(g_lock);
-    return g_known[method] = target;
+    auto *const made = new Target{method, outward(reinterpret_cast<void *>(method), types), known};
+    while (!first.compare_exchange_weak(made->next, made)) {
+    }
+    return made->code;
 }
 }
 

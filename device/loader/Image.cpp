@@ -39,9 +39,8 @@ void protect(const Image &image) {
     __builtin___clear_cache(base, base + image.size);
 }
 
-Word addressFor(const Bind &bind) {
-    return reinterpret_cast<Word>(findImport(bind.library, bind.symbol)) +
-           static_cast<Word>(bind.addend);
+void *addressFor(const Bind &bind) {
+    return static_cast<uint8_t *>(findImport(bind.library, bind.symbol)) + bind.addend;
 }
 
 bool leadsToStubHelper(const Image &image, Word word) {
@@ -54,7 +53,9 @@ void fix(const Image &image) {
     eachRebase(image.slice, [&](uint64_t address) {
         image.word(address) += reinterpret_cast<Word>(image.base);
     });
-    eachBind(image.slice, [&](const Bind &bind) { image.word(bind.address) = addressFor(bind); });
+    eachBind(image.slice, [&](const Bind &bind) {
+        image.word(bind.address) = reinterpret_cast<Word>(addressFor(bind));
+    });
     // These are left to the stub helper until they are called, but a missing one shows now.
     eachLazyBind(image.slice, [&](const Bind &bind) {
         addressFor(bind);
@@ -110,14 +111,14 @@ extern "C" void *loaderBindLazily(const void *place, Word offset) {
             throw Fault("a stub helper hands over what is no variable of the library's");
         }
         const Bind bind = lazyBindAt(image->slice, offset);
-        const Word function = addressFor(bind);
+        void *const function = addressFor(bind);
         Word &pointer = image->word(bind.address);
         // Another thread may have been faster.
-        if (!leadsToStubHelper(*image, pointer) && pointer != function) {
+        if (!leadsToStubHelper(*image, pointer) && pointer != reinterpret_cast<Word>(function)) {
             throw Fault("a lazy pointer changed before it was bound");
         }
-        pointer = function;
-        return reinterpret_cast<void *>(function);
+        pointer = reinterpret_cast<Word>(function);
+        return function;
     } catch (const Fault &fault) {
         stop(fault.what());
     }

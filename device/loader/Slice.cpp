@@ -71,19 +71,22 @@ class Reader {
     void readCommand(uint32_t kind, Bytes command) {
         switch (kind) {
         case kSegment:
-            return readSegment(command);
+            readSegment(command);
+            break;
         case kLibrary:
-            return slice_.libraries.push_back(command.textAt(command.at<LibraryCommand>(0).name));
+            slice_.libraries.push_back(command.textAt(command.at<LibraryCommand>(0).name));
+            break;
         case kDyldInfo:
         case kDyldInfoOnly:
-            return readInfo(command.at<InfoCommand>(0));
+            readInfo(command.at<InfoCommand>(0));
+            break;
         case kRoutines:
             slice_.initRoutine = command.at<RoutinesCommand>(0).initRoutine;
-            return;
+            break;
         case kFunctionStarts: {
             const auto data = command.at<DataCommand>(0);
             slice_.functionStarts = {data.offset, data.size};
-            return;
+            break;
         }
         case kWeakLibrary:
             throw Fault("it loads a library weakly", kNotForUs);

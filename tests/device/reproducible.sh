@@ -15,7 +15,7 @@ fi
 
 copy="$(mktemp -d)"
 trap 'rm -rf "$copy"' EXIT
-for part in src device cmake tools; do
+for part in src device cmake tools tests; do
     cp -r "$repository/$part" "$copy/$part"
 done
 slices="$(sed -n 's/^SLICES:STRING=//p' "$first/CMakeCache.txt")"

@@ -18,7 +18,7 @@ class BuildFaults(Scratch):
         return self.folder / "build"
 
     def copy_sources(self) -> None:
-        for part in ("src", "device", "cmake", "tools"):
+        for part in ("src", "device", "cmake", "tools", "tests"):
             shutil.copytree(ROOT / part, self.folder / part)
 
     def append(self, file: str, text: str) -> None:

@@ -3,6 +3,7 @@
 // whose personality routine does with each frame what its list says, and restores its registers by
 // reading its prologue.
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 #include <dlfcn.h>
@@ -108,7 +109,7 @@ class Prologue {
     Prologue(const Image &image, uint32_t counter) {
         const uint64_t address = counter - reinterpret_cast<uint32_t>(image.base);
         const auto &starts = image.functions;
-        const auto next = std::upper_bound(starts.begin(), starts.end(), address);
+        const auto next = std::ranges::upper_bound(starts, address);
         if (next == starts.begin()) {
             stop("an exception comes from outside every function");
         }
@@ -126,7 +127,7 @@ class Prologue {
                     const uint32_t bit = 1U << number;
                     below -= *at & bit ? 4 : 0;
                     if (*at & open & bit) {
-                        _Unwind_SetGR(unwinding, number, *reinterpret_cast<uint32_t *>(below));
+                        _Unwind_SetGR(unwinding, number, *std::bit_cast<uint32_t *>(below));
                     }
                 }
                 open &= ~*at;
