@@ -65,9 +65,9 @@ function(zqdial_outside_slice slice)
     find_program(COMPILER_${slice} ${triple}-g++-12)
     find_program(EMULATOR_${slice} ${emulator})
     if(NOT COMPILER_${slice} OR NOT EMULATOR_${slice})
+        set(remedy "run tools/install-packages.sh ${group_${slice}} and 'make device-test' again")
         add_custom_target(outside-${slice}
-            COMMAND ${CMAKE_COMMAND} -E echo "no ${triple}-g++-12 or ${emulator}: "
-                "run tools/install-packages.sh ${group_${slice}} and 'make device-test' again"
+            COMMAND ${CMAKE_COMMAND} -E echo "no ${triple}-g++-12 or ${emulator}: ${remedy}"
             COMMAND ${CMAKE_COMMAND} -E false
             VERBATIM)
         return()
