@@ -23,7 +23,7 @@ set(loaderOptions_armv7 -marm -march=armv7-a -mtp=cp15)
 
 set(OUTSIDE_COMPILE -O1 -g0 -fPIC -Wno-psabi)
 set(LOADER_OPTIONS -std=c++20 -Wall -Wextra -Wshadow -Werror -I "${LOADER_SOURCES}"
-    "-DZQDIAL_IMPORTS=\"${IMPORTS}\"")
+    "-DZQDIAL_IMPORTS=\"${IMPORTS}\"" "-DZQDIAL_PROGRAM_IMPORTS=\"${checkImports}\"")
 
 # zqdial_outside_object(<result variable> <slice> <source> <option>...)
 function(zqdial_outside_object result slice source)
@@ -116,7 +116,7 @@ function(zqdial_outside_slice slice)
         DEPENDS ${objects} ${libraries}
         COMMENT "${slice}: outside-host"
         VERBATIM)
-    add_custom_target(outside-${slice} DEPENDS "${host}" ${libraries} library)
+    add_custom_target(outside-${slice} DEPENDS "${host}" ${libraries} library phone-check)
 
     set(run "${EMULATOR_${slice}}" ${emulator_${slice}} -L "${sysroot}" "${host}")
     foreach(test IN LISTS OUTSIDE_RUNS)

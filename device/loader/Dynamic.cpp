@@ -1,5 +1,5 @@
-// dlopen and its kin as the tests call them, by the linker's --wrap: a path that ends in .dylib is
-// the loader's, everything else this system's.
+// dlopen and its kin as the tests call them, by the linker's --wrap: a path that ends in .dylib,
+// and the command for phones, are the loader's, everything else this system's.
 #include <string>
 
 #include <dlfcn.h>
@@ -16,7 +16,8 @@ void *__real_dlsym(void *handle, const char *name);
 char *__real_dlerror();
 
 void *__wrap_dlopen(const char *path, int mode) {
-    if (!path || !std::string_view(path).ends_with(".dylib")) {
+    const std::string_view name = path ? path : "";
+    if (!name.ends_with(".dylib") && !name.ends_with("/phonecheck")) {
         return __real_dlopen(path, mode);
     }
     try {
@@ -35,7 +36,11 @@ void *__wrap_dlsym(void *handle, const char *name) {
         return __real_dlsym(handle, name);
     }
     const auto found = image->exports.find(std::string("_") + name);
-    return found == image->exports.end() ? nullptr : loader::givenFor(image->at(found->second));
+    if (found == image->exports.end()) {
+        return nullptr;
+    }
+    void *const function = image->at(found->second);
+    return image->slice.isProgram ? loader::inward(function, "i") : loader::givenFor(function);
 }
 
 char *__wrap_dlerror() { return g_error.empty() ? __real_dlerror() : g_error.data(); }

@@ -10,6 +10,7 @@ extern "C" {
 #include <dlfcn.h>
 
 #include "Imports.hpp"
+#include "MachO.hpp"
 #include "Thunks.hpp"
 
 namespace loader {
@@ -52,6 +53,26 @@ void hookMessage(Class cls, SEL selector, IMP replacement, IMP *saved) {
         *saved = outwardMethod(*saved, types);
     }
 }
+
+/// A type's encoding as Apple's runtime for this processor has it: BOOL is no unsigned character.
+const char *asApples(const char *encoding) {
+    static std::map<std::string, std::string> known;
+    if (!encoding) {
+        return nullptr;
+    }
+    auto [found, isNew] = known.try_emplace(encoding, encoding);
+    int depth = 0;  // in a struct's braces
+    for (char &letter : found->second) {
+        depth += letter == '{' ? 1 : letter == '}' ? -1 : 0;
+        if (letter == 'C' && depth == 0) {
+            letter = macho::kIs64 ? 'B' : 'c';
+        }
+    }
+    return found->second.c_str();
+}
+
+const char *methodEncoding(Method method) { return asApples(method_getTypeEncoding(method)); }
+const char *variableEncoding(Ivar variable) { return asApples(ivar_getTypeEncoding(variable)); }
 
 /// What methods are called by, kept for ever. No lock: every message comes here, and the armv7
 /// system's locks take a way through its kernel.
@@ -110,6 +131,8 @@ const Substitute *substituteFor(const std::string &symbol) {
         {"_class_addMethod", {code(addMethod), "C"}},
         {"_class_getMethodImplementation", {code(methodImplementation), "?"}},
         {"_MSHookMessageEx", {code(hookMessage), "v"}},
+        {"_method_getTypeEncoding", {code(methodEncoding), "*"}},
+        {"_ivar_getTypeEncoding", {code(variableEncoding), "*"}},
 #ifdef __arm__
         {"_objc_msgSend_stret", {loaderSendStruct, nullptr}},
         {"__Unwind_SjLj_Register", {code(loaderEnterTry), "v"}},

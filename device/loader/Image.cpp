@@ -51,7 +51,7 @@ bool leadsToStubHelper(const Image &image, Word word) {
 
 void fix(const Image &image) {
     eachRebase(image.slice, [&](uint64_t address) {
-        image.word(address) += reinterpret_cast<Word>(image.base);
+        image.word(address) += reinterpret_cast<Word>(image.base) - image.slice.preferredBase;
     });
     eachBind(image.slice, [&](const Bind &bind) {
         image.word(bind.address) = reinterpret_cast<Word>(addressFor(bind));
@@ -93,13 +93,16 @@ void loadImage(const char *path) {
     loaded->functions = loaded->slice.functions();
     loaded->exports = loaded->slice.exportedSymbols();
     map(*loaded);
+    useImportsOf(loaded->slice.isProgram ? Kind::Program : Kind::Library);
     fix(*loaded);
     protect(*loaded);
     g_image = std::move(loaded);
     if (!isLeftOut("unwinding")) {
         registerUnwinding(*g_image);
     }
-    callInitRoutine(*g_image);
+    if (!g_image->slice.isProgram) {
+        callInitRoutine(*g_image);
+    }
 }
 
 /// What a stub helper asks for at an import's first call, by way of dyld_stub_binder: the function,

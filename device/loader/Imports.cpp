@@ -33,9 +33,15 @@ const std::map<std::string, std::vector<const char *>> kCounterparts = {
 
 /// Results of less than a word, which the two ABIs treat differently.
 const std::map<std::string, const char *> kNarrowResults = {
-    {"_class_addIvar", "B"},  {"_class_addProtocol", "B"},   {"_memcmp", "i"},
-    {"_strcmp", "i"},         {"___cxa_guard_acquire", "i"}, {"_objc_sync_enter", "i"},
+    {"_class_addIvar", "B"},
+    {"_class_addProtocol", "B"},
+    {"_memcmp", "i"},
+    {"_strcmp", "i"},
+    {"___cxa_guard_acquire", "i"},
+    {"_objc_sync_enter", "i"},
     {"_objc_sync_exit", "i"},
+    {"_strncmp", "i"},
+    {"_puts", "i"},
 };
 
 /// Where size_t is an unsigned int, in this process only.
@@ -43,10 +49,10 @@ const std::map<std::string, std::string> kNamesOf32Bits = {{"__Znam", "_Znaj"},
                                                            {"__Znwm", "_Znwj"}};
 
 /// The symbols of the list by library.
-std::map<std::string, std::set<std::string>> readList() {
-    std::ifstream stream(ZQDIAL_IMPORTS);
+std::map<std::string, std::set<std::string>> readList(const std::string &path) {
+    std::ifstream stream(path);
     if (!stream) {
-        throw Fault("cannot read " ZQDIAL_IMPORTS, "restore it");
+        throw Fault("cannot read " + path, "restore it");
     }
     std::map<std::string, std::set<std::string>> list;
     std::string library;
@@ -62,6 +68,8 @@ std::map<std::string, std::set<std::string>> readList() {
     }
     return list;
 }
+
+const char *g_imports = ZQDIAL_IMPORTS;
 
 std::string nameHere(const std::string &symbol) {
     if (!macho::kIs64 && kNamesOf32Bits.contains(symbol)) {
@@ -100,12 +108,16 @@ bool isLeftOut(const std::string &part) {
     return given && part == given;
 }
 
+void useImportsOf(Kind kind) {
+    g_imports = kind == Kind::Program ? ZQDIAL_PROGRAM_IMPORTS : ZQDIAL_IMPORTS;
+}
+
 void *findImport(const std::string &library, const std::string &symbol) {
-    static const auto kList = readList();
+    static const auto kList = readList(g_imports);
     const auto symbols = kList.find(library);
     if (symbols == kList.end() || !symbols->second.contains(symbol)) {
         throw Fault("it imports " + symbol + " from " + library,
-                    "list it in device/imports.txt, if iOS 7 has it there");
+                    std::string("list it in ") + g_imports + ", if iOS 7 has it there");
     }
     if (const Substitute *own = isLeftOut(symbol) ? nullptr : substituteFor(symbol)) {
         void *const code = reinterpret_cast<void *>(own->code);

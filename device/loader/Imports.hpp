@@ -6,6 +6,10 @@
 
 namespace loader {
 
+enum class Kind : unsigned char { Library, Program };
+/// Which list counts from now on: the library's, unless this is called.
+void useImportsOf(Kind kind);
+
 /// The address for the image; raises Fault if the import is not listed or nobody here offers it.
 void *findImport(const std::string &library, const std::string &symbol);
 

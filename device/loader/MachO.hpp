@@ -8,7 +8,7 @@ namespace loader::macho {
 using Word = uintptr_t;
 inline constexpr bool kIs64 = sizeof(Word) == 8;
 
-inline constexpr uint32_t kFatMagic = 0xcafebabe, kDylib = 6;
+inline constexpr uint32_t kFatMagic = 0xcafebabe, kProgram = 2, kDylib = 6;
 inline constexpr uint32_t kMagic = kIs64 ? 0xfeedfacf : 0xfeedface;
 inline constexpr uint32_t kProcessor = kIs64 ? 0x0100000c : 12;
 inline constexpr auto kSliceName = kIs64 ? "arm64" : "armv7";
@@ -24,6 +24,7 @@ enum CommandKind : uint32_t {
     kFunctionStarts = 0x26,
     kNewerLoader = 0x80000000,  // set in whatever a loader must know
     kWeakLibrary = 0x80000018,
+    kMain = 0x80000028,
     kDyldInfoOnly = kDyldInfo | kNewerLoader,
     kChainedFixups = 0x80000034,
 };

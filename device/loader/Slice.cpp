@@ -50,7 +50,8 @@ class Reader {
             throw Fault(std::string("it is no Mach-O file for ") + kSliceName);
         }
         const auto header = bytes_.at<Header>(0);
-        if (header.processor != kProcessor || header.type != kDylib) {
+        slice_.isProgram = header.type == kProgram;
+        if (header.processor != kProcessor || (header.type != kDylib && !slice_.isProgram)) {
             throw Fault(std::string("it is no library for ") + kSliceName);
         }
         size_t at = kHeaderSize;
@@ -62,7 +63,7 @@ class Reader {
         if (slice_.segments.empty() || slice_.segments.front().address != 0) {
             throw Fault("its first segment does not begin at 0");
         }
-        if (!hasInfo_ || slice_.initRoutine == 0) {
+        if (!hasInfo_ || (slice_.initRoutine == 0 && !slice_.isProgram)) {
             throw Fault(hasInfo_ ? "it names no init routine" : "it has no LC_DYLD_INFO");
         }
     }
@@ -88,6 +89,8 @@ class Reader {
             slice_.functionStarts = {data.offset, data.size};
             break;
         }
+        case kMain:  // its place is that of its export
+            break;
         case kWeakLibrary:
             throw Fault("it loads a library weakly", kNotForUs);
         case kChainedFixups:
@@ -111,7 +114,13 @@ class Reader {
     }
 
     void readSegment(Bytes command) {
-        const auto segment = command.at<SegmentCommand>(0);
+        auto segment = command.at<SegmentCommand>(0);
+        if (segment.protection == 0) {  // a program's guard against null pointers
+            slice_.preferredBase = segment.size;
+            slice_.segments.emplace_back();
+            return;
+        }
+        segment.address -= slice_.preferredBase;
         constexpr Word kMost = 1 << 24;  // which no add-on needs
         if (segment.address > kMost || segment.size > kMost || segment.fileSize > segment.size) {
             throw Fault("its segment " + fixedName(segment.name) + " lies beyond any memory");
@@ -138,9 +147,9 @@ class Reader {
             throw Fault("it has a section " + name, kNotForUs);
         }
         if (name == "__stub_helper") {
-            slice_.stubHelper = {section.address, section.size};
+            slice_.stubHelper = {section.address - slice_.preferredBase, section.size};
         } else if (name == "__unwind_info") {
-            slice_.unwindInfo = {section.address, section.size};
+            slice_.unwindInfo = {section.address - slice_.preferredBase, section.size};
         }
     }
 

@@ -27,7 +27,10 @@ struct Slice {
     std::vector<Segment> segments;
     std::vector<std::string> libraries;  // by ordinal, from 1 on
     Range rebases, binds, lazyBinds, exports, functionStarts;
+    /// Where the file would have its first byte in memory. All addresses here count from there.
+    uint64_t preferredBase = 0;
     uint64_t initRoutine = 0;
+    bool isProgram = false;        // to be called by its main, and with imports of its own
     Range stubHelper, unwindInfo;  // in memory
 
     /// Reads and checks a thin or fat file; raises Fault for what the loader would have to guess.

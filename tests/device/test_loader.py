@@ -1,6 +1,7 @@
 """Libraries that the loader must refuse, and changes that the tests around it must notice."""
 import struct
 from collections.abc import Callable
+from pathlib import Path
 
 from checker import macho
 from checker.macho import Slice
@@ -115,6 +116,23 @@ NOTICED: list[tuple[str, Changes, str, str]] = [
 ]
 
 
+# What phonecheck finds the tests' own Foundation and companion to lack, on iOS 7.1.
+CONTRADICTED = """\
+class ZQBlackListService: there is none
+class ZQHistoryRecord: there is none
+class ZQPartnerItem: there is none
+class ZQPartnerManager: there is none
+class ZQPingBackService: there is none
+class ZQWeiboProfile: there is none
+-[ZQContactService isInAddressBook:]: there is no such method
++[ZQUIUtil getSubView:ofClass:]: there is no such method
+"""
+CONTRADICTED_ARM64 = (
+    "-[NSString stringByAddingPercentEscapesUsingEncoding:]: is '@20@0:8I16', "
+    "expected id(NSStringEncoding)\n"
+)
+
+
 class LoaderFaults(Scratch):
     def setUp(self) -> None:
         super().setUp()
@@ -134,14 +152,18 @@ class LoaderFaults(Scratch):
             data[start : start + len(new)] = new
         self.broken.write_bytes(data)
 
-    def host(self, arch: str, group: str, left_out: str = "") -> tuple[int, str]:
-        """Runs a group of tests around the changed library."""
+    def emulated(self, arch: str, *arguments: str | Path, left_out: str = "") -> tuple[int, str]:
+        """Runs the tests' host."""
         emulator, packages = EMULATORS[arch]
         return run(
             *("env", f"LOADER_LEAVES_OUT={left_out}", "OUTSIDE_SYSTEM_VERSION=7.0"),
             *(emulator, "-L", BUILD / f"sysroot-{packages}", BUILD / arch / "outside/outside-host"),
-            *(self.broken, PHONE, "on", group),
+            *arguments,
         )
+
+    def host(self, arch: str, group: str, left_out: str = "") -> tuple[int, str]:
+        """Runs a group of tests around the changed library."""
+        return self.emulated(arch, self.broken, PHONE, "on", group, left_out=left_out)
 
     def refused_by_host(self, arch: str, *pieces: str) -> None:
         code, printed = self.host(arch, "in-call view")
@@ -187,6 +209,24 @@ class LoaderFaults(Scratch):
                     self.assertEqual(code, 1, printed)
                     self.assertRegex(printed, "expected|ended by signal")
                     self.assertNotIn("loader: ", printed)
+
+    def test_command_for_phones(self) -> None:
+        for arch in self.slices:
+            with self.subTest(slice=arch):
+                command = BUILD / "phonecheck", PHONE, "command"
+                code, printed = self.emulated(arch, *command, "7.1")
+                lines = printed.splitlines(keepends=True)
+                found = "".join(line for line in lines if "phonecheck: " not in line)
+                self.assertEqual(
+                    (code, found), (1, (arch == "arm64") * CONTRADICTED_ARM64 + CONTRADICTED)
+                )
+                self.assertRegex(
+                    lines[-1], r"^phonecheck: iOS 7.1: 29\d entries as expected, \d not$"
+                )
+                self.assertIn("MobilePhone was not loaded: ", printed)
+                code, printed = self.emulated(arch, *command, "6.1")
+                self.assertEqual(code, 2)
+                self.assertIn("no classes are known for iOS '6.1': say 7.0, 7.1 or 8.0", printed)
 
     def test_packages_that_cannot_be_had(self) -> None:
         folder = self.folder / "sysroot"

@@ -1,5 +1,6 @@
 // A Phone application of somebody else's that loads the add-on: host LIBRARY IDENTIFIER
-// on|bare|off [GROUP]. It prints what is not as it should be, and exits with 1 if anything was.
+// on|bare|off [GROUP]. It prints what is not as it should be, and exits with 1 if anything was. Or it
+// runs a command among its classes: host COMMAND IDENTIFIER command [ARGUMENT].
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -114,6 +115,16 @@ static void addScrollViewOfCells() {
     objc_registerClassPair(cls);
 }
 
+static int runCommand(int argc, char **argv) {
+    void *command = dlopen(g_library, RTLD_NOW);
+    void *start = command ? dlsym(command, "main") : nullptr;
+    if (!start) {
+        std::printf("%s\n", dlerror());
+        return 1;
+    }
+    return ((int (*)(int, char **))start)(argc, argv);
+}
+
 int main(int argc, char **argv) {
     if (argc < 4) {
         std::fprintf(stderr, "usage: host LIBRARY IDENTIFIER on|bare|off [GROUP]\n");
@@ -136,6 +147,9 @@ int main(int argc, char **argv) {
                              (IMP)bundleIdentifier);
     if (!isRun(kBare)) {
         addScrollViewOfCells();
+    }
+    if (std::strcmp(argv[3], "command") == 0) {
+        return runCommand(argc - 3, argv + 3);
     }
     const int faults = Group::runAll(loadAddOn, argc > 4 ? argv[4] : "");
     std::printf("%d faults\n", faults);
