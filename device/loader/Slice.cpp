@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <fstream>
-#include <iterator>
 #include <set>
 
 #include "MachO.hpp"
@@ -16,11 +15,14 @@ using namespace macho;
 constexpr auto kNotForUs = "iOS 7 or this loader cannot have it, so keep it out of the library";
 
 std::vector<uint8_t> wholeFile(const char *path) {
-    std::ifstream stream(path, std::ios::binary);
+    std::ifstream stream(path, std::ios::binary | std::ios::ate);
     if (!stream) {
         throw Fault(std::strerror(errno));
     }
-    return {std::istreambuf_iterator<char>(stream), {}};
+    std::vector<uint8_t> bytes(stream.tellg());
+    stream.seekg(0);
+    stream.read(reinterpret_cast<char *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    return bytes;
 }
 
 Bytes sliceOf(Bytes file) {

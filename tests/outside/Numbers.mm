@@ -5,7 +5,9 @@ NSString *kZQBrandServiceBrandNameKey = @"name";
 NSString *kZQBrandServiceBrandLogoPathKey = @"logo";
 
 static NSString *digits(NSString *text) {
-    NSCharacterSet *others = [[NSCharacterSet decimalDigitCharacterSet] invertedSet];
+    // Made once: it takes as long as all the rest.
+    static NSCharacterSet *const others =
+        [[[NSCharacterSet decimalDigitCharacterSet] invertedSet] retain];
     return [[text componentsSeparatedByCharactersInSet:others] componentsJoinedByString:@""];
 }
 
