@@ -18,6 +18,13 @@ TextStyle textStyle(NSDictionary attributes, const TextStyle &missing) {
             SimColor::of(color.as<UIColor>(), missing.color)};
 }
 
+NSDictionary attributesAtFirst(NSAttributedString text) {
+    return objc::send<NSUInteger()>(text, "length"_sel) > 0
+               ? objc::send<NSDictionary(NSUInteger, NSRange *)>(
+                     text, "attributesAtIndex:effectiveRange:"_sel, 0, nullptr)
+               : NSDictionary();
+}
+
 StyledText styledText(NSAttributedString text, const TextStyle &missing) {
     StyledText result;
     result.text = units(objc::send<NSString()>(text, "string"_sel));

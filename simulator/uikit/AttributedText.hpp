@@ -12,4 +12,7 @@ StyledText styledText(NSAttributedString text, const TextStyle &missing);
 /// The style that one dictionary of attributes describes.
 TextStyle textStyle(NSDictionary attributes, const TextStyle &missing);
 
+/// The attributes of the first position; nil for a text without one.
+NSDictionary attributesAtFirst(NSAttributedString text);
+
 }  // namespace sim

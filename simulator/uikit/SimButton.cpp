@@ -58,7 +58,7 @@ NSString SimButton::titleForState(NSUInteger state) const { return titles_.at(st
 
 void SimButton::setTitle(NSString title, NSUInteger state) {
     titles_.set(sim::copied(title), state);
-    updateParts();
+    partsHaveChanged();
 }
 
 UIColor SimButton::titleColorForState(NSUInteger state) const {
@@ -72,14 +72,14 @@ UIColor SimButton::titleColorForState(NSUInteger state) const {
 
 void SimButton::setTitleColor(UIColor color, NSUInteger state) {
     titleColors_.set(Owned<UIColor>::share(color), state);
-    updateParts();
+    partsHaveChanged();
 }
 
 UIImage SimButton::imageForState(NSUInteger state) const { return images_.at(state); }
 
 void SimButton::setImage(UIImage image, NSUInteger state) {
     images_.set(Owned<UIImage>::share(image), state);
-    updateParts();
+    partsHaveChanged();
 }
 
 UIImage SimButton::backgroundImageForState(NSUInteger state) const {
@@ -123,6 +123,10 @@ void SimButton::updateParts() {
     if (imageView_ || currentImage() != nullptr) {
         objc::send<void(UIImage)>(id(*imageView()), "setImage:"_sel, currentImage());
     }
+}
+
+void SimButton::partsHaveChanged() {
+    updateParts();
     setNeedsLayout();
 }
 

@@ -64,6 +64,7 @@ class SimButton : public SimControl {
     CGSize titleSize() const;
     CGSize imageSize() const;
     void updateParts();
+    void partsHaveChanged();
     void setInsets(UIEdgeInsets &insets, UIEdgeInsets value);
 
     PerState<NSString> titles_;

@@ -8,6 +8,9 @@
 class SimDeleteConfirmationButton : public SimButton {
   public:
     static void define();
+
+    /// All the room between its margins, or as wide as the title where that is wider.
+    CGRect titleRectForContentRect(CGRect content) const;
 };
 
 /// UITableViewCellDeleteConfirmationView

@@ -39,8 +39,16 @@ NSString SimLabel::text() const {
 }
 
 void SimLabel::setText(NSString text) {
+    const bool isNew = attributedText_ || !isSameText(text_, text);
     text_ = sim::copied(text);
     attributedText_ = {};
+    if (isNew) {
+        textHasChanged();
+    }
+}
+
+void SimLabel::textHasChanged() {
+    objc::send<void()>(id(*this), "invalidateIntrinsicContentSize"_sel);
 }
 
 NSAttributedString SimLabel::attributedText() const {
@@ -61,6 +69,12 @@ void SimLabel::setAttributedText(NSAttributedString text) {
     attributedText_ =
         Owned<NSAttributedString>::adopt(objc::send<NSAttributedString()>(text, "copy"_sel));
     text_ = {};
+    const auto first = sim::attributesAtFirst(attributedText_);
+    const auto font = first.objectForKey(NSObject(NSFontAttributeName)).as<UIFont>();
+    const auto color = first.objectForKey(NSObject(NSForegroundColorAttributeName)).as<UIColor>();
+    font_ = font != nullptr ? Owned<UIFont>::share(font) : std::move(font_);
+    textColor_ = color != nullptr ? Owned<UIColor>::share(color) : std::move(textColor_);
+    textHasChanged();
 }
 
 void SimLabel::setFont(UIFont font) {

@@ -11,9 +11,11 @@ class SimLabel : public SimView {
     id initWithFrame(CGRect frame);
 
     NSString text() const;
-    /// Replaces an attributed text as well.
+    /// Replaces an attributed text as well. Views above that are under Auto Layout are laid out
+    /// anew when the text is another one.
     void setText(NSString text);
     NSAttributedString attributedText() const;
+    /// Font and colour become those of its first position, where it has any.
     void setAttributedText(NSAttributedString text);
     UIFont font() const { return font_; }
     /// Nil brings back the default, the system font of 17 points.
@@ -41,6 +43,7 @@ class SimLabel : public SimView {
     void drawTextInRect(CGRect rect);
 
   private:
+    void textHasChanged();
     sim::StyledText styled() const;
     sim::TextLayout laidOut(CGSize room, NSInteger lines) const;
     /// The text in the largest font that fits `width` on one line, where the label is so set.

@@ -1,8 +1,12 @@
 // UIView's geometry, look and layout; the tree and the touches are in SimViewTree.cpp.
 #include "uikit/SimView.hpp"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "uikit/Autoresizing.hpp"
+#include "uikit/Device.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 #include "uikit/SimColor.hpp"
@@ -31,10 +35,21 @@ void SimView::setFrame(CGRect frame) {
     if (std::isnan(frame.origin.x + frame.origin.y + frame.size.width + frame.size.height)) {
         sim::raise("CALayerInvalidGeometry"_ns, "a frame with a number that is none (NaN)"_ns);
     }
-    if (frame.size != frame_.size) {
+    const CGSize before = std::exchange(frame_, frame).size;
+    if (frame.size != before) {
         needsLayout_ = true;
+        autoresize(before, frame.size);
     }
-    frame_ = frame;
+}
+
+void SimView::autoresize(CGSize before, CGSize now) {
+    for (std::size_t i = 0; autoresizesSubviews_ && i < subviews_.size(); ++i) {
+        const auto held = Owned<UIView>::share(subviews_[i]);
+        const NSUInteger mask = instance<SimView>(held)->autoresizingMask_;
+        if (mask != 0) {
+            held->setFrame(sim::autoresized(held->frame(), mask, before, now));
+        }
+    }
 }
 
 void SimView::setBounds(CGRect bounds) {
@@ -78,24 +93,54 @@ SimLayer *SimView::layer() const {
     return instance<SimLayer>(layer_.get());
 }
 
+bool SimView::needsLayoutWithin() const {
+    return needsLayout_ || std::ranges::any_of(subviews_, [](const Owned<UIView> &subview) {
+               return instance<SimView>(subview.get())->needsLayoutWithin();
+           });
+}
+
 void SimView::layoutIfNeeded() {
+    constexpr int kMostPasses = 50;
+    for (int pass = 0; needsLayoutWithin(); ++pass) {
+        if (pass == kMostPasses) {
+            sim::raise("NSInternalInconsistencyException"_ns,
+                       "the layout does not come to rest: each pass asks for another"_ns);
+        }
+        layOutOnce();
+    }
+}
+
+void SimView::layOutOnce() {
     if (needsLayout_) {
         needsLayout_ = false;
         objc::send<void(SimLayer *)>(id(*this), "layoutSublayersOfLayer:"_sel, layer());
     }
     // Subviews get no message of their own, since it is their layers that UIKit walks. A layout may
     // add and remove views, so each is held while it is laid out.
-    for (std::size_t i = 0; i < subviews_.size(); ++i) {
-        auto *const subview = instance<SimView>(subviews_[i].get());
+    std::size_t next = 0;
+    while (next < subviews_.size()) {
+        const UIView view = subviews_[next++].get();
+        auto *const subview = instance<SimView>(view);
         if (subview->needsLayout_ || !subview->subviews_.empty()) {
-            const auto held = Owned<UIView>::share(subviews_[i]);
-            subview->SimView::layoutIfNeeded();
+            const auto held = Owned<UIView>::share(view);
+            subview->layOutOnce();
         }
     }
 }
 
 void SimView::layoutSublayersOfLayer(NSObject) {
     objc::send<void()>(id(*this), "layoutSubviews"_sel);
+    if (constraints_ && needsConstraints_ && !sim::Device::current().isAtLeast(8, 0)) {
+        sim::raise("NSInternalInconsistencyException"_ns,
+                   "Auto Layout still required after executing -layoutSubviews"_ns);
+    }
+}
+
+void SimView::layoutSubviews() {
+    needsConstraints_ = false;
+    if (constraints_) {
+        constraints_();
+    }
 }
 
 CGSize SimView::sizeThatFits(CGSize) const { return frame_.size; }
@@ -106,7 +151,11 @@ void SimView::sizeToFit() {
 }
 
 void SimView::invalidateIntrinsicContentSize() {
-    objc::send<void()>(handle<UIView>(superview_), "setNeedsLayout"_sel);
+    for (SimView *view = superview_; view != nullptr; view = view->superview_) {
+        if (view->constraints_) {
+            objc::send<void()>(id(*view), "setNeedsLayout"_sel);
+        }
+    }
 }
 
 void SimView::define() {
@@ -122,6 +171,10 @@ void SimView::define() {
             .method("setBounds:"_sel, member<&SimView::setBounds>)
             .method("center"_sel, member<&SimView::center>)
             .method("setCenter:"_sel, member<&SimView::setCenter>)
+            .method("autoresizingMask"_sel, member<&SimView::autoresizingMask>)
+            .method("setAutoresizingMask:"_sel, member<&SimView::setAutoresizingMask>)
+            .method("autoresizesSubviews"_sel, member<&SimView::autoresizesSubviews>)
+            .method("setAutoresizesSubviews:"_sel, member<&SimView::setAutoresizesSubviews>)
             .method("isHidden"_sel, member<&SimView::isHidden>)
             .method("setHidden:"_sel, member<&SimView::setHidden>)
             .method("alpha"_sel, member<&SimView::alpha>)

@@ -2,6 +2,7 @@
 // set and frames read back exactly; the bounds have the frame's size.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "uikit/ContentMode.hpp"
@@ -31,6 +32,12 @@ class SimView : public SimResponder {
     void setBounds(CGRect bounds);
     CGPoint center() const;
     void setCenter(CGPoint center);
+
+    /// See Autoresizing. Without a mask the view stays where it is, as large as it is.
+    NSUInteger autoresizingMask() const { return autoresizingMask_; }
+    void setAutoresizingMask(NSUInteger mask) { autoresizingMask_ = mask; }
+    bool autoresizesSubviews() const { return autoresizesSubviews_; }
+    void setAutoresizesSubviews(bool autoresizes) { autoresizesSubviews_ = autoresizes; }
 
     bool isHidden() const { return hidden_; }
     void setHidden(bool hidden) { hidden_ = hidden; }
@@ -76,13 +83,20 @@ class SimView : public SimResponder {
     // Layout, by message: a view that needs it is laid out by way of its layer, whose delegate it
     // is. That message sends layoutSubviews even while layoutSubviews runs.
     void setNeedsLayout() { needsLayout_ = true; }
+    /// Pass by pass, until nothing below needs another one. Raises when it never comes to rest.
     void layoutIfNeeded();
+    /// Before iOS 8 a view under Auto Layout raises here when it got a subview after UIView's own
+    /// layoutSubviews had been there.
     void layoutSublayersOfLayer(NSObject layer);
-    void layoutSubviews() {}
+    /// Places the subviews as the view's constraints say.
+    void layoutSubviews();
+    /// What stands for constraints: it places subviews, and brings the view under Auto Layout.
+    void setConstraints(std::function<void()> place) { constraints_ = std::move(place); }
     CGSize sizeThatFits(CGSize room) const;
     void sizeToFit();
     /// -1 stands for no width or height of its own.
     CGSize intrinsicContentSize() const { return {-1, -1}; }
+    /// All views above that are under Auto Layout need to be laid out.
     void invalidateIntrinsicContentSize();
 
     /// The renderer sends drawRect: on every pass, so there is nothing to be remembered.
@@ -106,10 +120,14 @@ class SimView : public SimResponder {
     void insert(SimView *view, std::size_t index);
     void detach();
     std::size_t indexOf(const SimView *view) const;
+    void autoresize(CGSize before, CGSize now);
+    bool needsLayoutWithin() const;
+    void layOutOnce();
 
     SimView *superview_ = nullptr;
     SimViewController *controller_ = nullptr;
     std::vector<objc::Owned<UIView>> subviews_;
+    std::function<void()> constraints_;
     objc::Owned<UIColor> backgroundColor_;
     objc::Owned<UIColor> tintColor_;
     mutable objc::Owned<NSObject> layer_;
@@ -117,9 +135,12 @@ class SimView : public SimResponder {
     CGPoint boundsOrigin_{};
     CGFloat alpha_ = 1;
     NSInteger tag_ = 0;
+    NSUInteger autoresizingMask_ = 0;
     ContentMode contentMode_ = ContentMode::ScaleToFill;
     bool hidden_ = false;
     bool opaque_ = true;
     bool userInteractionEnabled_ = true;
+    bool autoresizesSubviews_ = true;
     bool needsLayout_ = true;
+    bool needsConstraints_ = true;  // since a subview came
 };

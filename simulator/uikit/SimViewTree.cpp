@@ -77,6 +77,7 @@ void SimView::insert(SimView *view, std::size_t index) {
     subviews_.insert(subviews_.begin() + static_cast<std::ptrdiff_t>(index),
                      Owned<UIView>::share(added.get()));
     view->superview_ = this;
+    needsConstraints_ = true;
     objc::send<void(SimView *)>(id(*this), "didAddSubview:"_sel, view);
     objc::send<void()>(added, "didMoveToSuperview"_sel);
     if (view->window() != windowBefore) {

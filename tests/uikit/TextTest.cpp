@@ -34,7 +34,15 @@ TEST_F(Labels, KeepACopyOfTheirTextPlainOrAttributedWhicheverCameLast) {
     label_->setAttributedText(
         objc::create<NSAttributedString(NSString)>("initWithString:"_sel, "attributed"_ns));
     EXPECT_EQ(sim::utf8(label_->text()), "attributed");
+    EXPECT_EQ(label_->font().pointSize(), 17) << "the text names none";
+    const UIFont small = UIFont::systemFontOfSize(11);
+    const id font = small;
+    const id key = NSFontAttributeName;
+    label_->setAttributedText(objc::create<NSAttributedString(NSString, NSDictionary)>(
+        "initWithString:attributes:"_sel, "small"_ns,
+        NSDictionary::withObject(NSObject(font), NSObject(key))));
     label_->setText(nullptr);
+    EXPECT_EQ(label_->font(), small) << "the first position's stays";
     EXPECT_EQ(label_->text(), nullptr);
     EXPECT_EQ(label_->attributedText(), nullptr);
 }

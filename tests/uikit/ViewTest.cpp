@@ -1,8 +1,12 @@
 // UIView: geometry, the tree and who owns whom, layout by message, touches.
 #include <cmath>
+#include <tuple>
 
 #include "UIKitTestCase.hpp"
+#include "uikit/Autoresizing.hpp"
+#include "uikit/Device.hpp"
 #include "uikit/Registration.hpp"
+#include "uikit/SimLabel.hpp"
 #include "uikit/SimWindow.hpp"
 #include "uikit/ViewTree.hpp"
 
@@ -22,6 +26,7 @@ class CountingView : public SimView {
     void layoutSubviews() {
         ++layouts;
         objc::sendSuper<CountingView, void()>(this, "layoutSubviews"_sel);
+        addSubview(std::exchange(late, nullptr));
         if (nestedPasses-- > 0) {
             layOutLayer();
         }
@@ -34,6 +39,7 @@ class CountingView : public SimView {
     std::string windows;
     int layouts = 0;
     int nestedPasses = 0;
+    SimView *late = nullptr;  // added behind UIView's own layout
 
     static Class define() {
         static const Class g_class = sim::defined(
@@ -47,6 +53,15 @@ class CountingView : public SimView {
 };
 
 id asId(SimView *view) { return *view; }
+
+bool hasThrown(auto work) {
+    try {
+        work();
+    } catch (...) {
+        return true;
+    }
+    return false;
+}
 
 TEST_F(Views, KeepFramesExactlyAndDeriveTheRest) {
     auto *const view = this->view(rect(0.1, 0.2, 33.3, 7.7));
@@ -140,6 +155,53 @@ TEST_F(Views, LayOutOnceWhenNeededAndHearOfWindows) {
     EXPECT_EQ(inner->layouts, 6) << "a pass of the layer is one of the view, even within a pass";
     outer->removeFromSuperview();
     EXPECT_EQ(inner->windows, "+-");
+}
+
+TEST_F(Views, GiveWayByTheirMasksWhenTheSuperviewGetsAnotherSize) {
+    const struct {
+        NSUInteger mask;
+        CGRect after;
+    } rows[] = {
+        {0, rect(15, 20, 40, 40)},
+        {kFlexibleLeftMargin, rect(75, 20, 40, 40)},
+        {kFlexibleWidth, rect(15, 20, 100, 40)},
+        {kFlexibleRightMargin, rect(15, 20, 40, 40)},
+        {kFlexibleLeftMargin | kFlexibleRightMargin, rect(30, 20, 40, 40)},
+        {kFlexibleLeftMargin | kFlexibleWidth | kFlexibleRightMargin, rect(24, 20, 64, 40)},
+        {kFlexibleTopMargin | kFlexibleHeight, rect(15, 30, 40, 60)},
+    };
+    for (const auto &[mask, after] : rows) {
+        auto *const outer = view(rect(0, 0, 100, 100));
+        auto *const inner = view(rect(15, 20, 40, 40));
+        outer->addSubview(inner);
+        inner->setAutoresizingMask(mask);
+        outer->setFrame(rect(5, 5, 160, 130));
+        EXPECT_EQ(inner->frame(), after) << mask;
+    }
+}
+
+TEST_F(Views, UnderAutoLayoutComeToRestOrComplain) {
+    auto *const view = this->view<CountingView>({}, CountingView::define());
+    auto *const label = this->view<SimLabel>({}, "UILabel"_cls);
+    int passes = 0;
+    view->setConstraints([&] { ++passes; });
+    view->addSubview(label);
+    for (const char *const text : {"a", "a", "b"}) {
+        label->setText(sim::string(text));
+        layOut(view);
+    }
+    EXPECT_EQ(passes, 2) << "one for every new text";
+    view->setConstraints([&] { label->setText(sim::string(std::to_string(++passes))); });
+    view->setNeedsLayout();
+    EXPECT_ANY_THROW(layOut(view)) << "each pass asks for another";
+    view->setConstraints([] {});
+    for (const auto &[version, passesOfTheLayer, complains] :
+         {std::tuple{"7.1", 0, true}, {"7.1", 1, false}, {"8.0", 0, false}}) {
+        sim::Device::setCurrent({version, {320, 568}, 2});
+        view->late = this->view();
+        view->nestedPasses = passesOfTheLayer;
+        EXPECT_EQ(hasThrown([&] { view->layOutLayer(); }), complains) << version;
+    }
 }
 
 TEST_F(Views, ConvertAndHitThroughScrolledBounds) {
