@@ -130,6 +130,7 @@ inline constexpr Member kAppleMembers[] = {
     {"NSNotification", "-name", "id()", kPublic},
     {"NSNotification", "-userInfo", "id()", kPublic},
     {"NSAttributedString", "-initWithString:", "id(id)", kPublic},
+    {"NSAttributedString", "-string", "id()", kPublic},
     {"NSMutableAttributedString", "-addAttribute:value:range:", "void(id, id, NSRange)", kPublic},
     {"NSFileManager", "+defaultManager", "id()", kPublic},
     {"NSFileManager", "-fileExistsAtPath:", "BOOL(id)", kPublic},

@@ -51,12 +51,18 @@ objc::Owned<NSString> taglineToRepeat(UILabel label, bool from80) {
 
 void showText(NSString tagline, const KnownNumber &known, UILabel label) {
     label.setHidden(false);
-    label.setText(tagline ? format<"%@  %@">(tagline, known.info.get()) : known.info.get());
+    const NSString text = tagline ? format<"%@  %@">(tagline, known.info.get()) : known.info.get();
     // A foreign number's warning has a label of its own.
-    if (!known.isForeign) {
-        if (const auto attributed = twoToned(known.info)) {
-            label.setAttributedText(attributed.get());
-        }
+    const auto attributed =
+        known.isForeign ? objc::Owned<NSMutableAttributedString>() : twoToned(known.info);
+    const NSString shown =
+        attributed ? objc::send<NSString()>(attributed.get(), "string"_sel) : text;
+    if (isSameText(shown, label.text())) {
+        return;  // a new text would ask for another pass
+    }
+    label.setText(text);
+    if (attributed) {
+        label.setAttributedText(attributed.get());
     }
 }
 
