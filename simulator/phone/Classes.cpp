@@ -1,9 +1,9 @@
 // Makes all classes known when the library is mapped, superclasses first.
 #include "phone/Classes.hpp"
 
-#include "phone/contact/ABContact.hpp"
 #include "phone/contact/ABContactViewController.hpp"
 #include "phone/contact/ABNewPersonViewController.hpp"
+#include "phone/contact/CNContact.hpp"
 #include "phone/dialer/DialerController.hpp"
 #include "phone/dialer/DialerView.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
@@ -14,7 +14,6 @@
 #include "phone/incall/InCallController.hpp"
 #include "phone/incall/InCallLCDField.hpp"
 #include "phone/incall/InCallLCDView.hpp"
-#include "phone/incall/TPLCDLabelView.hpp"
 #include "phone/incall/TPLCDTextView.hpp"
 #include "phone/incall/TPWallpaperView.hpp"
 #include "phone/recents/PHCallInfoView.hpp"
@@ -41,7 +40,6 @@ __attribute__((constructor)) void defineClasses() {
 
     TUTelephonyCall::define();
     TPLCDTextView::define();
-    TPLCDLabelView::define();
     TPLCDView::define();
     InCallLCDView::define();
     InCallLCDField::define();
@@ -58,7 +56,7 @@ __attribute__((constructor)) void defineClasses() {
     PHRecentsViewController::define();
 
     ABContactNumber::define();
-    ABContact::define();
+    CNContact::define();
     ABContactView::define();
     ABContactHeaderView::define();
     ABContactHeaderDisplayView::define();

@@ -6,6 +6,12 @@
 #include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 
+namespace {
+
+int g_draggedCount = 0;
+
+}  // namespace
+
 id SimScrollView::initWithFrame(CGRect frame) {
     objc::sendSuper<SimScrollView, id(CGRect)>(this, "initWithFrame:"_sel, frame);
     setClipsToBounds(true);
@@ -40,7 +46,21 @@ CGPoint SimScrollView::nearestRest(CGPoint offset) const {
             std::max(-contentInset_.top, std::min(offset.y, bottom))};
 }
 
-void SimScrollView::endDragging(CGPoint velocity, CGPoint target) {
+bool SimScrollView::isAnyDragging() { return g_draggedCount > 0; }
+
+void SimScrollView::beginDragging() {
+    g_draggedCount += dragging_ ? 0 : 1;
+    dragging_ = true;
+}
+
+void SimScrollView::cancelDragging() {
+    g_draggedCount -= dragging_ ? 1 : 0;
+    dragging_ = false;
+}
+
+void SimScrollView::endDragging(CGPoint velocity) {
+    CGPoint target = contentOffset();
+    cancelDragging();
     constexpr auto kWillEnd = "scrollViewWillEndDragging:withVelocity:targetContentOffset:"_sel;
     const NSObject delegate(delegate_);
     if (delegate != nullptr && delegate.respondsToSelector(kWillEnd)) {
@@ -65,6 +85,7 @@ void SimScrollView::define() {
                      .method("setContentInset:"_sel, member<&S::setContentInset>)
                      .method("isScrollEnabled"_sel, member<&S::isScrollEnabled>)
                      .method("setScrollEnabled:"_sel, member<&S::setScrollEnabled>)
+                     .method("isDragging"_sel, member<&S::isDragging>)
                      .method("delegate"_sel, member<&S::delegate>)
                      .method("setDelegate:"_sel, member<&S::setDelegate>)
                      .finish());

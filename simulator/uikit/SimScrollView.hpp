@@ -7,6 +7,8 @@ class SimScrollView : public SimView {
   public:
     static void define();
 
+    ~SimScrollView() { cancelDragging(); }
+
     id initWithFrame(CGRect frame);
     CGPoint contentOffset() const { return bounds().origin; }
     void setContentOffset(CGPoint offset);
@@ -22,10 +24,18 @@ class SimScrollView : public SimView {
     /// Not retained; it hears scrollViewDidScroll:.
     void setDelegate(NSObject delegate) { delegate_ = delegate; }
 
+    /// A finger drags the content.
+    bool isDragging() const { return dragging_; }
+    /// A finger drags any scroll view's content: the main run loop is in the mode of that, in which
+    /// what belongs to its default mode waits.
+    static bool isAnyDragging();
+    void beginDragging();
     /// The finger is lifted. The delegate is asked through
     /// scrollViewWillEndDragging:withVelocity:targetContentOffset: where to come to rest; it finds
-    /// `target` and may change it.
-    void endDragging(CGPoint velocity, CGPoint target);
+    /// the offset that there is and may change it.
+    void endDragging(CGPoint velocity);
+    /// The finger is gone, and the content stays where it is.
+    void cancelDragging();
     /// The offset nearest to this one at which content and insets fill the view.
     CGPoint nearestRest(CGPoint offset) const;
 
@@ -36,4 +46,5 @@ class SimScrollView : public SimView {
     CGSize contentSize_{};
     UIEdgeInsets contentInset_{};
     bool scrollEnabled_ = true;
+    bool dragging_ = false;
 };

@@ -194,5 +194,7 @@ void SimTableViewCell::define() {
                      .method("layoutSubviews"_sel, member<&C::layoutSubviews>)
                      .method("drawRect:"_sel, member<&C::drawRect>)
                      .method("deletePressed:"_sel, member<&C::deletePressed>)
+                     .method("scrollViewWillEndDragging:withVelocity:targetContentOffset:"_sel,
+                             member<&C::scrollViewWillEndDragging>)
                      .finish());
 }

@@ -49,10 +49,11 @@ class SimTableViewCell : public SimView {
     bool beginSwipe();
     /// The finger moves, a few points at a time, until the content lies that far to the left.
     void dragSwipeTo(CGFloat points);
-    /// The finger is lifted, at a velocity in points a millisecond, positive to the left. By the
-    /// system's choice a cell stays open that shows half of what it has to reveal; its own
-    /// scrollViewWillEndDragging:withVelocity:targetContentOffset: may choose otherwise.
+    /// The finger is lifted, at a velocity in points a millisecond, positive to the left.
     void endSwipe(CGFloat velocity);
+    /// The system's choice, whatever `target` was before: a cell that moves goes on as it does, one
+    /// that stands opens when it shows half of what it has to reveal; open is wholly open.
+    void scrollViewWillEndDragging(SimScrollView *scrollView, CGPoint velocity, CGPoint *target);
     /// Back to the plain cell, however far it was swiped.
     void closeSwipe();
     /// What a swipe reveals, in points; 0 in a cell that is not swiped.

@@ -3,16 +3,15 @@
 
 #include "uikit/Registration.hpp"
 
-id SimTableViewCellScrollView::initWithFrame(CGRect frame) {
-    objc::sendSuper<SimTableViewCellScrollView, id(CGRect)>(this, "initWithFrame:"_sel, frame);
-    setClipsToBounds(false);  // what the cell reveals lies outside
-    return *this;
+void SimTableViewCellScrollView::setContentOffset(CGPoint offset) {
+    objc::sendSuper<SimTableViewCellScrollView, void(CGPoint)>(this, "setContentOffset:"_sel,
+                                                               offset);
 }
 
 void SimTableViewCellScrollView::define() {
-    sim::defined(
-        "UITableViewCellScrollView",
-        objc::ClassBuilder<SimTableViewCellScrollView>("UITableViewCellScrollView", "UIScrollView")
-            .method("initWithFrame:"_sel, objc::member<&SimTableViewCellScrollView::initWithFrame>)
-            .finish());
+    using Self = SimTableViewCellScrollView;
+    sim::defined("UITableViewCellScrollView",
+                 objc::ClassBuilder<Self>("UITableViewCellScrollView", "UIScrollView")
+                     .method("setContentOffset:"_sel, objc::member<&Self::setContentOffset>)
+                     .finish());
 }

@@ -8,5 +8,5 @@ class SimTableViewCellScrollView : public SimScrollView {
   public:
     static void define();
 
-    id initWithFrame(CGRect frame);
+    void setContentOffset(CGPoint offset);
 };

@@ -22,11 +22,12 @@ void setRightInset(SimScrollView *view, CGFloat points) {
 }  // namespace
 
 bool SimTableViewCell::beginSwipe() {
+    if (!scrollView_ || (editing_ && !isSwiped())) {
+        return false;
+    }
+    scrollView()->beginDragging();
     if (isSwiped()) {
         return true;
-    }
-    if (!scrollView_ || editing_) {
-        return false;
     }
     confirmation_ = SimDeleteConfirmationView::make(bounds().size, handle<NSObject>(this));
     scrollView_->addSubview(confirmation_);
@@ -49,20 +50,26 @@ void SimTableViewCell::endSwipe(CGFloat velocity) {
     if (!isSwiped()) {
         return;
     }
-    const CGFloat width = swipeWidth();
-    const bool halfOpen = scrollView()->contentOffset().x >= width / 2;
-    const bool staysOpen = velocity > 0 || (velocity == 0 && halfOpen);
-    setRightInset(scrollView(), staysOpen ? width : 0);
-    scrollView()->endDragging({velocity, 0}, {staysOpen ? width : 0, 0});
+    scrollView()->endDragging({velocity, 0});
     if (scrollView()->contentOffset().x <= 0) {
         closeSwipe();
     }
+}
+
+void SimTableViewCell::scrollViewWillEndDragging(SimScrollView *scrollView, CGPoint velocity,
+                                                 CGPoint *target) {
+    const CGFloat width = isSwiped() ? swipeWidth() : 0;
+    const bool halfOpen = scrollView->contentOffset().x >= width / 2;
+    const bool staysOpen = velocity.x > 0 || (velocity.x == 0 && halfOpen);
+    setRightInset(scrollView, staysOpen ? width : 0);
+    *target = {staysOpen ? width : 0, 0};
 }
 
 void SimTableViewCell::closeSwipe() {
     if (!isSwiped()) {
         return;
     }
+    scrollView()->cancelDragging();
     setRightInset(scrollView(), 0);
     objc::send<void(CGPoint)>(scrollView_, "setContentOffset:"_sel, CGPoint{});
     const auto confirmation = std::exchange(confirmation_, {});

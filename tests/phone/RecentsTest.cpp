@@ -60,6 +60,17 @@ TEST_F(Recents, ManyRowsShareAFewCells) {
 
 TEST_F(Recents, SwipesOpenOrShutByHalf) {
     start({{.number = "13000000001", .date = kNoon}, {.number = "13000000002", .date = kNoon}});
+    ASSERT_TRUE(list_->swipe(0, 20));
+    layOut();
+    const UIView confirmation =
+        list_->cell(0)->scrollView()->subviews().objectAtIndex(1).as<UIView>();
+    const UIView button = confirmation.subviews().objectAtIndex(0).as<UIView>();
+    EXPECT_EQ(confirmation.frame(), rect(320, 0, 82, 48));
+    EXPECT_EQ(button.frame(), rect(0, 0, 82, 47.5));
+    EXPECT_EQ(button.subviews().objectAtIndex(0).as<UIView>().frame(), rect(15, 12.75, 52, 22));
+    confirmation.setFrame(rect(320, 0, 144, 48));
+    EXPECT_EQ(button.frame(), rect(62, 0, 82, 47.5)) << "it keeps to the right";
+    list_->closeSwipe();
     const struct {
         CGFloat points, velocity, rest;
     } rows[] = {{40, 0, 0}, {41, 0, 82}, {10, 1, 82}, {80, -1, 0}};
@@ -129,6 +140,8 @@ TEST_F(Recents, CallsKnowWhatTheirSystemKnows) {
         EXPECT_EQ(isNew ? send<int32_t()>(call.get(), "callStatus"_sel)
                         : send<int32_t()>(call.get(), "type"_sel),
                   8);
+        EXPECT_STREQ(class_getName(object_getClass(call.get())),
+                     isNew ? "CHRecentCall" : "PHRecentCall");
         EXPECT_EQ(objc::read<NSObject>(NSObject(*list_), "_table"_ivar), NSObject(*list_->table()));
     }
 }

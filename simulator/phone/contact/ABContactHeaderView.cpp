@@ -29,7 +29,6 @@ void ABContactHeaderView::define() {
                      .method("setContact:"_sel, member<&Self::setContact>)
                      .method("isEditing"_sel, member<&Self::isEditing>)
                      .method("setEditing:"_sel, member<&Self::setEditing>)
-                     .method("layoutSubviews"_sel, member<&Self::layoutSubviews>)
                      .finish());
 }
 
@@ -40,6 +39,7 @@ id ABContactHeaderView::initWithFrame(CGRect frame) {
     taglineLabel_->setTextColor(color(142, 142, 147));
     asView(*this).addSubview(nameLabel_);
     asView(*this).addSubview(taglineLabel_);
+    setConstraints([this] { placeParts(); });
     return *this;
 }
 
@@ -68,7 +68,7 @@ CGFloat ABContactHeaderView::height() const {
     return nameRoom() + personHeaderView_->frame().size.height;
 }
 
-void ABContactHeaderView::layoutSubviews() {
+void ABContactHeaderView::placeParts() {
     const CGFloat width = asView(*this).bounds().size.width;
     const CGFloat textWidth = width - kLeft - kRight;
     nameLabel_->setFrame(rect(kLeft, kNameTop, textWidth, kNameHeight));

@@ -12,7 +12,7 @@ class ABContactHeaderView : public SimView {
     static void define();
 
     id initWithFrame(CGRect frame);
-    /// `contact` is an ABContact.
+    /// `contact` is a CNContact.
     void setContact(NSObject contact);
     NSObject contact() const { return contact_; }
     /// As high as it is now; nil for none.
@@ -21,7 +21,6 @@ class ABContactHeaderView : public SimView {
     CGFloat height() const;
     bool isEditing() const { return editing_; }
     void setEditing(bool editing) { editing_ = editing; }
-    void layoutSubviews();
 
     UILabel nameLabel() const { return nameLabel_; }
     UILabel taglineLabel() const { return taglineLabel_; }
@@ -29,6 +28,7 @@ class ABContactHeaderView : public SimView {
 
   private:
     CGFloat nameRoom() const;
+    void placeParts();
 
     objc::Owned<UILabel> nameLabel_;
     objc::Owned<UILabel> taglineLabel_;

@@ -10,7 +10,7 @@ class ABContactView : public SimTableView {
   public:
     static void define();
 
-    /// An ABContact.
+    /// A CNContact.
     NSObject contact() const { return contact_; }
     void setContact(NSObject contact) { contact_ = objc::Owned<NSObject>::share(contact); }
 

@@ -17,7 +17,7 @@ class ABContactViewController : public SimViewController {
 
     ~ABContactViewController();
 
-    /// `contact` is an ABContact; `personHeader`, which may be nil, lies at the bottom of its head:
+    /// `contact` is a CNContact; `personHeader`, which may be nil, lies at the bottom of its head:
     /// what the detail was opened for.
     void show(NSObject contact, UIView personHeader);
     NSObject contact() const { return contact_; }

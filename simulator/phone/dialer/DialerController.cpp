@@ -34,7 +34,7 @@ void DialerController::define() {
     using objc::member;
     using Self = DialerController;
     sim::defined("DialerController",
-                 objc::ClassBuilder<Self>("DialerController", "UIViewController")
+                 objc::ClassBuilder<Self>("DialerController", "PhoneViewController")
                      .ivar<&Self::newPerson_>("_newPersonViewController")
                      .method("loadView"_sel, member<&Self::loadView>)
                      .method("viewWillAppear:"_sel, member<&Self::viewWillAppear>)

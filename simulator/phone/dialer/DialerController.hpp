@@ -2,14 +2,14 @@
 #pragma once
 
 #include "phone/dialer/TypedNumber.hpp"
-#include "uikit/SimViewController.hpp"
+#include "phone/frame/PhoneViewController.hpp"
 
 namespace phone {
 
 class ABNewPersonViewController;
 class DialerView;
 
-class DialerController : public SimViewController {
+class DialerController : public PhoneViewController {
   public:
     static void define();
 

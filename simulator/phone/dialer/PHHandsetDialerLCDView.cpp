@@ -44,7 +44,6 @@ void PHHandsetDialerLCDView::define() {
                      .method("setName:numberLabel:"_sel, member<&Self::setNameNumberLabel>)
                      .method("touchesBegan:withEvent:"_sel, member<&Self::touchesBegan>)
                      .method("touchesEnded:withEvent:"_sel, member<&Self::touchesEnded>)
-                     .method("touchesCancelled:withEvent:"_sel, member<&Self::touchesCancelled>)
                      .finish());
 }
 
@@ -67,6 +66,7 @@ void PHHandsetDialerLCDView::setText(NSString number) { numberLabel_->setText(nu
 
 void PHHandsetDialerLCDView::setNameNumberLabel(NSString name, NSString label) {
     const bool isContact = hasText(name) || hasText(label);
+    line()->setPressed(false);
     offersToAdd_ = !isContact && hasText(numberLabel_->text());
     if (isContact) {
         line()->showContact(name, label);
@@ -89,7 +89,5 @@ void PHHandsetDialerLCDView::touchesEnded(NSObject touches, SimEvent *) {
                                    NSObject(*this));
     }
 }
-
-void PHHandsetDialerLCDView::touchesCancelled(NSObject, SimEvent *) { line()->setPressed(false); }
 
 }  // namespace phone

@@ -29,7 +29,6 @@ class PHHandsetDialerLCDView : public SimView {
 
     void touchesBegan(NSObject touches, SimEvent *event);
     void touchesEnded(NSObject touches, SimEvent *event);
-    void touchesCancelled(NSObject touches, SimEvent *event);
 
   private:
     PHHandsetDialerNameLabelView *line() const;

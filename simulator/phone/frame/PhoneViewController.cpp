@@ -1,4 +1,4 @@
-// Lists hear their appearance here first.
+// It adds nothing of its own: what its tabs have in common is their class.
 #include "phone/frame/PhoneViewController.hpp"
 
 #include "uikit/Registration.hpp"
@@ -6,15 +6,9 @@
 namespace phone {
 
 void PhoneViewController::define() {
-    sim::defined(
-        "PhoneViewController",
-        objc::ClassBuilder<PhoneViewController>("PhoneViewController", "UIViewController")
-            .method("viewWillAppear:"_sel, objc::member<&PhoneViewController::viewWillAppear>)
-            .finish());
-}
-
-void PhoneViewController::viewWillAppear(bool animated) {
-    objc::sendSuper<PhoneViewController, void(bool)>(this, "viewWillAppear:"_sel, animated);
+    sim::defined("PhoneViewController",
+                 objc::ClassBuilder<PhoneViewController>("PhoneViewController", "UIViewController")
+                     .finish());
 }
 
 }  // namespace phone

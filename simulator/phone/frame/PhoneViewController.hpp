@@ -1,4 +1,4 @@
-// The base of the application's lists.
+// The base of the application's tabs: the keypad, the favourites and the recents.
 #pragma once
 
 #include "uikit/SimViewController.hpp"
@@ -8,8 +8,6 @@ namespace phone {
 class PhoneViewController : public SimViewController {
   public:
     static void define();
-
-    void viewWillAppear(bool animated);
 };
 
 }  // namespace phone

@@ -74,7 +74,7 @@ void InCallController::callStatusChanged(NSNotification notification) {
     const auto ended = calls_.statusChanged(
         info.objectForKey("TUCallCenterCall"_ns),
         static_cast<CallStatus>(objc::send<int32_t()>(status, "intValue"_sel)));
-    currentCallCount_ = static_cast<int>(calls_.count());
+    currentCallCount_ = static_cast<unsigned>(calls_.count());
     if (calls_.count() > 0) {
         ended_.reset();
     } else if (ended) {

@@ -73,7 +73,7 @@ class InCallController : public SimViewController {
     void showCalls();
 
     CallList calls_;
-    int currentCallCount_ = 0;
+    unsigned currentCallCount_ = 0;
     Display display_ = Display::View;
     std::optional<DisplayContent> ended_;
     CallClock clock_;

@@ -6,11 +6,9 @@
 namespace phone {
 
 void InCallLCDField::define() {
-    using objc::member;
     sim::defined("InCallLCDField",
                  objc::ClassBuilder<InCallLCDField>("InCallLCDField", "TPLCDView")
-                     .method("initWithFrame:"_sel, member<&InCallLCDField::initWithFrame>)
-                     .method("layoutSubviews"_sel, member<&InCallLCDField::layoutSubviews>)
+                     .method("initWithFrame:"_sel, objc::member<&InCallLCDField::initWithFrame>)
                      .finish());
 }
 

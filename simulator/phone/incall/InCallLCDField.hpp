@@ -10,7 +10,6 @@ class InCallLCDField : public TPLCDView {
     static void define();
 
     id initWithFrame(CGRect frame);
-    void layoutSubviews() { layOut(Display::Field); }
 };
 
 }  // namespace phone

@@ -12,4 +12,8 @@ void InCallLCDView::define() {
                      .finish());
 }
 
+void InCallLCDView::layoutSubviews() {
+    objc::sendSuper<InCallLCDView, void()>(this, "layoutSubviews"_sel);
+}
+
 }  // namespace phone

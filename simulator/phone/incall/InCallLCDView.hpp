@@ -8,7 +8,7 @@ namespace phone {
 class InCallLCDView : public TPLCDView {
   public:
     static void define();
-    void layoutSubviews() { layOut(Display::View); }
+    void layoutSubviews();
 };
 
 }  // namespace phone

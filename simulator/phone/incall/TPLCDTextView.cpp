@@ -1,4 +1,4 @@
-// The in-call display's text view draws its text itself.
+// The in-call display's text views.
 #include "phone/incall/TPLCDTextView.hpp"
 
 #include <algorithm>
@@ -14,39 +14,59 @@ void TPLCDTextView::define() {
     sim::defined("TPLCDTextView", objc::ClassBuilder<Self>("TPLCDTextView", "UIView")
                                       .ivar<&Self::text_>("_text")
                                       .ivar<&Self::font_>("_font")
+                                      .ivar<&Self::fontSize_>("_fontSize")
                                       .method("text"_sel, member<&Self::text>)
                                       .method("setText:"_sel, member<&Self::setText>)
-                                      .method("isTextCentered"_sel, member<&Self::isTextCentered>)
                                       .method("setCenterText:"_sel, member<&Self::setCenterText>)
-                                      .method("font"_sel, member<&Self::font>)
                                       .method("setLCDTextFont:"_sel, member<&Self::setLCDTextFont>)
+                                      .method("textRect"_sel, member<&Self::textRect>)
                                       .method("drawRect:"_sel, member<&Self::drawRect>)
                                       .finish());
 }
 
+objc::Owned<UIView> TPLCDTextView::make(Line line) {
+    auto view = makeView<TPLCDTextView>({});
+    sim::instance<TPLCDTextView>(view)->line_ = line;
+    return view;
+}
+
 void TPLCDTextView::setText(NSString text) { text_ = sim::copied(text); }
 
-void TPLCDTextView::setLCDTextFont(UIFont font) { font_ = objc::Owned<UIFont>::share(font); }
+void TPLCDTextView::setLCDTextFont(UIFont font) {
+    font_ = objc::Owned<UIFont>::share(font);
+    fontSize_ = font.pointSize();
+}
+
+CGSize TPLCDTextView::sizeIn(UIFont font) const {
+    return objc::send<CGSize(UIFont)>(text_.get(), "sizeWithFont:"_sel, font);
+}
 
 UIFont TPLCDTextView::fontToFit(CGFloat width) const {
     constexpr CGFloat kSmallest = 0.7;
-    const CGFloat wanted =
-        objc::send<CGSize(UIFont)>(text_.get(), "sizeWithFont:"_sel, font_).width;
-    if (wanted <= width) {
+    const CGFloat wanted = sizeIn(font_).width;
+    if (line_ == Line::Label || wanted <= width) {
         return font_;
     }
-    const auto points = objc::send<CGFloat()>(font_.get(), "pointSize"_sel);
     return objc::send<UIFont(CGFloat)>(font_.get(), "fontWithSize:"_sel,
-                                       points * std::max(width / wanted, kSmallest));
+                                       fontSize_ * std::max(width / wanted, kSmallest));
+}
+
+CGRect TPLCDTextView::textRect() const {
+    const CGSize room = asView(*this).bounds().size;
+    const CGSize size = sizeIn(fontToFit(room.width));
+    const CGFloat width = std::min(size.width, room.width);
+    return rect(centred_ ? (room.width - width) / 2 : 0,
+                line_ == Line::Name ? 0 : (room.height - size.height) / 2, width, size.height);
 }
 
 void TPLCDTextView::drawRect(CGRect) {
+    using sim::TextAlignment;
     const CGFloat width = asView(*this).bounds().size.width;
-    const UIFont font = fontToFit(width);
-    // One line, however high the view is.
-    const CGFloat height = objc::send<CGFloat()>(font, "lineHeight"_sel);
-    drawLine(text_, font, rect(0, 0, width, height),
-             centred_ ? sim::TextAlignment::Center : sim::TextAlignment::Left,
+    const CGRect text = textRect();
+    // A name is centred by the drawing itself, a label by its rectangle.
+    const bool isName = line_ == Line::Name;
+    drawLine(text_, fontToFit(width), isName ? rect(0, 0, width, text.size.height) : text,
+             isName && centred_ ? TextAlignment::Center : TextAlignment::Left,
              UIColor::whiteColor());
 }
 

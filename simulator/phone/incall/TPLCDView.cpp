@@ -1,7 +1,6 @@
 // The in-call displays' parts. Whatever changes, the next layout places all of them anew.
 #include "phone/incall/TPLCDView.hpp"
 
-#include "phone/incall/TPLCDLabelView.hpp"
 #include "phone/incall/TPLCDTextView.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
@@ -29,10 +28,11 @@ void place(const Row &row, CGRect nameFrame, CGRect labelFrame, const DisplayFra
     const auto text = objc::send<NSString()>(row.name, "text"_sel);
     objc::send<void(UIFont)>(row.name, "setLCDTextFont:"_sel,
                              fittingFont(text, nameFrame.size.width, frames));
-    objc::send<void(float)>(row.label, "setFontSize:"_sel, static_cast<float>(frames.labelPoints));
+    objc::send<void(UIFont)>(row.label, "setLCDTextFont:"_sel,
+                             UIFont::systemFontOfSize(frames.labelPoints));
     objc::send<void(bool)>(row.name, "setCenterText:"_sel, centred);
     objc::send<void(bool)>(row.label, "setCenterText:"_sel,
-                           objc::send<bool()>(row.name, "isTextCentered"_sel));
+                           sim::instance<TPLCDTextView>(row.name)->isTextCentered());
 }
 
 }  // namespace
@@ -40,7 +40,11 @@ void place(const Row &row, CGRect nameFrame, CGRect labelFrame, const DisplayFra
 void TPLCDView::define() {
     using objc::member;
     using Self = TPLCDView;
-    sim::defined("TPLCDView", objc::ClassBuilder<Self>("TPLCDView", "UIView")
+    sim::defined("TPLCDBar", objc::ClassBuilder<TPLCDBar>("TPLCDBar", "UIView").finish());
+    sim::defined(
+        "TPLCDSubImageView",
+        objc::ClassBuilder<TPLCDSubImageView>("TPLCDSubImageView", "UIImageView").finish());
+    sim::defined("TPLCDView", objc::ClassBuilder<Self>("TPLCDView", "TPLCDBar")
                                   .ivar<&Self::textView_>("_textView")
                                   .ivar<&Self::labelView_>("_labelView")
                                   .ivar<&Self::secondTextView_>("_secondTextView")
@@ -48,6 +52,7 @@ void TPLCDView::define() {
                                   .ivar<&Self::imageView_>("_imageView")
                                   .ivar<&Self::contentView_>("_contentView")
                                   .method("initWithFrame:"_sel, member<&Self::initWithFrame>)
+                                  .method("layoutSubviews"_sel, member<&Self::layoutSubviews>)
                                   .method("setText:"_sel, member<&Self::setText>)
                                   .method("setLabel:"_sel, member<&Self::setLabel>)
                                   .method("setSecondText:"_sel, member<&Self::setSecondText>)
@@ -59,15 +64,17 @@ void TPLCDView::define() {
 
 id TPLCDView::initWithFrame(CGRect frame) {
     objc::sendSuper<TPLCDView, id(CGRect)>(this, "initWithFrame:"_sel, frame);
-    textView_ = makeView<TPLCDTextView>({});
-    labelView_ = makeView<TPLCDLabelView>({});
-    secondTextView_ = makeView<TPLCDTextView>({});
-    secondLabelView_ = makeView<TPLCDLabelView>({});
+    using Line = TPLCDTextView::Line;
+    textView_ = TPLCDTextView::make(Line::Name);
+    labelView_ = TPLCDTextView::make(Line::Label);
+    secondTextView_ = TPLCDTextView::make(Line::Name);
+    secondLabelView_ = TPLCDTextView::make(Line::Label);
     addLines();
     return *this;
 }
 
 void TPLCDView::useContentView() {
+    display_ = Display::Field;
     contentView_ = makeView<SimView>(asView(*this).bounds());
     asView(*this).addSubview(contentView_);
     addLines();
@@ -106,8 +113,7 @@ void TPLCDView::setImage(UIImage image) {
         imageView_->removeFromSuperview();
         imageView_ = {};
     } else if (!imageView_) {
-        auto view = objc::create<UIImageView(CGRect)>("initWithFrame:"_sel, CGRect{});
-        imageView_ = objc::Owned<UIView>::adopt(view.leak());
+        imageView_ = makeView<TPLCDSubImageView>({});
         holder().addSubview(imageView_);
     }
     objc::send<void(UIImage)>(imageView_.get(), "setImage:"_sel, image);
@@ -128,9 +134,9 @@ void TPLCDView::placeImage(CGRect frame) const {
     }
 }
 
-void TPLCDView::layOut(Display display) {
+void TPLCDView::layoutSubviews() {
     const DisplayFrames frames = displayFrames(
-        {display, currentInCallLook().isTall(), static_cast<bool>(imageView_), hasTwoRows_});
+        {display_, currentInCallLook().isTall(), static_cast<bool>(imageView_), hasTwoRows_});
     const bool centred = centred_ && !hasTwoRows_;
     contentView_->setFrame(asView(*this).bounds());
     place({textView_, labelView_}, frames.text, frames.label, frames, centred);

@@ -4,12 +4,19 @@
 
 #include "phone/Parts.hpp"
 #include "phone/incall/InCallGeometry.hpp"
-#include "uikit/SimView.hpp"
+#include "uikit/SimImageView.hpp"
 
 namespace phone {
 
-class TPLCDView : public SimView {
+/// A strip across the screen.
+class TPLCDBar : public SimView {};
+
+/// The contact's picture.
+class TPLCDSubImageView : public SimImageView {};
+
+class TPLCDView : public TPLCDBar {
   public:
+    /// The other two as well.
     static void define();
 
     id initWithFrame(CGRect frame);
@@ -23,12 +30,12 @@ class TPLCDView : public SimView {
     /// Whether a single call's name and label stand in the middle or at the left. Those of two
     /// calls always stand at the left.
     void setCenterText(bool centred);
+    /// Puts every part in its place and says how the texts are to be written.
+    void layoutSubviews();
 
   protected:
-    /// Puts every part in its place and says how the texts are to be written.
-    void layOut(Display display);
-    /// Moves the lines into a view of their own, inside this one; to be called before there is
-    /// more.
+    /// Makes a field of it: the lines move into a view of their own, inside this one. To be called
+    /// before there is more.
     void useContentView();
 
   private:
@@ -42,6 +49,7 @@ class TPLCDView : public SimView {
     objc::Owned<UIView> secondLabelView_;
     objc::Owned<UIView> imageView_;
     objc::Owned<UIView> contentView_;
+    Display display_ = Display::View;
     bool hasTwoRows_ = false;
     bool centred_ = true;
 };

@@ -1,7 +1,7 @@
 // Contacts of calls.
 #include "phone/recents/CallContact.hpp"
 
-#include "phone/contact/ABContact.hpp"
+#include "phone/contact/CNContact.hpp"
 #include "phone/dialer/TypedNumber.hpp"
 #include "phone/incall/CallList.hpp"
 #include "uikit/Foundation.hpp"
@@ -24,12 +24,12 @@ NSArray numbersOf(const std::vector<ContactNumber> &numbers) {
 
 NSObject contactOf(const PHRecentCall &call) {
     if (const Contact *const known = call.contact()) {
-        return ABContact::make(
+        return CNContact::make(
                    {known->recordId, sim::string(known->name), {}, numbersOf(known->numbers)})
             .autorelease();
     }
     const RecentCallFacts &facts = call.facts();
-    return ABContact::make({-1, sim::string(callerWith(facts.number).name),
+    return CNContact::make({-1, sim::string(callerWith(facts.number).name),
                             sim::string(facts.label), numbersOf({{facts.number, "电话"}})})
         .autorelease();
 }

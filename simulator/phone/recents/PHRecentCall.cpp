@@ -1,4 +1,4 @@
-// Calls of the recents list, one class for each generation of the system.
+// Calls of the recents list: PHRecentCall of iOS 7 and CHRecentCall of iOS 8.
 #include "phone/recents/PHRecentCall.hpp"
 
 #include "phone/Parts.hpp"
@@ -9,9 +9,8 @@
 namespace phone {
 namespace {
 
-// The same object under the names that a system knows it by.
-class CallBefore8 : public PHRecentCall {};
-class CallFrom8 : public PHRecentCall {};
+// The same object under the names that iOS 8 knows it by.
+class CHRecentCall : public PHRecentCall {};
 
 enum Status : int32_t { Answered = 1, Dialled = 2, Missed = 8 };
 
@@ -25,19 +24,17 @@ objc::Owned<PHRecentCall *> make() {
 void PHRecentCall::define() {
     using objc::member;
     using Self = PHRecentCall;
-    sim::defined("PHRecentCall", objc::ClassBuilder<Self>("PHRecentCall", "NSObject")
-                                     .method("date"_sel, member<&Self::date>)
-                                     .finish());
-    sim::defined("PHRecentCallBefore8",
-                 objc::ClassBuilder<CallBefore8>("PHRecentCallBefore8", "PHRecentCall")
-                     .method("type"_sel, member<&Self::status>)
+    sim::defined("PHRecentCall",
+                 objc::ClassBuilder<Self>("PHRecentCall", "NSObject")
+                     .method("date"_sel, member<&Self::date>)
+                     .method("type"_sel, member<&Self::type>)
                      .method("destination"_sel, member<&Self::number>)
                      .method("addressBookRecord"_sel, member<&Self::addressBookRecord>)
-                     .method("addressBookDestination"_sel, member<&Self::addressBookRecord>)
                      .finish());
-    sim::defined("PHRecentCallFrom8",
-                 objc::ClassBuilder<CallFrom8>("PHRecentCallFrom8", "PHRecentCall")
-                     .method("callStatus"_sel, member<&Self::status>)
+    sim::defined("CHRecentCall",
+                 objc::ClassBuilder<CHRecentCall>("CHRecentCall", "NSObject")
+                     .method("date"_sel, member<&Self::date>)
+                     .method("callStatus"_sel, member<&Self::callStatus>)
                      .method("callerId"_sel, member<&Self::number>)
                      .method("addressBookRecordId"_sel, member<&Self::addressBookRecordId>)
                      .finish());
@@ -48,7 +45,8 @@ objc::Owned<NSObject> PHRecentCall::create(const RecentCallFacts &facts) {
     if (!facts.name.empty() && !facts.number.empty() && book.owner(facts.number) == nullptr) {
         book.add({facts.name, {{facts.number, facts.label}}});
     }
-    auto call = sim::Device::current().isAtLeast(8, 0) ? make<CallFrom8>() : make<CallBefore8>();
+    auto call =
+        sim::Device::current().isAtLeast(8, 0) ? make<CHRecentCall>() : make<PHRecentCall>();
     call->facts_ = facts;
     if (facts.date) {
         call->date_ = objc::Owned<NSDate>::share(objc::send<NSDate(double)>(
@@ -60,22 +58,22 @@ objc::Owned<NSObject> PHRecentCall::create(const RecentCallFacts &facts) {
     return std::move(call).as<NSObject>();
 }
 
-int32_t PHRecentCall::status() const {
+int32_t PHRecentCall::type() const {
     if (!facts_.incoming) {
         return Dialled;
     }
     return facts_.answered ? Answered : Missed;
 }
 
-int32_t PHRecentCall::addressBookRecordId() const {
+NSString PHRecentCall::addressBookRecordId() const {
     const Contact *const known = contact();
-    return known != nullptr ? known->recordId : 0;
+    return known != nullptr ? sim::string(std::to_string(known->recordId)) : NSString();
 }
 
-NSObject PHRecentCall::addressBookRecord() const {
+const void *PHRecentCall::addressBookRecord() const {
     const Contact *const known = contact();
     if (known == nullptr) {
-        return {};
+        return nullptr;
     }
     std::vector<id> values;
     std::vector<id> labels;
@@ -88,7 +86,8 @@ NSObject PHRecentCall::addressBookRecord() const {
                                    sim::array(std::span<const id>(labels)));
     return makeRecord("ABPersonRecord", "initWithName:phones:"_sel, sim::string(known->name),
                       phones.get())
-        .autorelease();
+        .autorelease()
+        .get();
 }
 
 }  // namespace phone

@@ -23,8 +23,8 @@ struct RecentCallFacts {
     std::optional<double> date{};  ///< seconds since 1970
 };
 
-/// Has `date` (NSDate or nil) and, before iOS 8, `type`, `destination`, `addressBookRecord` and
-/// `addressBookDestination`; from iOS 8 on `callStatus`, `callerId` and `addressBookRecordId`.
+/// Has `date` (NSDate or nil), `type`, `destination` and `addressBookRecord`; from iOS 8 on it is a
+/// CHRecentCall, which has `date`, `callStatus`, `callerId` and `addressBookRecordId`.
 class PHRecentCall : public objc::Instance {
   public:
     static void define();
@@ -43,11 +43,12 @@ class PHRecentCall : public objc::Instance {
     /// Nil for a caller who hid it.
     NSString number() const { return number_; }
     /// 1 answered, 8 missed, 2 dialled.
-    int32_t status() const;
-    /// An ABPersonRecord with the contact's name and numbers; nil for a stranger's call.
-    NSObject addressBookRecord() const;
-    /// 0 for a stranger's call.
-    int32_t addressBookRecordId() const;
+    int32_t type() const;
+    uint32_t callStatus() const { return static_cast<uint32_t>(type()); }
+    /// An ABPersonRecord with the contact's name and numbers; null for a stranger's call.
+    const void *addressBookRecord() const;
+    /// Nil for a stranger's call.
+    NSString addressBookRecordId() const;
 
   private:
     RecentCallFacts facts_;

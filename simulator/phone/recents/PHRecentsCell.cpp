@@ -8,7 +8,6 @@
 #include "phone/recents/UIDateLabel.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
-#include "uikit/SimScrollView.hpp"
 
 namespace phone {
 namespace {
@@ -41,11 +40,15 @@ void PHRecentsCell::define() {
                      .method("initWithStyle:reuseIdentifier:"_sel, member<&Self::initWithStyle>)
                      .method("call"_sel, member<&Self::call>)
                      .method("setCall:"_sel, member<&Self::setCall>)
-                     .method("layoutSubviews"_sel, member<&Self::layoutSubviews>)
                      .method("setEditing:animated:"_sel, member<&Self::setEditingAnimated>)
-                     .method("scrollViewWillEndDragging:withVelocity:targetContentOffset:"_sel,
-                             member<&Self::scrollViewWillEndDragging>)
                      .finish());
+}
+
+PHRecentsCell::~PHRecentsCell() {
+    // Somebody may hold the content view for longer.
+    if (SimView *const content = contentView()) {
+        content->setConstraints({});
+    }
 }
 
 id PHRecentsCell::initWithStyle(NSInteger style, NSString reuseIdentifier) {
@@ -67,28 +70,23 @@ id PHRecentsCell::initWithStyle(NSInteger style, NSString reuseIdentifier) {
     for (const UIView part : parts) {
         asView(*contentView()).addSubview(part);
     }
+    contentView()->setConstraints([this] { placeParts(); });
     return *this;
 }
 
 void PHRecentsCell::setCall(NSObject call) {
     call_ = objc::Owned<NSObject>::share(call);
-    const auto *const known = sim::instance<PHRecentCall>(call);
-    texts_ = known != nullptr ? callerTexts(*known) : CallerTexts{};
+    if (const auto *const known = sim::instance<PHRecentCall>(call)) {
+        showCall(*known);
+    }
     setNeedsLayout();
 }
 
-void PHRecentsCell::layoutSubviews() {
-    objc::sendSuper<PHRecentsCell, void()>(this, "layoutSubviews"_sel);
-    if (const auto *const call = sim::instance<PHRecentCall>(call_)) {
-        showCall(*call);
-    }
-    placeParts();
-}
-
 void PHRecentsCell::showCall(const PHRecentCall &call) {
-    callerNameLabel_->setText(sim::string(texts_.name));
+    const CallerTexts texts = callerTexts(call);
+    callerNameLabel_->setText(sim::string(texts.name));
     callerNameLabel_->setTextColor(call.isMissed() ? color(255, 59, 48) : UIColor::blackColor());
-    callerLabelLabel_->setText(sim::string(texts_.label));
+    callerLabelLabel_->setText(sim::string(texts.label));
     outgoingGlyph_->setHidden(call.facts().incoming);
     const auto &date = call.facts().date;
     const RecentsDate shown = date && today_ ? recentsDate(*date, *today_) : RecentsDate{};
@@ -114,8 +112,7 @@ void PHRecentsCell::placeParts() {
 void PHRecentsCell::setEditingAnimated(bool editing, bool animated) {
     objc::sendSuper<PHRecentsCell, void(bool, bool)>(this, "setEditing:animated:"_sel, editing,
                                                      animated);
+    contentView()->setNeedsLayout();
 }
-
-void PHRecentsCell::scrollViewWillEndDragging(SimScrollView *, CGPoint, CGPoint *) {}
 
 }  // namespace phone

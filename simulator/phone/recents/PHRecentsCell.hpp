@@ -5,8 +5,6 @@
 #include "phone/recents/PHRecentCall.hpp"
 #include "uikit/SimTableViewCell.hpp"
 
-class SimScrollView;
-
 namespace phone {
 
 /// A caller in words: the contact or the number as the telephone writes it, and what stands below.
@@ -20,19 +18,19 @@ class PHRecentsCell : public SimTableViewCell {
   public:
     static void define();
 
+    ~PHRecentsCell();
+
     id initWithStyle(NSInteger style, NSString reuseIdentifier);
     /// The recent call that the row shows, a PHRecentCall or nil.
     NSObject call() const { return call_; }
+    /// The labels get their texts here, once.
     void setCall(NSObject call);
-    /// Any second of the day that counts as today, since 1970; none: the date is left out.
+    /// Any second of the day that counts as today, since 1970; none: the date is left out. To be
+    /// set before the call.
     void setToday(std::optional<double> seconds) { today_ = seconds; }
     UIView infoButton() const { return infoButton_; }
 
-    /// The line under the name gets its text here, on every layout.
-    void layoutSubviews();
     void setEditingAnimated(bool editing, bool animated);
-    /// The system's own choice of where a swipe comes to rest stands.
-    void scrollViewWillEndDragging(SimScrollView *scrollView, CGPoint velocity, CGPoint *target);
 
   private:
     void showCall(const PHRecentCall &call);
@@ -42,7 +40,6 @@ class PHRecentsCell : public SimTableViewCell {
     objc::Owned<UILabel> callerLabelLabel_;
     objc::Owned<UILabel> callerDateLabel_;
     objc::Owned<NSObject> call_;
-    CallerTexts texts_;  // of the call; finding them costs more than all the rest of a layout
     objc::Owned<UIView> infoButton_;
     objc::Owned<UIImageView> outgoingGlyph_;
     std::optional<double> today_;

@@ -206,7 +206,7 @@ void PHRecentsViewController::tell(NSObject controller, auto selector) {
     objc::send<void(bool)>(controller, selector, true);
 }
 
-NSObject PHRecentsViewController::showCallDetail(NSObject call, bool) {
+void PHRecentsViewController::showCallDetail(NSObject call, bool) {
     closeSwipe();
     back();
     detail_ = objc::make<ABContactViewController>().as<NSObject>();
@@ -219,7 +219,6 @@ NSObject PHRecentsViewController::showCallDetail(NSObject call, bool) {
     view()->addSubview(detail()->view());
     tell(self, "viewDidDisappear:"_sel);
     tell(detail_, "viewDidAppear:"_sel);
-    return detail_;
 }
 
 bool PHRecentsViewController::back() {
@@ -265,8 +264,8 @@ void PHRecentsViewController::infoPressed(NSObject button) {
     for (NSUInteger i = 0; i < cells.count(); ++i) {
         const auto *const pressed = sim::instance<PHRecentsCell>(cells.objectAtIndex(i));
         if (pressed->infoButton().get() == button.get()) {
-            objc::send<NSObject(NSObject, bool)>(*this, "showCallDetail:animate:"_sel,
-                                                 pressed->call(), true);
+            objc::send<void(NSObject, bool)>(*this, "showCallDetail:animate:"_sel, pressed->call(),
+                                             true);
             return;
         }
     }

@@ -58,8 +58,7 @@ class PHRecentsViewController : public PhoneViewController {
     void loadView();
     void viewWillAppear(bool animated);
     void viewWillDisappear(bool animated);
-    /// Returns the detail's controller.
-    NSObject showCallDetail(NSObject call, bool animate);
+    void showCallDetail(NSObject call, bool animate);
     /// Edit mode of the whole list, also sent by the button in the bar.
     void setEditingAnimated(bool editing, bool animated);
     void editPressed(NSObject sender);

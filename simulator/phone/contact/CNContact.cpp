@@ -1,5 +1,5 @@
 // Persons of the detail view and their numbers.
-#include "phone/contact/ABContact.hpp"
+#include "phone/contact/CNContact.hpp"
 
 #include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
@@ -41,10 +41,10 @@ objc::Owned<NSObject> ABContactNumber::make(NSString label, NSString formatted) 
     return std::move(number).as<NSObject>();
 }
 
-void ABContact::define() {
+void CNContact::define() {
     using objc::member;
-    using Self = ABContact;
-    sim::defined("ABContact", objc::ClassBuilder<Self>("ABContact", "NSObject")
+    using Self = CNContact;
+    sim::defined("CNContact", objc::ClassBuilder<Self>("CNContact", "NSObject")
                                   .method("recordID"_sel, member<&Self::recordID>)
                                   .method("name"_sel, member<&Self::name>)
                                   .method("tagline"_sel, member<&Self::tagline>)
@@ -52,8 +52,8 @@ void ABContact::define() {
                                   .finish());
 }
 
-objc::Owned<NSObject> ABContact::make(const Facts &facts) {
-    auto contact = objc::make<ABContact>();
+objc::Owned<NSObject> CNContact::make(const Facts &facts) {
+    auto contact = objc::make<CNContact>();
     contact->recordId_ = facts.recordId;
     contact->name_ = sim::copied(facts.name);
     contact->tagline_ = sim::copied(facts.tagline);

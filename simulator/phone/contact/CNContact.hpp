@@ -24,7 +24,7 @@ class ABContactNumber : public objc::Instance {
     objc::Owned<NSObject> value_;
 };
 
-class ABContact : public objc::Instance {
+class CNContact : public objc::Instance {
   public:
     static void define();
 
