@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "substrate/RuntimeMethods.hpp"
+#include "uikit/SimScrollView.hpp"
 
 namespace stage {
 
@@ -34,10 +35,15 @@ void DelayedMessages::take(id target, SEL, SEL selector, id argument, double sec
 }
 
 std::optional<DelayedMessages::Moment> DelayedMessages::next() const {
-    return waiting_.empty() ? std::nullopt : std::optional(waiting_.begin()->first);
+    return waiting_.empty() || SimScrollView::isAnyDragging()
+               ? std::nullopt
+               : std::optional(waiting_.begin()->first);
 }
 
 void DelayedMessages::sendDue(Moment now) {
+    if (SimScrollView::isAnyDragging()) {
+        return;
+    }
     // Taken out first: what a message asks for in turn is not sent before the next call.
     std::vector<Message> due;
     const auto end = waiting_.upper_bound(now);

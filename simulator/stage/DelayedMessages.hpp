@@ -1,7 +1,8 @@
 // Messages that objects ask to be sent later with performSelector:withObject:afterDelay:.
 // Foundation counts such a delay in real seconds; here it counts those of the simulation, so that
 // whatever waits, in the add-on, the companion or the Phone application, waits as long as on the
-// telephone however fast the simulation runs.
+// telephone however fast the simulation runs. They are sent in the run loop's default mode, so not
+// while a finger drags a list or a row.
 #pragma once
 
 #include <map>
@@ -21,9 +22,9 @@ class DelayedMessages {
     /// The ones of the process, which is from the first use on where such requests go.
     static DelayedMessages &shared();
 
-    /// When the next message is to be sent; nothing when none is waiting.
+    /// When the next message is to be sent; nothing when none is waiting, or a finger drags.
     std::optional<Moment> next() const;
-    /// Sends what is due, in the order of moments, then of requests.
+    /// Sends what is due, unless a finger drags, in the order of moments, then of requests.
     void sendDue(Moment now);
     void forgetAll() { waiting_.clear(); }
 

@@ -1,11 +1,15 @@
 // The recents screen for a long time: nothing may stay behind of what came and went.
 #include "phone/StageRun.hpp"
 #include "phone/recents/PHRecentCall.hpp"
+#include "phone/recents/PHRecentsCell.hpp"
 #include "phone/recents/PHRecentsViewController.hpp"
 #include "support/LiveObjects.hpp"
 #include "uikit/Foundation.hpp"
+#include "uikit/SimScrollView.hpp"
 
 namespace {
+
+using namespace std::chrono_literals;
 
 class RecentsSession : public test::StageRun, public testing::WithParamInterface<const char *> {
   protected:
@@ -29,6 +33,7 @@ class RecentsSession : public test::StageRun, public testing::WithParamInterface
         }
         list().setCalls(sim::array(calls));
     }
+    static bool canSwipe() { return std::string_view(GetParam()) < "8"; }
     phone::PHRecentsViewController &list() { return *session_.recents(); }
 
     /// Does it `count` times, and twice: what the first round leaves is the cache.
@@ -73,13 +78,46 @@ TEST_P(RecentsSession, TwoHundredDetailsLeaveNoObjectBehind) {
     });
 }
 
+TEST_P(RecentsSession, AReleasedRowIsWhollyOpenOrShutAsTheSystemDecides) {
+    show(3);
+    ASSERT_EQ(list().swipe(0, 1), canSwipe());
+    const struct {
+        CGFloat points, velocity, rest;
+    } rows[] = {{71, 0, 0}, {72, 0, 144}, {80, 0, 144}, {20, 1, 144}, {100, -1, 0}};
+    for (const auto &[points, velocity, rest] : rows) {
+        ASSERT_EQ(list().swipe(0, points) && list().releaseSwipe(velocity), canSwipe());
+        if (!canSwipe()) {
+            return;
+        }
+        EXPECT_EQ(list().cell(0)->scrollView()->contentOffset().x, rest) << points;
+        list().closeSwipe();
+    }
+}
+
+TEST_P(RecentsSession, TheEndOfEditModeIsHeardOfOnceNoFingerDrags) {
+    show(3);
+    const auto swiped = [&] {
+        EXPECT_EQ(list().swipe(0, 20), canSwipe());
+        return list().cell(0)->swipeWidth();
+    };
+    objc::send<void(bool, bool)>(list(), "setEditing:animated:"_sel, true, true);
+    session_.wait(1s);
+    objc::send<void(bool, bool)>(list(), "setEditing:animated:"_sel, false, true);
+    EXPECT_EQ(swiped(), canSwipe() ? 82 : 0) << "the row counts as edited with its list";
+    session_.wait(1s);
+    EXPECT_EQ(swiped(), canSwipe() ? 82 : 0) << "the finger still drags";
+    list().releaseSwipe(-1);
+    session_.wait(1s);
+    EXPECT_EQ(swiped(), canSwipe() ? 144 : 0);
+    list().releaseSwipe(-1);
+}
+
 TEST_P(RecentsSession, TwoHundredSwipesLeaveNoObjectBehind) {
     show(200);
-    const bool canSwipe = std::string_view(GetParam()) < "8";
     expectTheSameAgain(200, [&](int row) {
         ASSERT_TRUE(list().scrollToRow(row));
-        ASSERT_EQ(list().swipeOpen(row), canSwipe);
-        ASSERT_EQ(list().releaseSwipe(), canSwipe);
+        ASSERT_EQ(list().swipeOpen(row), canSwipe());
+        ASSERT_EQ(list().releaseSwipe(), canSwipe());
         list().closeSwipe();
     });
 }
