@@ -8,6 +8,7 @@
 #include "phone/dialer/DialerView.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
 #include "phone/dialer/PHHandsetDialerNameLabelView.hpp"
+#include "phone/favourites/PHFavoritesViewController.hpp"
 #include "phone/frame/PhoneStatusBar.hpp"
 #include "phone/frame/PhoneTabBarController.hpp"
 #include "phone/incall/InCallButton.hpp"
@@ -54,6 +55,7 @@ __attribute__((constructor)) void defineClasses() {
     PHCallInfoView::define();
     PHRecentsCell::define();
     PHRecentsViewController::define();
+    PHFavoritesViewController::define();
 
     ABContactNumber::define();
     CNContact::define();

@@ -82,7 +82,7 @@ std::vector<Scene> swipes() {
                 swiped(11)),
         before8("recents-swipe-address", "An e-mail address", "Delete alone.", swiped(20)),
         before8("recents-swipe-hidden", "A caller who hides", "Delete alone.", swiped(16)),
-        before8("recents-swipe-held", "A swipe of 80 points", "It stays where the finger left it.",
+        before8("recents-swipe-held", "A swipe of 80 points", "More than half the menu: it opens.",
                 swipedTo(1, 80)),
         before8("recents-swipe-short", "A swipe of 71 points",
                 "Less than half the menu: it closes.", swipedTo(1, 71)),

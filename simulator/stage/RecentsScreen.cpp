@@ -6,6 +6,7 @@
 
 #include "phone/contact/ABContactViewController.hpp"
 #include "phone/dialer/DialerController.hpp"
+#include "phone/favourites/PHFavoritesViewController.hpp"
 #include "phone/recents/PHRecentCall.hpp"
 #include "phone/recents/PHRecentsCell.hpp"
 #include "phone/recents/PHRecentsViewController.hpp"
@@ -98,7 +99,7 @@ void RecentsScreen::perform(const Step &step) {
         touchButton("--hold " + step.text, step.text, false);
         break;
     case Step::Kind::Tab:
-        switchTab(step.text == "away");
+        switchTab(step.text);
         break;
     case Step::Kind::Reload:
         announceNewData();
@@ -188,16 +189,23 @@ void RecentsScreen::touchButton(const std::string &step, const std::string &acti
     }
 }
 
-void RecentsScreen::switchTab(bool away) {
+void RecentsScreen::switchTab(const std::string &how) {
+    const bool away = how != "back";
     if (away == away_) {
-        throw Failure(away ? "--tab away: another tab is shown already; --tab back returns"
-                           : "--tab back: the recents are shown already; --tab away leaves them");
+        throw Failure("--tab " + how +
+                      (away ? ": another tab is shown already; --tab back returns"
+                            : ": the recents are shown already; --tab away leaves them"));
     }
-    if (away) {
+    if (!away) {
+        window_.showTab(phone::Tab::Recents, controller_);
+    } else if (how == "favourites") {
+        if (!favourites_) {
+            favourites_ = objc::make<phone::PHFavoritesViewController>().as<NSObject>();
+        }
+        window_.showTab(phone::Tab::Favourites, favourites_);
+    } else {
         const auto keypad = objc::make<phone::DialerController>().as<NSObject>();
         window_.showTab(phone::Tab::Keypad, keypad);
-    } else {
-        window_.showTab(phone::Tab::Recents, controller_);
     }
     away_ = away;
 }

@@ -45,10 +45,11 @@ class RecentsScreen : public Screen {
     void setEditing(bool on) const;
     void open(int row) const;
     void touchButton(const std::string &step, const std::string &action, bool lift);
-    void switchTab(bool away);
+    void switchTab(const std::string &how);
 
     PhoneWindow &window_;
     objc::Owned<NSObject> controller_;
+    objc::Owned<NSObject> favourites_;     // once they have been shown
     std::unique_ptr<sim::Finger> finger_;  // on a button
     bool away_ = false;                    // another tab is shown
 };

@@ -58,7 +58,7 @@ std::vector<StepOption> recentsSteps() {
          &named<Kind::Press>},
         {{"--hold", "BUTTON", "put a finger on it and leave it there", buttons},
          &named<Kind::HoldButton>},
-        {{"--tab", "HOW", "show another tab, or this one again", {"away", "back"}},
+        {{"--tab", "HOW", "show another tab, or this one again", {"away", "favourites", "back"}},
          &named<Kind::Tab>},
         {{"--reload", "", "the companion tells that its data has changed"}, &plain<Kind::Reload>},
         waitStep(),

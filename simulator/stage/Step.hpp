@@ -38,7 +38,7 @@ struct Step {
         Back,         // from the detail to the list
         Press,        // press the button `text`: "correct", "mark" or "search"
         HoldButton,   // put a finger on it
-        Tab,          // leave the tab or return to it, `text`: "away" or "back"
+        Tab,          // show tab `text`: "away" (the keypad), "favourites", or "back" to the list
         Reload,       // the companion tells that its data has changed
 
         // Any screen.

@@ -33,7 +33,7 @@ class RecentsSession : public test::StageRun, public testing::WithParamInterface
         }
         list().setCalls(sim::array(calls));
     }
-    static bool canSwipe() { return std::string_view(GetParam()) < "8"; }
+    static bool isBefore8() { return std::string_view(GetParam()) < "8"; }
     phone::PHRecentsViewController &list() { return *session_.recents(); }
 
     /// Does it `count` times, and twice: what the first round leaves is the cache.
@@ -61,6 +61,17 @@ INSTANTIATE_TEST_SUITE_P(Systems, RecentsSession, testing::Values("7.0", "7.1", 
                              return name;
                          });
 
+TEST_P(RecentsSession, EveryTabWithATableIsReadAnewWhenItAppears) {
+    const auto showTab = [&](const char *how) {
+        perform(session_, {{stage::Step::Kind::Tab, how}});
+        return session_.tree();
+    };
+    showTab("favourites");
+    showTab("back");
+    phone::ContactBook::shared().add({"新来的", {{"13900000001", "手机"}}});
+    EXPECT_EQ(showTab("favourites").find("新来的") != std::string::npos, isBefore8());
+}
+
 TEST_P(RecentsSession, TenThousandRowsThereAndBackLeaveNoObjectBehind) {
     constexpr int kRows = 10000;
     show(kRows);
@@ -80,13 +91,13 @@ TEST_P(RecentsSession, TwoHundredDetailsLeaveNoObjectBehind) {
 
 TEST_P(RecentsSession, AReleasedRowIsWhollyOpenOrShutAsTheSystemDecides) {
     show(3);
-    ASSERT_EQ(list().swipe(0, 1), canSwipe());
+    ASSERT_EQ(list().swipe(0, 1), isBefore8());
     const struct {
         CGFloat points, velocity, rest;
     } rows[] = {{71, 0, 0}, {72, 0, 144}, {80, 0, 144}, {20, 1, 144}, {100, -1, 0}};
     for (const auto &[points, velocity, rest] : rows) {
-        ASSERT_EQ(list().swipe(0, points) && list().releaseSwipe(velocity), canSwipe());
-        if (!canSwipe()) {
+        ASSERT_EQ(list().swipe(0, points) && list().releaseSwipe(velocity), isBefore8());
+        if (!isBefore8()) {
             return;
         }
         EXPECT_EQ(list().cell(0)->scrollView()->contentOffset().x, rest) << points;
@@ -97,18 +108,18 @@ TEST_P(RecentsSession, AReleasedRowIsWhollyOpenOrShutAsTheSystemDecides) {
 TEST_P(RecentsSession, TheEndOfEditModeIsHeardOfOnceNoFingerDrags) {
     show(3);
     const auto swiped = [&] {
-        EXPECT_EQ(list().swipe(0, 20), canSwipe());
+        EXPECT_EQ(list().swipe(0, 20), isBefore8());
         return list().cell(0)->swipeWidth();
     };
     objc::send<void(bool, bool)>(list(), "setEditing:animated:"_sel, true, true);
     session_.wait(1s);
     objc::send<void(bool, bool)>(list(), "setEditing:animated:"_sel, false, true);
-    EXPECT_EQ(swiped(), canSwipe() ? 82 : 0) << "the row counts as edited with its list";
+    EXPECT_EQ(swiped(), isBefore8() ? 82 : 0) << "the row counts as edited with its list";
     session_.wait(1s);
-    EXPECT_EQ(swiped(), canSwipe() ? 82 : 0) << "the finger still drags";
+    EXPECT_EQ(swiped(), isBefore8() ? 82 : 0) << "the finger still drags";
     list().releaseSwipe(-1);
     session_.wait(1s);
-    EXPECT_EQ(swiped(), canSwipe() ? 144 : 0);
+    EXPECT_EQ(swiped(), isBefore8() ? 144 : 0);
     list().releaseSwipe(-1);
 }
 
@@ -116,8 +127,8 @@ TEST_P(RecentsSession, TwoHundredSwipesLeaveNoObjectBehind) {
     show(200);
     expectTheSameAgain(200, [&](int row) {
         ASSERT_TRUE(list().scrollToRow(row));
-        ASSERT_EQ(list().swipeOpen(row), canSwipe());
-        ASSERT_EQ(list().releaseSwipe(), canSwipe());
+        ASSERT_EQ(list().swipeOpen(row), isBefore8());
+        ASSERT_EQ(list().releaseSwipe(), isBefore8());
         list().closeSwipe();
     });
 }

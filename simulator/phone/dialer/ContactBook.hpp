@@ -38,6 +38,8 @@ class ContactBook {
 
     void add(Contact contact);
     void clear();
+    /// In the order in which they were added.
+    const std::vector<Contact> &all() const { return contacts_; }
 
     /// Whose number was typed: the first contact with the same digits, whatever the grouping and
     /// with or without mainland China's country code. A text that is no number has to be an entry

@@ -5,10 +5,10 @@
 #include <array>
 
 #include "phone/contact/ABContactViewController.hpp"
+#include "phone/frame/ListScreen.hpp"
 #include "phone/recents/CallContact.hpp"
 #include "phone/recents/PHCallInfoView.hpp"
 #include "phone/recents/PHRecentsCell.hpp"
-#include "uikit/Device.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/IndexPath.hpp"
 #include "uikit/Registration.hpp"
@@ -18,7 +18,6 @@
 namespace phone {
 namespace {
 
-constexpr CGFloat kTabBarHeight = 49;
 constexpr CGFloat kRowHeight = 48;
 
 NSString cellIdentifier() { return "PHRecentsCell"_ns; }
@@ -78,17 +77,11 @@ PHRecentsViewController::~PHRecentsViewController() {
 }
 
 void PHRecentsViewController::loadView() {
-    const CGSize screen = sim::Device::current().screen;
-    const auto view = makeView<SimView>(rect(0, 0, screen.width, screen.height));
-    table_ = makeView<SimTableView>(rect(0, kNavigationBarHeight, screen.width,
-                                         screen.height - kNavigationBarHeight - kTabBarHeight));
-    objc::send<void(CGFloat)>(table_.get(), "setRowHeight:"_sel, kRowHeight);
-    objc::send<void(NSObject)>(table_.get(), "setDataSource:"_sel, NSObject(*this));
-    bar_ = PhoneNavigationBar::make();
+    ListScreen parts = makeListScreen(NSObject(*this), kRowHeight);
+    table_ = std::move(parts.table);
+    bar_ = std::move(parts.bar);
     sim::instance<PhoneNavigationBar>(bar_)->setTitleView(makeSegments());
-    view->addSubview(table_);
-    view->addSubview(bar_);
-    setView(sim::instance<SimView>(view));
+    setView(sim::instance<SimView>(parts.view));
     showEditButton();
 }
 
