@@ -25,6 +25,11 @@
 namespace phone {
 namespace {
 
+void defineHeaders(ABContactHeaderView::Labels labels) {
+    ABContactHeaderView::define(labels);
+    ABContactHeaderDisplayView::define(labels);
+}
+
 __attribute__((constructor)) void defineClasses() {
     const objc::AutoreleasePool pool;
     PhoneStatusBar::define();
@@ -60,13 +65,18 @@ __attribute__((constructor)) void defineClasses() {
     ABContactNumber::define();
     CNContact::define();
     ABContactView::define();
-    ABContactHeaderView::define();
-    ABContactHeaderDisplayView::define();
+    defineHeaders(ABContactHeaderView::Labels::InTheHeader);
     ABContactViewController::define();
     ABNewPersonViewController::define();
 }
 
 }  // namespace
+
+void defineClassesOfIos8() {
+    forgetClass("ABContactHeaderDisplayView");
+    forgetClass("ABContactHeaderView");
+    defineHeaders(ABContactHeaderView::Labels::InTheDisplay);
+}
 
 bool forgetClass(const char *name) {
     const Class cls = objc::findClass(name);

@@ -90,11 +90,14 @@ void prepareProcess(const Settings &settings) {
     if (!settings.verbose) {
         sendLogTo(dataFolder(settings) / "system.log");
     }
+    sim::Device::setCurrent({std::string(settings.model.ios), settings.model.screenSize(), 2});
+    if (sim::Device::current().isAtLeast(8, 0)) {
+        phone::defineClassesOfIos8();
+    }
     if (!settings.withoutClass.empty() && !phone::forgetClass(settings.withoutClass.c_str())) {
         throw Failure("--without-class: the Phone application has no class " +
                       settings.withoutClass);
     }
-    sim::Device::setCurrent({std::string(settings.model.ios), settings.model.screenSize(), 2});
     if (settings.fixedMeasurer) {
         sim::TextMeasurer::setCurrent(std::make_unique<sim::FixedAdvanceMeasurer>());
     }

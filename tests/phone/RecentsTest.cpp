@@ -3,6 +3,7 @@
 
 #include "PhoneRun.hpp"
 #include "objc/Ivar.hpp"
+#include "phone/Classes.hpp"
 #include "phone/contact/ABContactViewController.hpp"
 #include "phone/recents/PHRecentCall.hpp"
 #include "phone/recents/PHRecentsCell.hpp"
@@ -140,6 +141,17 @@ TEST_F(Recents, CallsKnowWhatTheirSystemKnows) {
         EXPECT_EQ(isNew ? send<int32_t()>(call.get(), "callStatus"_sel)
                         : send<int32_t()>(call.get(), "type"_sel),
                   8);
+        if (isNew) {
+            phone::defineClassesOfIos8();
+        }
+        for (const char *const name : {"_nameLabel", "_taglineLabel"}) {
+            EXPECT_EQ(
+                class_getInstanceVariable(objc::findClass("ABContactHeaderView"), name) != nullptr,
+                !isNew);
+            EXPECT_NE(
+                class_getInstanceVariable(objc::findClass("ABContactHeaderDisplayView"), name),
+                nullptr);
+        }
         EXPECT_STREQ(class_getName(object_getClass(call.get())),
                      isNew ? "CHRecentCall" : "PHRecentCall");
         EXPECT_EQ(objc::read<NSObject>(NSObject(*list_), "_table"_ivar), NSObject(*list_->table()));

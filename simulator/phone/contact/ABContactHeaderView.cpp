@@ -15,21 +15,27 @@ constexpr CGFloat kTaglineRoom = 20;
 
 }  // namespace
 
-void ABContactHeaderView::define() {
+void ABContactHeaderView::define(Labels labels) {
     using objc::member;
     using Self = ABContactHeaderView;
-    sim::defined("ABContactHeaderView",
-                 objc::ClassBuilder<Self>("ABContactHeaderView", "UIView")
-                     .ivar<&Self::nameLabel_>("_nameLabel")
-                     .ivar<&Self::taglineLabel_>("_taglineLabel")
-                     .ivar<&Self::personHeaderView_>("_personHeaderView")
-                     .ivar<&Self::contact_>("_contact")
-                     .method("initWithFrame:"_sel, member<&Self::initWithFrame>)
-                     .method("contact"_sel, member<&Self::contact>)
-                     .method("setContact:"_sel, member<&Self::setContact>)
-                     .method("isEditing"_sel, member<&Self::isEditing>)
-                     .method("setEditing:"_sel, member<&Self::setEditing>)
-                     .finish());
+    using Builder = objc::ClassBuilder<Self>;
+    constexpr auto kName = "ABContactHeaderView";
+    const auto withRest = [](Builder &&builder) {
+        return std::move(builder)
+            .ivar<&Self::personHeaderView_>("_personHeaderView")
+            .ivar<&Self::contact_>("_contact")
+            .method("initWithFrame:"_sel, member<&Self::initWithFrame>)
+            .method("contact"_sel, member<&Self::contact>)
+            .method("setContact:"_sel, member<&Self::setContact>)
+            .method("isEditing"_sel, member<&Self::isEditing>)
+            .method("setEditing:"_sel, member<&Self::setEditing>)
+            .finish();
+    };
+    sim::defined(kName, labels == Labels::InTheDisplay
+                            ? withRest(Builder(kName, "UIView"))
+                            : withRest(Builder(kName, "UIView")
+                                           .ivar<&Self::nameLabel_>("_nameLabel")
+                                           .ivar<&Self::taglineLabel_>("_taglineLabel")));
 }
 
 id ABContactHeaderView::initWithFrame(CGRect frame) {
@@ -76,13 +82,29 @@ void ABContactHeaderView::placeParts() {
     personHeaderView_->setFrame(rect(0, nameRoom(), width, personHeaderView_->frame().size.height));
 }
 
-void ABContactHeaderDisplayView::define() {
+void ABContactHeaderDisplayView::define(Labels labels) {
+    using objc::member;
     using Self = ABContactHeaderDisplayView;
-    sim::defined(
-        "ABContactHeaderDisplayView",
-        objc::ClassBuilder<Self>("ABContactHeaderDisplayView", "ABContactHeaderView")
-            .method("_taglineStringForContact:"_sel, objc::member<&Self::taglineStringForContact>)
-            .finish());
+    using Builder = objc::ClassBuilder<Self>;
+    constexpr auto kName = "ABContactHeaderDisplayView";
+    const auto withRest = [](Builder &&builder) {
+        return std::move(builder)
+            .method("initWithFrame:"_sel, member<&Self::initWithFrame>)
+            .method("_taglineStringForContact:"_sel, member<&Self::taglineStringForContact>)
+            .finish();
+    };
+    sim::defined(kName, labels == Labels::InTheHeader
+                            ? withRest(Builder(kName, "ABContactHeaderView"))
+                            : withRest(Builder(kName, "ABContactHeaderView")
+                                           .ivar<&Self::shownNameLabel_>("_nameLabel")
+                                           .ivar<&Self::shownTaglineLabel_>("_taglineLabel")));
+}
+
+id ABContactHeaderDisplayView::initWithFrame(CGRect frame) {
+    objc::sendSuper<ABContactHeaderDisplayView, id(CGRect)>(this, "initWithFrame:"_sel, frame);
+    shownNameLabel_ = objc::Owned<UILabel>::share(nameLabel());
+    shownTaglineLabel_ = objc::Owned<UILabel>::share(taglineLabel());
+    return *this;
 }
 
 NSString ABContactHeaderDisplayView::taglineStringForContact(NSObject contact) const {

@@ -9,7 +9,9 @@ namespace phone {
 
 class ABContactHeaderView : public SimView {
   public:
-    static void define();
+    /// Which of the two classes knows the labels: the second from iOS 8 on.
+    enum class Labels { InTheHeader, InTheDisplay };
+    static void define(Labels labels);
 
     id initWithFrame(CGRect frame);
     /// `contact` is a CNContact.
@@ -40,10 +42,15 @@ class ABContactHeaderView : public SimView {
 /// The head as it is while the contact is not edited: it knows where its tag line comes from.
 class ABContactHeaderDisplayView : public ABContactHeaderView {
   public:
-    static void define();
+    static void define(Labels labels);
 
+    id initWithFrame(CGRect frame);
     /// What the contact itself says, or nil.
     NSString taglineStringForContact(NSObject contact) const;
+
+  private:
+    objc::Owned<UILabel> shownNameLabel_;
+    objc::Owned<UILabel> shownTaglineLabel_;
 };
 
 }  // namespace phone
