@@ -2,7 +2,9 @@
 // telephone, with the companion's own answers and the add-on as it is built.
 #include <fstream>
 
+#include "objc/Ivar.hpp"
 #include "phone/StageRun.hpp"
+#include "phone/incall/InCallController.hpp"
 #include "support/LiveObjects.hpp"
 
 namespace {
@@ -14,6 +16,7 @@ using Kind = Step::Kind;
 struct Place {
     stage::Model model;
     phone::Display display;
+    CGFloat labelPoints;  // of the line under the name, as the telephone wants it
 };
 
 void PrintTo(const Place &place, std::ostream *out) {
@@ -22,10 +25,10 @@ void PrintTo(const Place &place, std::ostream *out) {
 }
 
 constexpr Place kPlaces[] = {
-    {{"7.0", "4"}, phone::Display::View},
-    {{"7.0", "3.5"}, phone::Display::Field},
-    {{"7.1", "4"}, phone::Display::Field},
-    {{"7.1", "3.5"}, phone::Display::View},
+    {{"7.0", "4"}, phone::Display::View, 16},
+    {{"7.0", "3.5"}, phone::Display::Field, 12},
+    {{"7.1", "4"}, phone::Display::Field, 14},
+    {{"7.1", "3.5"}, phone::Display::View, 14},
 };
 
 class InCallSession : public test::StageRun, public testing::WithParamInterface<Place> {
@@ -76,6 +79,19 @@ TEST_P(InCallSession, APartnersLogoArrivesAndShowsAtTheNextLayoutPass) {
         return std::string(std::istreambuf_iterator<char>(file), {});
     };
     EXPECT_NE(bytes("before.png"), bytes("after.png"));
+}
+
+TEST_P(InCallSession, ASmallLabelOfAStrangersIsAsLargeAsTheDescriptionOnAShortScreen) {
+    const bool isShort = std::string_view(GetParam().model.screen) == "3.5";
+    for (const auto &[number, points] : {std::pair{"13800130011", GetParam().labelPoints},
+                                         {"17700000061", isShort ? 14 : GetParam().labelPoints}}) {
+        perform(Kind::Incoming, number);
+        perform(Kind::Layout);
+        const UIView label =
+            objc::read<UIView>(session_.inCall()->displayView(), "_labelView"_ivar);
+        EXPECT_EQ(objc::read<CGFloat>(label, "_fontSize"_ivar), points) << number;
+        perform(Kind::End);
+    }
 }
 
 TEST_P(InCallSession, AThousandCallsLeaveNoObjectBehind) {
