@@ -94,6 +94,7 @@ void SimTableViewCell::setEditingAnimated(bool editing, bool) {
 }
 
 void SimTableViewCell::layoutSubviews() {
+    objc::sendSuper<SimTableViewCell, void()>(this, "layoutSubviews"_sel);
     const CGRect whole{{0, 0}, bounds().size};
     if (scrollView_) {
         scrollView_->setFrame(whole);

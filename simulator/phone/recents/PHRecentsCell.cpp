@@ -70,6 +70,7 @@ id PHRecentsCell::initWithStyle(NSInteger style, NSString reuseIdentifier) {
     for (const UIView part : parts) {
         asView(*contentView()).addSubview(part);
     }
+    setConstraints([] {});  // of the system's own parts, which UITableViewCell places
     contentView()->setConstraints([this] { placeParts(); });
     return *this;
 }
