@@ -107,19 +107,19 @@ TEST_P(RecentsSession, AReleasedRowIsWhollyOpenOrShutAsTheSystemDecides) {
 
 TEST_P(RecentsSession, TheEndOfEditModeIsHeardOfOnceNoFingerDrags) {
     show(3);
-    const auto swiped = [&] {
-        EXPECT_EQ(list().swipe(0, 20), isBefore8());
+    const auto swiped = [&](CGFloat points) {
+        EXPECT_EQ(list().swipe(0, points), isBefore8());
         return list().cell(0)->swipeWidth();
     };
     objc::send<void(bool, bool)>(list(), "setEditing:animated:"_sel, true, true);
     session_.wait(1s);
     objc::send<void(bool, bool)>(list(), "setEditing:animated:"_sel, false, true);
-    EXPECT_EQ(swiped(), isBefore8() ? 82 : 0) << "the row counts as edited with its list";
+    EXPECT_EQ(swiped(20), isBefore8() ? 82 : 0) << "the row counts as edited with its list";
     session_.wait(1s);
-    EXPECT_EQ(swiped(), isBefore8() ? 82 : 0) << "the finger still drags";
+    EXPECT_EQ(swiped(40), isBefore8() ? 82 : 0) << "the finger still drags";
     list().releaseSwipe(-1);
     session_.wait(1s);
-    EXPECT_EQ(swiped(), isBefore8() ? 144 : 0);
+    EXPECT_EQ(swiped(20), isBefore8() ? 144 : 0);
     list().releaseSwipe(-1);
 }
 
