@@ -87,8 +87,7 @@ TEST_P(InCallSession, ASmallLabelOfAStrangersIsAsLargeAsTheDescriptionOnAShortSc
                                          {"17700000061", isShort ? 14 : GetParam().labelPoints}}) {
         perform(Kind::Incoming, number);
         perform(Kind::Layout);
-        const UIView label =
-            objc::read<UIView>(session_.inCall()->displayView(), "_labelView"_ivar);
+        const auto label = objc::read<UIView>(session_.inCall()->displayView(), "_labelView"_ivar);
         EXPECT_EQ(objc::read<CGFloat>(label, "_fontSize"_ivar), points) << number;
         perform(Kind::End);
     }

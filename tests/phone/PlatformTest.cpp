@@ -7,7 +7,7 @@
 
 namespace {
 
-struct Failures : members::Report {
+struct Failures final : members::Report {
     void contradiction(const char *line) override { ADD_FAILURE() << line; }
 };
 

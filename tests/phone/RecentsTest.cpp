@@ -63,9 +63,9 @@ TEST_F(Recents, SwipesOpenOrShutByHalf) {
     start({{.number = "13000000001", .date = kNoon}, {.number = "13000000002", .date = kNoon}});
     ASSERT_TRUE(list_->swipe(0, 20));
     layOut();
-    const UIView confirmation =
+    const auto confirmation =
         list_->cell(0)->scrollView()->subviews().objectAtIndex(1).as<UIView>();
-    const UIView button = confirmation.subviews().objectAtIndex(0).as<UIView>();
+    const auto button = confirmation.subviews().objectAtIndex(0).as<UIView>();
     EXPECT_EQ(confirmation.frame(), rect(320, 0, 82, 48));
     EXPECT_EQ(button.frame(), rect(0, 0, 82, 47.5));
     EXPECT_EQ(button.subviews().objectAtIndex(0).as<UIView>().frame(), rect(15, 12.75, 52, 22));
