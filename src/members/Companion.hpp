@@ -11,7 +11,6 @@ inline constexpr KnownClass kCompanionClasses[] = {
     {"ZQCallRecord", "NSObject", Source::Public},
     {"ZQCallRecordService", "NSObject", Source::Public},
     {"ZQContactService", "NSObject", Source::Public},
-    {"ZQHistoryRecord", "NSObject", Source::Public},
     {"ZQIPCService", "NSObject", Source::Public},
     {"ZQMathUtil", "NSObject", Source::Public},
     {"ZQNumberIdentity", "NSObject", Source::Public},
@@ -26,7 +25,6 @@ inline constexpr KnownClass kCompanionClasses[] = {
     {"ZQStringHelper", "NSObject", Source::Public},
     {"ZQSystemHistoryService", "NSObject", Source::Public},
     {"ZQUIUtil", "NSObject", Source::Public},
-    {"ZQWeiboProfile", "NSObject", Source::Public},
     {"ZQWeiboService", "NSObject", Source::Public},
 };
 
@@ -81,9 +79,9 @@ inline constexpr Member kCompanionMembers[] = {
     {"ZQPartnerItem", "-setAds:", "void(id)", Source::Public},
     {"ZQPartnerItem", "-getIconImagePath", "id()", Source::Public},
     {"ZQCallRecord", "-setPhoneNumber:", "void(id)", Source::Public},
-    {"ZQHistoryRecord", "-actionType", "int()", Source::Public},
-    {"ZQWeiboProfile", "-avatarType", "int()", Source::Public},
-    {"ZQWeiboProfile", "-boundType", "int()", Source::Public},
+    {"?", "-actionType", "int()", Source::Public},
+    {"?", "-avatarType", "int()", Source::Public},
+    {"?", "-boundType", "int()", Source::Public},
     {"ZQNumberIdentityService",
      "+getIdentityOfRecord:ignoreDiagnose:onlyLocal:delegate:retryPeriod:displayType:",
      "id(id, BOOL, BOOL, id, double, int)", Source::Public},

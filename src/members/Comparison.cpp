@@ -8,10 +8,16 @@
 namespace members {
 namespace {
 
-// Names of the ledger are whole literals, and so end with a zero.
+/// A name of the ledger's as the runtime's functions take it, cut where it is too long for any.
+struct Name {
+    explicit Name(std::string_view name) {
+        std::copy_n(name.begin(), std::min(name.size(), sizeof text - 1), text);
+    }
+    char text[120] = {};
+};
 
 Class classNamed(std::string_view name) {
-    return reinterpret_cast<Class>(objc_getClass(name.data()));
+    return reinterpret_cast<Class>(objc_getClass(Name(name).text));
 }
 
 bool derivesFrom(Class cls, std::string_view ancestor) {
@@ -40,20 +46,20 @@ class Comparison {
   private:
     void look(const KnownClass &known) {
         const Class cls = classNamed(known.name);
-        if (!cls) {
-            contradict("class %s: there is none", known.name.data());
-        } else if (!known.superclass.empty() && !derivesFrom(cls, known.superclass)) {
-            contradict("class %s: does not derive from %s", known.name.data(),
-                       known.superclass.data());
-        } else {
+        const bool derives = known.superclass.empty() || derivesFrom(cls, known.superclass);
+        if (cls && derives) {
             ++verdicts_.confirmed;
+            return;
         }
+        contradict("class %s: %s%s", Name(known.name).text,
+                   cls ? "does not derive from " : "there is none",
+                   cls ? Name(known.superclass).text : "");
     }
 
     void look(const Member &member) {
         const Class cls = classNamed(member.className);
         if (cls && member.isVariable()) {
-            lookAtVariable(member, class_getInstanceVariable(cls, member.name.data()));
+            lookAtVariable(member, class_getInstanceVariable(cls, Name(member.name).text));
         } else if (cls) {
             lookAtMethod(member,
                          member.isOfClass() ? object_getClass(reinterpret_cast<id>(cls)) : cls);
@@ -62,35 +68,37 @@ class Comparison {
 
     void lookAtVariable(const Member &member, Ivar variable) {
         const char *const encoding = variable ? ivar_getTypeEncoding(variable) : nullptr;
-        if (!encoding) {
-            contradict("%s %s: there is no such variable", member.className.data(),
-                       member.name.data());
-        } else if (!isVariableOf(encoding, member.types, kThisAbi)) {
-            contradict("%s %s: is '%s', expected %s", member.className.data(), member.name.data(),
-                       encoding, member.types.data());
-        } else {
-            ++verdicts_.confirmed;
-        }
+        judge(member, encoding, encoding && isVariableOf(encoding, member.types, kThisAbi));
     }
 
     void lookAtMethod(const Member &member, Class cls) {
-        const SEL selector = sel_registerName(member.selector().data());
+        const SEL selector = sel_registerName(Name(member.selector()).text);
         const Method method = class_getInstanceMethod(cls, selector);
         const char *const encoding = method ? method_getTypeEncoding(method) : nullptr;
-        if (!encoding) {
-            contradict("%c[%s %s]: there is no such method", member.name.front(),
-                       member.className.data(), member.selector().data());
-        } else if (!isMethodOf(encoding, member.types, kThisAbi)) {
-            contradict("%c[%s %s]: is '%s', expected %s", member.name.front(),
-                       member.className.data(), member.selector().data(), encoding,
-                       member.types.data());
-        } else if (member.has == Has::InheritedOnly &&
-                   method != class_getInstanceMethod(class_getSuperclass(cls), selector)) {
-            contradict("%c[%s %s]: is the class's own, expected an inherited one",
-                       member.name.front(), member.className.data(), member.selector().data());
+        const bool isOwn =
+            method && method != class_getInstanceMethod(class_getSuperclass(cls), selector);
+        if (member.has == Has::InheritedOnly && isOwn) {
+            contradict("-[%s %s]: is the class's own, expected an inherited one",
+                       Name(member.className).text, Name(member.selector()).text);
         } else {
-            ++verdicts_.confirmed;
+            judge(member, encoding, encoding && isMethodOf(encoding, member.types, kThisAbi));
         }
+    }
+
+    /// `encoding` is null where there is no such member.
+    void judge(const Member &member, const char *encoding, bool isAsExpected) {
+        if (isAsExpected) {
+            ++verdicts_.confirmed;
+            return;
+        }
+        char found[256] = "there is none";
+        if (encoding) {
+            std::snprintf(found, sizeof found, "is '%s', expected %s", encoding,
+                          Name(member.types).text);
+        }
+        const char sign[] = {member.isVariable() ? '\0' : member.name.front(), '\0'};
+        contradict(member.isVariable() ? "%s%s %s: %s" : "%s[%s %s]: %s", sign,
+                   Name(member.className).text, Name(member.selector()).text, found);
     }
 
     template <class... Args>

@@ -9,7 +9,7 @@
 namespace members {
 
 /// Systems, as bits.
-enum Systems : unsigned {
+enum Systems : unsigned char {
     kIos70 = 1,
     kIos71 = 2,
     kIos80 = 4,
@@ -45,7 +45,9 @@ struct Member {
     constexpr bool isVariable() const { return !name.starts_with('-') && !name.starts_with('+'); }
     constexpr bool isOfClass() const { return name.starts_with('+'); }
     constexpr std::string_view selector() const {
-        return isVariable() ? name : std::string_view(name.data() + 1, name.size() - 1);
+        std::string_view text = name;
+        text.remove_prefix(isVariable() ? 0 : 1);
+        return text;
     }
 };
 

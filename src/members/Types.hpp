@@ -78,7 +78,8 @@ constexpr std::string_view encodingOf(std::string_view name, const Abi &abi) {
 /// Takes the first type's name off "CGRect(id, BOOL)", and what parts it from the next.
 constexpr std::string_view takeName(std::string_view &types) {
     const size_t end = std::min(types.find_first_of("(,)"), types.size());
-    const std::string_view name(types.data(), end);
+    std::string_view name = types;
+    name.remove_suffix(types.size() - end);
     types.remove_prefix(end);
     types.remove_prefix(std::min(types.find_first_not_of("(,) "), types.size()));
     return name;

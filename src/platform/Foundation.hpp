@@ -240,6 +240,7 @@ class NSAttributedString : public NSObject {
   public:
     using NSObject::NSObject;
     static Class classObject() { return "NSAttributedString"_cls; }
+    NSString string() const { return send<NSString()>("string"_sel); }
 };
 
 class NSMutableAttributedString : public NSAttributedString {

@@ -51,18 +51,17 @@ objc::Owned<NSString> taglineToRepeat(UILabel label, bool from80) {
 
 void showText(NSString tagline, const KnownNumber &known, UILabel label) {
     label.setHidden(false);
-    const NSString text = tagline ? format<"%@  %@">(tagline, known.info.get()) : known.info.get();
     // A foreign number's warning has a label of its own.
-    const auto attributed =
+    const auto toned =
         known.isForeign ? objc::Owned<NSMutableAttributedString>() : twoToned(known.info);
-    const NSString shown =
-        attributed ? objc::send<NSString()>(attributed.get(), "string"_sel) : text;
-    if (isSameText(shown, label.text())) {
-        return;  // a new text would ask for another pass
+    const NSString text = tagline ? format<"%@  %@">(tagline, known.info.get()) : known.info.get();
+    // A new text has the header laid out again, which would find a new text again.
+    if (isSameText(toned ? toned->string() : text, label.text())) {
+        return;
     }
     label.setText(text);
-    if (attributed) {
-        label.setAttributedText(attributed.get());
+    if (toned) {
+        label.setAttributedText(toned.get());
     }
 }
 

@@ -119,13 +119,11 @@ NOTICED: list[tuple[str, Changes, str, str]] = [
 # What phonecheck finds the tests' own Foundation and companion to lack, on iOS 7.1.
 CONTRADICTED = """\
 class ZQBlackListService: there is none
-class ZQHistoryRecord: there is none
 class ZQPartnerItem: there is none
 class ZQPartnerManager: there is none
 class ZQPingBackService: there is none
-class ZQWeiboProfile: there is none
--[ZQContactService isInAddressBook:]: there is no such method
-+[ZQUIUtil getSubView:ofClass:]: there is no such method
+-[ZQContactService isInAddressBook:]: there is none
++[ZQUIUtil getSubView:ofClass:]: there is none
 """
 CONTRADICTED_ARM64 = (
     "-[NSString stringByAddingPercentEscapesUsingEncoding:]: is '@20@0:8I16', "

@@ -61,7 +61,7 @@ int Group::run(void (*load)()) const {
         // What calls itself for ever ends soon.
         const rlimit stack = {1 << 20, RLIM_INFINITY};
         setrlimit(RLIMIT_STACK, &stack);
-        alarm(20);
+        alarm(60);
         inPool([this, load] {
             if (prepare_) {
                 prepare_();

@@ -41,9 +41,9 @@ NSObject personRecord(const Contact &contact) {
         .autorelease();
 }
 
-NSObject personWithNumber(ZQContactService *, NSString number) {
+const void *personWithNumber(ZQContactService *, NSString number) {
     const auto contact = store().contactWithNumber(pure(number));
-    return contact ? personRecord(*contact) : NSObject();
+    return contact ? personRecord(*contact).get() : nullptr;
 }
 
 void insertOrUpdate(ZQCallRecordService *, ZQNumberIdentity *identity) {
@@ -60,9 +60,9 @@ ZQCallRecord *recordForNumber(ZQCallRecordService *, NSString number, NSDate dat
     return call ? ZQCallRecord::withRecord(*call) : nullptr;
 }
 
-NSArray historyOfNumber(ZQSystemHistoryService *, NSString number, std::int32_t most) {
+NSArray historyOfNumber(ZQSystemHistoryService *, NSString number, NSInteger most) {
     const NSArray result = emptyArray();
-    for (const HistoryEntry &entry : store().history(pure(number), most)) {
+    for (const HistoryEntry &entry : store().history(pure(number), static_cast<int>(most))) {
         add(result, handle(ZQSystemHistoryRecord::withRecord(entry)));
     }
     return result;

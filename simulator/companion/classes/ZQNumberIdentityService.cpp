@@ -92,8 +92,8 @@ void ZQNumberIdentityService::deliver() const {
 }
 
 NSString ZQNumberIdentityService::formattedInfo(ZQNumberIdentity *identity,
-                                                std::int32_t displayType,
-                                                std::int32_t callDirection, NSString originalInfo) {
+                                                std::int32_t displayType, NSInteger callDirection,
+                                                NSString originalInfo) {
     if (identity == nullptr) {
         return originalInfo;
     }

@@ -29,7 +29,7 @@ class ZQNumberIdentityService : public objc::Instance {
 
     /// The one-line description of an identity. `callDirection` 0 is an incoming call, 1 is not.
     static NSString formattedInfo(ZQNumberIdentity *identity, std::int32_t displayType,
-                                  std::int32_t callDirection, NSString originalInfo);
+                                  NSInteger callDirection, NSString originalInfo);
 
     void deliver() const;
 

@@ -1,0 +1,34 @@
+// The ledger lists nothing that the add-on does not use, and the simulated companion is as it says.
+#include <fstream>
+#include <iterator>
+
+#include <gtest/gtest.h>
+
+#include "members/Comparison.hpp"
+#include "members/Ledger.hpp"
+#include "stage/Session.hpp"
+
+namespace {
+
+struct Failures final : members::Report {
+    void contradiction(const char *line) override { ADD_FAILURE() << line; }
+};
+
+TEST(Ledger, ListsTheCompanionAsItIsSimulated) {
+    const stage::Session session({.withAddOn = false});
+    Failures failures;
+    EXPECT_GT(members::compareCompanion(failures).confirmed, 80);
+}
+
+TEST(Ledger, ListsOnlyWhatTheAddOnUses) {
+    std::ifstream file(ZQDIAL_LIBRARY, std::ios::binary);
+    const std::string library{std::istreambuf_iterator<char>(file), {}};
+    ASSERT_FALSE(library.empty());
+    members::anyMember([&](const members::Member &member) {
+        const std::string name(member.selector());
+        EXPECT_NE(library.find(name + '\0'), std::string::npos) << member.className << " " << name;
+        return false;
+    });
+}
+
+}  // namespace
