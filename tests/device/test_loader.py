@@ -205,7 +205,7 @@ class LoaderFaults(Scratch):
                     self.write(arch, *made)
                     code, printed = self.host(arch, group, left_out)
                     self.assertEqual(code, 1, printed)
-                    self.assertRegex(printed, "expected|ended by signal")
+                    self.assertRegex(printed, "expected|ended by signal|Uncaught exception")
                     self.assertNotIn("loader: ", printed)
 
     def test_command_for_phones(self) -> None:
