@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <limits>
 
 #include "stage/Errors.hpp"
 #include "uikit/ViewTree.hpp"
@@ -158,8 +159,10 @@ Arguments readArguments(std::span<const CommandSpec> commands, std::span<const s
 int readNumber(const GivenOption &given, int least) {
     const auto number = parsed<int>(given.value);
     if (!number || *number < least) {
-        throw UsageError(joined({kProgram, ": ", given.name, " takes a whole number from ",
-                                 std::to_string(least), " upwards, not '", given.value, "'"}));
+        throw UsageError(
+            joined({kProgram, ": ", given.name, " takes a whole number from ",
+                    std::to_string(least), " to ", std::to_string(std::numeric_limits<int>::max()),
+                    ", not '", given.value, "'"}));
     }
     return *number;
 }

@@ -99,6 +99,11 @@ void DialerScreen::press(const std::string &character) const {
 
 void DialerScreen::touch(Step::Kind kind) {
     if (!finger_) {
+        if (!controller()->dialerView()->display()->offersToAdd()) {
+            throw Failure(
+                "--touch: no add-to-contacts line is shown; "
+                "--type a number that is no contact's first");
+        }
         finger_ = std::make_unique<sim::Finger>(window_.window(), middleOfLine(controller()));
     }
     if (kind == Step::Kind::Touch) {

@@ -2,6 +2,7 @@
 #include "stage/Run.hpp"
 
 #include <filesystem>
+#include <iomanip>
 
 #include "stage/Errors.hpp"
 #include "stage/Gallery.hpp"
@@ -48,12 +49,12 @@ void runScreen(const Request &request, std::ostream &out) {
     }
 }
 
-std::string outcomeText(substrate::HookEntry::Outcome outcome) {
-    switch (outcome) {
+std::string outcomeText(const substrate::HookEntry &entry) {
+    switch (entry.outcome) {
     case substrate::HookEntry::Outcome::Replaced:
-        return "replaced";
+        return "replaced by " + entry.replacement;
     case substrate::HookEntry::Outcome::Added:
-        return "overridden, was inherited";
+        return "overridden, was inherited: " + entry.replacement;
     case substrate::HookEntry::Outcome::MissingMethod:
         return "skipped: no such method";
     case substrate::HookEntry::Outcome::MissingClass:
@@ -62,20 +63,20 @@ std::string outcomeText(substrate::HookEntry::Outcome outcome) {
     return {};
 }
 
+/// Two lines a method: side by side its names are too long for a terminal.
 void runHooks(const Request &request, std::ostream &out) {
     const Session session(settingsOf(request));
-    TextTable table({"", "class", "selector", "replacement", "outcome"});
-    int installed = 0;
+    size_t installed = 0;
     for (const substrate::HookEntry &entry : substrate::hookLog()) {
         const bool isInstalled = entry.outcome == substrate::HookEntry::Outcome::Replaced ||
                                  entry.outcome == substrate::HookEntry::Outcome::Added;
         installed += isInstalled ? 1 : 0;
-        table.add({isInstalled ? std::to_string(installed) : "", entry.className, entry.selector,
-                   entry.replacement, outcomeText(entry.outcome)});
+        out << std::setw(2) << (isInstalled ? std::to_string(installed) : "") << "  "
+            << entry.className << (entry.selector.empty() ? "" : "  ") << entry.selector
+            << "\n      " << outcomeText(entry) << '\n';
     }
-    out << table.str() << request.model.title() << ": " << installed
-        << (installed == 1 ? " method" : " methods") << " replaced, "
-        << substrate::hookLog().size() - static_cast<size_t>(installed) << " skipped\n";
+    out << request.model.title() << ": " << installed << (installed == 1 ? " method" : " methods")
+        << " replaced, " << substrate::hookLog().size() - installed << " skipped\n";
 }
 
 void runDescribe(const Request &request, std::ostream &out) {

@@ -24,6 +24,13 @@ size_t cells(const std::string &text) {
 
 }  // namespace
 
+void TextTable::add(std::vector<std::string> row) {
+    for (std::string &cell : row) {
+        cell = sim::drawableText(sim::utf16(cell)).utf8;
+    }
+    rows_.push_back(std::move(row));
+}
+
 std::string TextTable::str() const {
     std::vector<size_t> widths(rows_.front().size());
     for (const auto &row : rows_) {

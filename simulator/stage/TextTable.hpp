@@ -10,8 +10,9 @@ class TextTable {
   public:
     explicit TextTable(std::vector<std::string> heading) : rows_{std::move(heading)} {}
 
-    /// A row has as many cells as the heading; texts are UTF-8.
-    void add(std::vector<std::string> row) { rows_.push_back(std::move(row)); }
+    /// A row has as many cells as the heading; texts are UTF-8. Newlines and other controls in them
+    /// become blanks.
+    void add(std::vector<std::string> row);
 
     /// Heading, a rule and the rows, each line ended; columns are two blanks apart.
     std::string str() const;

@@ -26,6 +26,8 @@ class PHHandsetDialerLCDView : public SimView {
     void setText(NSString number);
     /// Whose number it is, both nil for nobody's; then a number that is there may be added.
     void setNameNumberLabel(NSString name, NSString label);
+    /// A tap on the line below opens the sheet for a new person.
+    bool offersToAdd() const { return offersToAdd_; }
 
     void touchesBegan(NSObject touches, SimEvent *event);
     void touchesEnded(NSObject touches, SimEvent *event);
