@@ -26,50 +26,20 @@ using companion::RecentCall;
 constexpr size_t kShownMistakes = 10;
 const std::vector<std::string> kColumns = {"number", "name", "direction", "time", "answered"};
 
-std::string quoted(const std::string &value) {
-    constexpr size_t kMost = 40;
+std::string shown(const std::string &value) {
+    constexpr size_t kMost = 60;
     const std::u16string text = sim::utf16(value);
-    return "'" + (text.size() <= kMost ? sim::utf8(text) : sim::utf8(text.substr(0, kMost)) + "…") +
-           "'";
+    const std::string end = text.size() > kMost ? "…" : "";
+    return "'" + sim::drawableText(text.substr(0, kMost)).utf8 + end + "'";
 }
 
-bool isOneOf(const std::string &value, const char *yes, const char *no, const char *column) {
-    if (value != yes && value != no) {
-        throw Failure(std::string(column) + " is " + quoted(value) + "; write " + yes + " or " +
-                      no);
-    }
-    return value == yes;
-}
-
-/// Throws Failure with the mistake.
-RecentCall callOf(const CsvRecord &record) {
-    const std::vector<std::string> &fields = record.fields;
-    if (fields.size() != kColumns.size()) {
-        throw Failure(std::to_string(fields.size()) + (fields.size() == 1 ? " field" : " fields") +
-                      " instead of " + std::to_string(kColumns.size()) +
-                      "; write number,name,direction,time,answered, a field with a comma in "
-                      "quotes");
-    }
+std::string joined(const std::vector<std::string> &fields) {
+    std::string line;
     for (const std::string &field : fields) {
-        if (sim::utf8(sim::utf16(field)) != field) {
-            throw Failure(quoted(field) + " is no UTF-8 text; save the file in UTF-8");
-        }
+        line += (line.empty() ? "" : ",") + field;
     }
-    RecentCall call;
-    call.number = fields[0];
-    call.name = fields[1];
-    call.incoming = isOneOf(fields[2], "incoming", "outgoing", "direction");
-    call.date = companion::parseDate(fields[3]);
-    if (!call.date && !fields[3].empty()) {
-        throw Failure("time is " + quoted(fields[3]) +
-                      "; write it like 2014-06-12T09:14:05+08:00, or leave it empty");
-    }
-    call.answered = isOneOf(fields[4], "yes", "no", "answered");
-    return call;
+    return line;
 }
-
-/// Latest first, the undated last; those of one moment as they come in the file.
-using CallsByDate = std::multimap<std::optional<double>, RecentCall, std::greater<>>;
 
 /// What is wrong with a file, by line.
 class Mistakes {
@@ -100,6 +70,75 @@ class Mistakes {
     size_t count_ = 0;
 };
 
+/// One record, and where to say what is wrong with it.
+class Row {
+  public:
+    Row(const CsvRecord &record, Mistakes &mistakes) : record_(record), mistakes_(mistakes) {}
+
+    /// Good for nothing when a mistake was added.
+    RecentCall call() const {
+        const std::vector<std::string> &fields = record_.fields;
+        if (fields.size() != kColumns.size()) {
+            wrong(std::to_string(fields.size()) + (fields.size() == 1 ? " field" : " fields") +
+                  " instead of " + std::to_string(kColumns.size()) + "; write " + joined(kColumns) +
+                  ", a field with a comma in quotes");
+            return {};
+        }
+        for (const std::string &field : fields) {
+            if (sim::utf8(sim::utf16(field)) != field) {
+                wrong(shown(field) + " is no UTF-8 text; save the file in UTF-8");
+            }
+        }
+        RecentCall call;
+        call.number = fields[0];
+        call.name = fields[1];
+        call.incoming = isFirst(2, "incoming", "outgoing");
+        call.date = companion::parseDate(fields[3]);
+        if (!call.date && !fields[3].empty()) {
+            wrong("time is " + shown(fields[3]) +
+                  "; write it like 2014-06-12T09:14:05+08:00, or leave it empty");
+        }
+        call.answered = isFirst(4, "yes", "no");
+        return call;
+    }
+
+  private:
+    void wrong(const std::string &what) const { mistakes_.add(record_.line, what); }
+
+    bool isFirst(size_t column, const std::string &first, const std::string &second) const {
+        const std::string &value = record_.fields[column];
+        if (value != first && value != second) {
+            wrong(kColumns[column] + " is " + shown(value) + "; write " + first + " or " + second);
+        }
+        return value == first;
+    }
+
+    const CsvRecord &record_;
+    Mistakes &mistakes_;
+};
+
+/// What is wrong with the first line of a file; nothing when it is the heading.
+std::string headingMistake(const std::vector<std::string> &fields) {
+    const std::string expected = joined(kColumns);
+    if (fields == kColumns) {
+        return {};
+    }
+    if (fields.empty()) {
+        return "found nothing, expected the heading " + expected;
+    }
+    std::string found = joined(fields);
+    std::string remedy;
+    if (std::ranges::is_permutation(fields, kColumns)) {
+        remedy = " in this order, here and below";
+    } else if (fields.size() == 1 && found.find_first_of(";\t") != std::string::npos) {
+        remedy = " with commas, here and below";
+    }
+    return "found " + shown(found) + ", expected the heading " + expected + remedy;
+}
+
+/// Latest first, the undated last; those of one moment as they come in the file.
+using CallsByDate = std::multimap<std::optional<double>, RecentCall, std::greater<>>;
+
 std::ifstream opened(const fs::path &file) {
     std::ifstream in(file, std::ios::binary);
     if (!in || fs::is_directory(file)) {
@@ -113,20 +152,15 @@ std::ifstream opened(const fs::path &file) {
 /// Adds what can be read to `calls`, and what cannot to `mistakes`.
 void readRecords(std::istream &in, ProgressBar &progress, CallsByDate &calls, Mistakes &mistakes) {
     CsvReader reader(in);
-    const auto header = reader.next();
-    if (!header || header->fields != kColumns) {
-        mistakes.add(header ? header->line : 1,
-                     "no heading; begin with the line number,name,direction,time,answered");
+    const CsvRecord first = reader.next().value_or(CsvRecord{1, {}});
+    if (const std::string mistake = headingMistake(first.fields); !mistake.empty()) {
+        mistakes.add(first.line, mistake);
         return;
     }
     while (const auto record = reader.next()) {
-        try {
-            RecentCall call = callOf(*record);
-            const auto date = call.date;
-            calls.emplace(date, std::move(call));
-        } catch (const Failure &mistake) {
-            mistakes.add(record->line, mistake.what());
-        }
+        RecentCall call = Row(*record, mistakes).call();
+        const auto date = call.date;
+        calls.emplace(date, std::move(call));
         progress.show(static_cast<uintmax_t>(std::max<std::streamoff>(in.tellg(), 0)));
     }
 }

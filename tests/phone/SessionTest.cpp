@@ -250,10 +250,18 @@ TEST_F(Stage, NamesTheMistakesOfACallHistoryByLine) {
     const std::string good = "1,,incoming,,no\n";
     const std::pair<std::string, std::string> cases[] = {
         {"", "a mistake, so that nothing of it is used; mend this:\n"},
-        {"number,name\n", ":1: no heading; begin with"},
+        {"", ":1: found nothing, expected the heading number,name,direction,time,answered"},
+        {"number,name\n", ":1: found 'number,name', expected the heading number,name,direction,"},
+        {"number;name\n",
+         ":1: found 'number;name', expected the heading number,name,direction,time,"
+         "answered with commas, here and below"},
+        {"name,number,direction,time,answered\n", "answered in this order, here and below"},
         {heading + good + "1,,in,,no\n", ":3: direction is 'in'; write incoming or outgoing"},
-        {heading + "1,,incoming,,maybe\n", ":2: answered is 'maybe'; write yes or no"},
-        {heading + "1,,incoming,2014-02-30T00:00:00Z,no\n", ":2: time is '2014-02-30T00:00:00Z'"},
+        {heading + "1,,in,2014-02-30T00:00:00Z,\"a\nb\"\n", "calls.csv: 3 mistakes, so that"},
+        {heading + "1,,incoming,2014-02-30T00:00:00Z,\"a\nb\"\n",
+         ":2: time is '2014-02-30T00:00:00Z'; write it like 2014-06-12T09:14:05+08:00, or leave it "
+         "empty\n" +
+             (folder_ / "calls.csv").string() + ":2: answered is 'a b'; write yes or no"},
         {heading + "\"1\n2\",,incoming,,no\n1,no\n", ":4: 2 fields instead of 5"},
         {heading + "1,\xFF,incoming,,no\n", ":2: '\xEF\xBF\xBD' is no UTF-8 text"},
         {heading + good + "1,\"a\n" + good, ":3: a quote that is never closed"},
