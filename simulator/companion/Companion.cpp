@@ -1,10 +1,15 @@
 // The state of the one run that a process has.
 #include "companion/Companion.hpp"
 
+#include <algorithm>
+#include <fstream>
 #include <memory>
+#include <ranges>
 #include <utility>
 
 #include <dlfcn.h>
+
+#include "uikit/drawing/Picture.hpp"
 
 namespace companion {
 
@@ -44,10 +49,23 @@ void forgetLogos(const std::filesystem::path &dataDir) {
     }
 }
 
+/// Also a picture at double scale alone is one. A picture is known by how its file begins.
+bool isPicture(const std::filesystem::path &file) {
+    constexpr std::string_view kSignature = "\x89PNG\r\n\x1A\n";
+    const auto paths = {sim::Picture::doubleScale(file), file};
+    return std::ranges::any_of(paths, [&](const std::filesystem::path &path) {
+        std::string start(kSignature.size(), '\0');
+        std::ifstream(path, std::ios::binary).read(start.data(), std::ssize(start));
+        return start == kSignature;
+    });
+}
+
 struct Run {
     std::unique_ptr<Store> store = std::make_unique<Store>();
     std::filesystem::path dataDir{};
     std::filesystem::path resourceDir = shareDir() / "companion";
+    std::filesystem::path worldFile{};
+    std::vector<PictureUse> pictures{};  // that the world names
     Journal journal{};
 };
 
@@ -78,6 +96,8 @@ void open(const Settings &settings) {
     run.dataDir = absolute(settings.dataDir);
     run.resourceDir =
         settings.resourceDir.empty() ? shareDir() / "companion" : absolute(settings.resourceDir);
+    run.worldFile = absolute(settings.worldFile);
+    run.pictures = world.pictures;
     run.journal = {};
 }
 
@@ -91,6 +111,25 @@ int &awaited() {
 }
 
 const std::filesystem::path &resourceDir() { return currentRun().resourceDir; }
+
+std::filesystem::path pictureFile(const std::string &name) {
+    const Run &run = currentRun();
+    const std::filesystem::path own = run.worldFile.parent_path() / name;
+    return !run.worldFile.empty() && isPicture(own) ? own : run.resourceDir / name;
+}
+
+std::vector<std::string> missingPictures() {
+    const Run &run = currentRun();
+    std::vector<std::string> lines;
+    for (const PictureUse &use : run.pictures) {
+        if (!isPicture(pictureFile(use.name))) {
+            lines.push_back(run.worldFile.string() + ": " + use.place + ": no PNG picture " +
+                            use.name + " lies beside this file or in " + run.resourceDir.string() +
+                            "; none is shown");
+        }
+    }
+    return lines;
+}
 
 std::filesystem::path logoFile(std::int32_t partnerId) {
     const std::filesystem::path &dataDir = currentRun().dataDir;

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "companion/SimulatedTime.hpp"
 #include "companion/store/Store.hpp"
@@ -60,6 +61,13 @@ int &awaited();
 
 /// The folder of the companion's pictures.
 const std::filesystem::path &resourceDir();
+
+/// Where a picture lies that the world names: beside the world's file, or else in the folder above,
+/// whether it is there or not.
+std::filesystem::path pictureFile(const std::string &name);
+
+/// The pictures that the world names and that are in neither place or are none, a line for each.
+std::vector<std::string> missingPictures();
 
 /// Where a partner's logo is kept; empty without a data folder.
 std::filesystem::path logoFile(std::int32_t partnerId);

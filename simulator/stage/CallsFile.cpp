@@ -149,8 +149,33 @@ std::ifstream opened(const fs::path &file) {
     return in;
 }
 
+/// The names that belong to no number.
+class LostNames {
+  public:
+    void noteIn(const RecentCall &call, size_t line) {
+        const bool isLost = call.number.empty() && !call.name.empty();
+        if (isLost && ++count_ == 1) {
+            first_ = std::to_string(line) + ": " + shown(call.name) +
+                     " is not shown, since the number is missing: a caller who hides has no name";
+        }
+    }
+
+    void tell(const fs::path &file, const Warn &warn) const {
+        if (count_ > 0 && warn) {
+            const std::string more = std::to_string(count_ - 1);
+            warn(file.string() + ":" + first_ +
+                 (count_ == 1 ? "" : "; the same in other rows: " + more));
+        }
+    }
+
+  private:
+    std::string first_;
+    size_t count_ = 0;
+};
+
 /// Adds what can be read to `calls`, and what cannot to `mistakes`.
-void readRecords(std::istream &in, ProgressBar &progress, CallsByDate &calls, Mistakes &mistakes) {
+void readRecords(std::istream &in, ProgressBar &progress, CallsByDate &calls, Mistakes &mistakes,
+                 LostNames &lost) {
     CsvReader reader(in);
     const CsvRecord first = reader.next().value_or(CsvRecord{1, {}});
     if (const std::string mistake = headingMistake(first.fields); !mistake.empty()) {
@@ -159,6 +184,7 @@ void readRecords(std::istream &in, ProgressBar &progress, CallsByDate &calls, Mi
     }
     while (const auto record = reader.next()) {
         RecentCall call = Row(*record, mistakes).call();
+        lost.noteIn(call, record->line);
         const auto date = call.date;
         calls.emplace(date, std::move(call));
         progress.show(static_cast<uintmax_t>(std::max<std::streamoff>(in.tellg(), 0)));
@@ -167,16 +193,17 @@ void readRecords(std::istream &in, ProgressBar &progress, CallsByDate &calls, Mi
 
 }  // namespace
 
-std::vector<RecentCall> readCallsFile(const fs::path &file) {
+std::vector<RecentCall> readCallsFile(const fs::path &file, const Warn &warn) {
     std::ifstream in = opened(file);
     std::error_code sizeless;
     const uintmax_t size = fs::file_size(file, sizeless);
     CallsByDate byDate;
     Mistakes mistakes(file);
+    LostNames lost;
     {
         ProgressBar progress("reading " + file.filename().string(), sizeless ? 0 : size);
         try {
-            readRecords(in, progress, byDate, mistakes);
+            readRecords(in, progress, byDate, mistakes, lost);
         } catch (const CsvError &error) {
             mistakes.add(error.line(), error.what());
         }
@@ -185,6 +212,7 @@ std::vector<RecentCall> readCallsFile(const fs::path &file) {
         throw Failure(file.string() + ": cannot be read to its end; is the disk in order?");
     }
     mistakes.throwIfAny();
+    lost.tell(file, warn);
     std::vector<RecentCall> calls;
     calls.reserve(byDate.size());
     for (auto &[date, call] : byDate) {

@@ -6,11 +6,14 @@
 #include <vector>
 
 #include "companion/world/Records.hpp"
+#include "stage/Errors.hpp"
 
 namespace stage {
 
 /// The calls of a file in the format of docs/simulator.md, latest first, at the end those without a
 /// time. All or nothing: mistakes throw a Failure that names the first of them by their lines.
-std::vector<companion::RecentCall> readCallsFile(const std::filesystem::path &file);
+/// `warn` is told of names that cannot be shown; it may be empty.
+std::vector<companion::RecentCall> readCallsFile(const std::filesystem::path &file,
+                                                 const Warn &warn = {});
 
 }  // namespace stage

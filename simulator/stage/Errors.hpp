@@ -1,7 +1,9 @@
-// The two ways in which the command line ends badly, told apart by their exit codes.
+// The two ways in which the command line ends badly, told apart by their exit codes, and warnings.
 #pragma once
 
+#include <functional>
 #include <stdexcept>
+#include <string>
 
 namespace stage {
 
@@ -14,5 +16,8 @@ struct UsageError : std::runtime_error {
 struct Failure : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
+
+/// Takes one line about something that does not end the run.
+using Warn = std::function<void(const std::string &)>;
 
 }  // namespace stage

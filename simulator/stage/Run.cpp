@@ -16,7 +16,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-Settings settingsOf(const Request &request) {
+constexpr std::string_view kProgram = "phone-simulator";
+
+Settings settingsOf(const Request &request, std::ostream &err) {
     Settings settings;
     settings.model = request.model;
     settings.withAddOn = request.withAddOn;
@@ -26,6 +28,7 @@ Settings settingsOf(const Request &request) {
     settings.withoutClass = request.withoutClass;
     settings.calls = request.calls;
     settings.pace = request.pace;
+    settings.warn = [&err](const std::string &line) { err << kProgram << ": " << line << '\n'; };
     return settings;
 }
 
@@ -40,9 +43,9 @@ void checkPictureFolders(const Steps &steps) {
     }
 }
 
-void runScreen(const Request &request, std::ostream &out) {
+void runScreen(const Request &request, std::ostream &out, std::ostream &err) {
     checkPictureFolders(request.steps);
-    Session session(settingsOf(request));
+    Session session(settingsOf(request, err));
     session.open(request.opening);
     for (const Step &step : request.steps) {
         session.perform(step, out);
@@ -64,8 +67,8 @@ std::string outcomeText(const substrate::HookEntry &entry) {
 }
 
 /// Two lines a method: side by side its names are too long for a terminal.
-void runHooks(const Request &request, std::ostream &out) {
-    const Session session(settingsOf(request));
+void runHooks(const Request &request, std::ostream &out, std::ostream &err) {
+    const Session session(settingsOf(request, err));
     size_t installed = 0;
     for (const substrate::HookEntry &entry : substrate::hookLog()) {
         const bool isInstalled = entry.outcome == substrate::HookEntry::Outcome::Replaced ||
@@ -79,8 +82,8 @@ void runHooks(const Request &request, std::ostream &out) {
         << " replaced, " << substrate::hookLog().size() - installed << " skipped\n";
 }
 
-void runDescribe(const Request &request, std::ostream &out) {
-    Session session(settingsOf(request));
+void runDescribe(const Request &request, std::ostream &out, std::ostream &err) {
+    Session session(settingsOf(request, err));
     TextTable table({"typed", "shown", "below the number"});
     for (const std::string &number : request.numbers) {
         session.openDialer();
@@ -90,28 +93,28 @@ void runDescribe(const Request &request, std::ostream &out) {
     out << table.str();
 }
 
-void runRequest(const Request &request, std::ostream &out) {
+void runRequest(const Request &request, std::ostream &out, std::ostream &err) {
     switch (request.task) {
     case Task::Help:
         out << request.help;
         break;
     case Task::Version:
-        out << "phone-simulator " << ZQDIAL_VERSION << '\n';
+        out << kProgram << ' ' << ZQDIAL_VERSION << '\n';
         break;
     case Task::Dialer:
     case Task::InCall:
     case Task::Recents:
-        runScreen(request, out);
+        runScreen(request, out, err);
         break;
     case Task::Hooks:
-        runHooks(request, out);
+        runHooks(request, out, err);
         break;
     case Task::Gallery:
-        out << makeGallery(request.out, settingsOf(request)) << " pictures and "
+        out << makeGallery(request.out, settingsOf(request, err)) << " pictures and "
             << (request.out / "index.html").string() << '\n';
         break;
     case Task::Describe:
-        runDescribe(request, out);
+        runDescribe(request, out, err);
         break;
     }
 }
@@ -122,7 +125,7 @@ int run(std::span<const std::string> words, std::ostream &out, std::ostream &err
     constexpr int kFailed = 1;
     constexpr int kWrongUsage = 2;
     try {
-        runRequest(readRequest(words), out);
+        runRequest(readRequest(words), out, err);
         if (!out.flush()) {
             throw Failure("the output cannot be written; is the disk full?");
         }
@@ -131,9 +134,10 @@ int run(std::span<const std::string> words, std::ostream &out, std::ostream &err
         err << error.what() << '\n';
         return kWrongUsage;
     } catch (const std::exception &error) {
-        err << "phone-simulator: " << error.what() << '\n';
+        err << kProgram << ": " << error.what() << '\n';
     } catch (...) {
-        err << "phone-simulator: an Objective-C exception ended the run; please report the "
+        err << kProgram
+            << ": an Objective-C exception ended the run; please report the "
                "command\n";
     }
     return kFailed;

@@ -10,6 +10,7 @@
 
 #include "companion/world/Records.hpp"
 #include "objc/Owned.hpp"
+#include "stage/Errors.hpp"
 #include "stage/Model.hpp"
 #include "stage/PhoneWindow.hpp"
 #include "stage/Screen.hpp"
@@ -33,6 +34,7 @@ struct Settings {
     std::filesystem::path calls{};  // of the recents list; empty: the world's
     std::string bundleIdentifier = "com.apple.mobilephone";
     double pace = 1;  // real seconds that a simulated second takes
+    Warn warn{};      // told what of the user's files is passed over
 };
 
 class Session {

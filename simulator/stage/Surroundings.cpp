@@ -1,7 +1,9 @@
 // Preparing the process, in the order in which things depend on each other.
 #include "stage/Surroundings.hpp"
 
+#include <algorithm>
 #include <cstdlib>
+#include <ranges>
 
 #include <unistd.h>
 
@@ -44,7 +46,21 @@ fs::path dataFolder(const Settings &settings) {
 }
 
 fs::path pictureFile(const std::string &name) {
-    return name.empty() ? fs::path() : companion::resourceDir() / name;
+    return name.empty() ? fs::path() : companion::pictureFile(name);
+}
+
+/// Those of the sample world are there.
+void warnOfPictures(const Settings &settings) {
+    if (!settings.warn || settings.world.empty()) {
+        return;
+    }
+    constexpr size_t kShown = 10;
+    const std::vector<std::string> lines = companion::missingPictures();
+    std::ranges::for_each(lines | std::views::take(kShown), settings.warn);
+    if (lines.size() > kShown) {
+        settings.warn(settings.world.string() + ": " + std::to_string(lines.size() - kShown) +
+                      " more pictures are not there");
+    }
 }
 
 void fillContactBook() {
@@ -109,6 +125,7 @@ void prepareProcess(const Settings &settings) {
     time.letPass({});
     DelayedMessages::shared().forgetAll();
     openWorld(settings);
+    warnOfPictures(settings);
     if (settings.withAddOn) {
         loadAddOn();
     }

@@ -109,12 +109,15 @@ TEST(ContactBook, MatchesNumbersHoweverTheyAreWrittenAndNothingElse) {
     book.add({"第二位", {{"13800130011", "工作"}}});
     book.add({"Ann", {{"+44 20 7946 0018", "home"}}});
     book.add({"服务", {{"100", ""}, {"", ""}}});
+    book.add({"Bank", {{"BANK-100", ""}, {"95,01", "short"}}});
     for (const char *const written : {"13800130011", "+8613800130011", "0086 138-0013-0011"}) {
         EXPECT_EQ(book.match(written), (ContactMatch{"林小满", "手机"})) << "the first of two";
     }
     EXPECT_EQ(book.match("01001234567"), (ContactMatch{"林小满", ""}));
     EXPECT_EQ(book.match("+442079460018"), (ContactMatch{"Ann", "home"}));
-    for (const char *const text : {"", "10", "1000", "*100#", "100w", "8610", "abc", "+"}) {
+    EXPECT_EQ(book.match("BANK-100"), (ContactMatch{"Bank", ""}));
+    EXPECT_EQ(book.match("95,01"), (ContactMatch{"Bank", "short"}));
+    for (const char *const text : {"", "10", "1000", "*100#", "BANK", "100w", "8610", "abc", "+"}) {
         EXPECT_EQ(book.match(text), std::nullopt) << text;
     }
 }

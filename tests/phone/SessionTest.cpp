@@ -237,6 +237,36 @@ TEST_F(Stage, ReadsAnOwnCallHistoryLatestFirst) {
                              RecentCall{.incoming = true}));
 }
 
+TEST_F(Stage, ShowsOwnPicturesAndWarnsOfWhatItCannotShow) {
+    const std::string calls = folder_ / "calls.csv";
+    const std::string world = folder_ / "world.json";
+    test::writeFile(calls,
+                    "number,name,direction,time,answered\n"
+                    ",Nobody,incoming,,no\nBANK-1,Bank,incoming,,no\n,Other,incoming,,no\n");
+    test::writeFile(world, R"({"brands": [{"number": "95001", "name": "a", "logo": "none.png"}],
+        "contacts": [
+            {"recordId": 1, "name": "own", "avatar": "own.png", "numbers": [{"number": "13800130011"}]},
+            {"recordId": 2, "name": "b", "avatar": "text.png", "wallpaper": "logo_bank.png",
+             "numbers": [{"number": "13800130012"}]}]})");
+    test::writeFile(folder_ / "text.png", "text");
+    fs::copy_file(companion::resourceDir() / "avatar_cat.png", folder_ / "own.png");
+    const Outcome outcome = run({"recents", "--world", world, "--calls", calls, "--tree"});
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_THAT(outcome.out, HasSubstr("\"Bank\""));
+    std::vector<std::string> warnings;
+    std::istringstream lines(outcome.err);
+    for (std::string line; std::getline(lines, line);) {
+        warnings.push_back(line);
+    }
+    EXPECT_THAT(warnings,
+                testing::UnorderedElementsAre(
+                    HasSubstr("calls.csv:2: 'Nobody' is not shown, since the number is missing"),
+                    HasSubstr("world.json: /brands/0/logo: no PNG picture none.png lies beside"),
+                    HasSubstr("world.json: /contacts/1/avatar: no PNG picture text.png lies")));
+    EXPECT_EQ(companion::pictureFile("own.png"), folder_ / "own.png");
+    EXPECT_EQ(companion::pictureFile("text.png"), companion::resourceDir() / "text.png");
+}
+
 TEST_F(Stage, NamesTheMistakesOfACallHistoryByLine) {
     const auto refusal = [](const std::filesystem::path &file) -> std::string {
         try {

@@ -1,4 +1,4 @@
-// Pictures of the resource folder as the process's UIKit makes them.
+// Pictures that a world names, as the process's UIKit makes them.
 #pragma once
 
 #include <string>
@@ -8,10 +8,10 @@
 
 namespace companion {
 
-/// An autoreleased UIImage of a file in the resource folder; nil when there is no such picture.
+/// An autoreleased UIImage; nil when there is no such picture.
 inline NSObject picture(const std::string &name) {
     return objc::send<NSObject(NSString)>("UIImage"_cls, "imageWithContentsOfFile:"_sel,
-                                          string((resourceDir() / name).string()));
+                                          string(pictureFile(name).string()));
 }
 
 }  // namespace companion

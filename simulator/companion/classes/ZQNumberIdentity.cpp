@@ -19,7 +19,7 @@ NSDictionary brandInfoOf(const Identity &record) {
     };
     put(kZQBrandServiceBrandNameKey, record.label);
     if (!record.brandLogo.empty()) {
-        put(kZQBrandServiceBrandLogoPathKey, (resourceDir() / record.brandLogo).string());
+        put(kZQBrandServiceBrandLogoPathKey, pictureFile(record.brandLogo).string());
     }
     return info;
 }

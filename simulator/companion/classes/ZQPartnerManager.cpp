@@ -1,4 +1,4 @@
-// A download copies a picture of the resource folder, at both of its scales.
+// A download copies a picture that lies here, at both of its scales.
 #include "companion/classes/ZQPartnerManager.hpp"
 
 #include <algorithm>
@@ -12,16 +12,13 @@
 #include "companion/classes/Services.hpp"
 #include "companion/classes/ZQIPCService.hpp"
 #include "objc/ClassBuilder.hpp"
+#include "uikit/drawing/Picture.hpp"
 
 namespace companion {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path doubleScale(const fs::path &picture) {
-    return picture.parent_path() / (picture.stem().string() + "@2x" + picture.extension().string());
-}
 
 /// Copies under another name first, so that a file at `to` is always a whole one.
 void copyWhole(const fs::path &from, const fs::path &to) {
@@ -31,7 +28,8 @@ void copyWhole(const fs::path &from, const fs::path &to) {
 }
 
 void fetch(const std::string &icon, const fs::path &destination) {
-    const fs::path source = resourceDir() / fs::path(icon).filename();
+    const auto doubleScale = &sim::Picture::doubleScale;
+    const fs::path source = pictureFile(fs::path(icon).filename().string());
     fs::create_directories(destination.parent_path());
     if (fs::exists(doubleScale(source))) {
         copyWhole(doubleScale(source), doubleScale(destination));

@@ -64,7 +64,7 @@ void WorldReader::readBrands(const JsonPlace &list) {
         entry.expectObject({"number", "name", "logo"});
         Identity brand = identityAt(entry, IdentityOrigin::brand, identity_kind::kBrand);
         brand.label = entry["name"].nonEmptyText();
-        brand.brandLogo = entry["logo"].pictureOrNone();
+        brand.brandLogo = pictureAt(entry["logo"]);
         world_.identities.push_back(std::move(brand));
     }
 }

@@ -72,6 +72,12 @@ struct RecentCall {
     bool operator==(const RecentCall &) const = default;
 };
 
+/// A picture that a world names.
+struct PictureUse {
+    std::string place{};  ///< in the world's file: "/contacts/0/avatar"
+    std::string name{};
+};
+
 /// What the cloud says when it is asked about a number.
 struct CloudAnswer {
     enum class Outcome : std::int32_t { answer = 0, error = 1, cancel = 2 };

@@ -31,6 +31,7 @@ struct World {
     std::vector<StoredCall> storedCalls;
     std::vector<RecentCall> recents;
     std::vector<CloudAnswer> cloudAnswers;
+    std::vector<PictureUse> pictures;  ///< all that the above name
 
     /// Reads a JSON file in the format of docs/world.md. Nothing is read in part: a file with any
     /// mistake throws WorldError.

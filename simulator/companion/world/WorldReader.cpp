@@ -33,7 +33,6 @@ void checkCloudAnswer(const JsonPlace &answer) {
     partner["brand_type"].textOr("");
     partner["b_id"].integerOr(kLowestPartnerId, kMost, kLowestPartnerId);
     partner["b_n"].textOr("");
-    partner["b_icon"].pictureOrNone();
     partner["source"].textOr("");
     partner["rating"].realOr(0, 5, 0);
 }
@@ -76,6 +75,14 @@ World WorldReader::read(const JsonPlace &root) {
     return std::move(world_);
 }
 
+std::string WorldReader::pictureAt(const JsonPlace &place) {
+    std::string name = place.pictureOrNone();
+    if (!name.empty()) {
+        world_.pictures.push_back({place.place(), name});
+    }
+    return name;
+}
+
 void WorldReader::readContacts(const JsonPlace &list) {
     std::set<std::int32_t> ids;
     for (const JsonPlace &entry : list.items()) {
@@ -86,8 +93,8 @@ void WorldReader::readContacts(const JsonPlace &list) {
             entry["recordId"].fail("a record id that no other contact has");
         }
         contact.name = entry["name"].nonEmptyText();
-        contact.avatar = entry["avatar"].pictureOrNone();
-        contact.wallpaper = entry["wallpaper"].pictureOrNone();
+        contact.avatar = pictureAt(entry["avatar"]);
+        contact.wallpaper = pictureAt(entry["wallpaper"]);
         for (const JsonPlace &number : entry["numbers"].items()) {
             number.expectObject({"label", "number"});
             static_cast<void>(number["number"].number());  // checked here, kept as written
@@ -110,7 +117,7 @@ void WorldReader::readPartners(const JsonPlace &list) {
             entry["id"].fail("an id that no other partner has");
         }
         partner.name = entry["name"].nonEmptyText();
-        partner.icon = entry["icon"].pictureOrNone();
+        partner.icon = pictureAt(entry["icon"]);
         partner.source = entry["source"].textOr("");
         nlohmann::json ads = nlohmann::json::array();
         for (const JsonPlace &ad : entry["ads"].items()) {
@@ -152,7 +159,7 @@ void WorldReader::readMicroblogs(const JsonPlace &list) {
         blog.content = entry["content"].textOr("");
         blog.avatarKind = entry["avatarType"].integerOr(0, kMost, 0);
         blog.boundKind = entry["boundType"].integerOr(0, kMost, 0);
-        blog.avatar = entry["avatar"].pictureOrNone();
+        blog.avatar = pictureAt(entry["avatar"]);
         world_.microblogs.push_back(std::move(blog));
     }
 }
@@ -206,6 +213,7 @@ void WorldReader::readCloudAnswers(const JsonPlace &list) {
         }
         if (entry.has("answer")) {
             checkCloudAnswer(entry["answer"]);
+            pictureAt(entry["answer"]["partner"]["b_icon"]);
             answer.text = entry["answer"].compactJson();
         } else if (entry.has("error")) {
             answer.outcome = CloudAnswer::Outcome::error;

@@ -35,6 +35,9 @@ class WorldReader {
     /// An identity with the number that the entry gives; a number has one identity of an origin.
     Identity identityAt(const JsonPlace &entry, IdentityOrigin origin, std::int32_t kind);
 
+    /// The name of a picture, noted among those of the world; empty when the member is missing.
+    std::string pictureAt(const JsonPlace &place);
+
     World world_;
     std::map<std::pair<IdentityOrigin, std::string>, std::string> describedAt_;
 };

@@ -2,15 +2,24 @@
 #include "phone/dialer/ContactBook.hpp"
 
 #include <algorithm>
+#include <cctype>
 
 #include "phone/dialer/TypedNumber.hpp"
 
 namespace phone {
 namespace {
 
-/// What a contact's entry is found by: the digits of a number, the text of anything else.
-std::string keyOf(const std::string &entry) {
-    return entry.find_first_of("@*#") == std::string::npos ? comparableDigits(entry) : entry;
+/// A service code such as *100# is not the number 100, nor is BANK-1 the number 1.
+bool isWrittenInDigits(std::string_view text) {
+    return std::ranges::none_of(text, [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return byte >= 0x80U || std::isalpha(byte) != 0 || c == '@' || c == '*' || c == '#';
+    });
+}
+
+/// What an entry is found by: the digits of a number, the text of anything else.
+std::string keyOf(std::string_view text) {
+    return isWrittenInDigits(text) ? comparableDigits(text) : std::string(text);
 }
 
 }  // namespace
@@ -38,9 +47,7 @@ void ContactBook::clear() {
 }
 
 ContactBook::Entry ContactBook::find(std::string_view number) const {
-    // A service code such as *100# is not the number 100.
-    const bool isNumber = number.find_first_not_of("+0123456789 -()") == std::string_view::npos;
-    const std::string key = isNumber ? comparableDigits(number) : std::string(number);
+    const std::string key = keyOf(number);
     const auto found = key.empty() ? byKey_.end() : byKey_.find(key);
     if (found == byKey_.end()) {
         return {};

@@ -13,12 +13,6 @@ bool hasDoubleScaleName(const std::filesystem::path &file) {
     return file.stem().string().ends_with(kDoubleScaleSuffix);
 }
 
-std::filesystem::path doubleScaleSibling(const std::filesystem::path &file) {
-    const std::string name =
-        file.stem().string() + std::string(kDoubleScaleSuffix) + file.extension().string();
-    return file.parent_path() / name;
-}
-
 std::optional<Picture> decoded(const std::filesystem::path &file, double scale) {
     const std::shared_ptr<cairo_surface_t> surface(
         cairo_image_surface_create_from_png(file.c_str()), cairo_surface_destroy);
@@ -65,6 +59,12 @@ class Decoded {
 
 }  // namespace
 
+std::filesystem::path Picture::doubleScale(const std::filesystem::path &file) {
+    const std::string name =
+        file.stem().string() + std::string(kDoubleScaleSuffix) + file.extension().string();
+    return file.parent_path() / name;
+}
+
 std::optional<Picture> Picture::load(const std::filesystem::path &file) {
     if (file.empty()) {
         return std::nullopt;
@@ -72,7 +72,7 @@ std::optional<Picture> Picture::load(const std::filesystem::path &file) {
     if (hasDoubleScaleName(file)) {
         return Decoded::read(file, 2);
     }
-    auto picture = Decoded::read(doubleScaleSibling(file), 2);
+    auto picture = Decoded::read(doubleScale(file), 2);
     return picture ? picture : Decoded::read(file, 1);
 }
 

@@ -14,6 +14,9 @@ namespace sim {
 /// Cheap to copy: copies share the pixels, which never change.
 class Picture {
   public:
+    /// "x@2x.png" beside "x.png".
+    static std::filesystem::path doubleScale(const std::filesystem::path &file);
+
     /// Nothing when the file is missing or no PNG. For "x.png" a file "x@2x.png"
     /// beside it is preferred, as on the devices, and need not have the plain one
     /// beside it.
