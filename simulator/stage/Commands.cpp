@@ -16,6 +16,10 @@ OptionSpec paceOption() {
     return {"--pace", "SECONDS", "real seconds that a second of --wait takes; 1"};
 }
 
+OptionSpec callsOption() {
+    return {"--calls", "FILE", "a call history of your own; without it, the world's recents"};
+}
+
 OptionSpec verboseOption() { return {"--verbose", "", "print the system log on stderr"}; }
 
 OptionSpec screenOption() { return {"--screen", "INCHES", "size of its screen", listed(kScreens)}; }
@@ -54,12 +58,8 @@ std::vector<Command> makeCommands() {
                        paceOption(),
                        verboseOption()},
                       inCallSteps()),
-        screenCommand(
-            Task::Recents, "recents", "Look at the recent calls and at one's detail.",
-            {{"--calls", "FILE", "a call history of your own; without it, the world's recents"},
-             paceOption(),
-             verboseOption()},
-            recentsSteps()),
+        screenCommand(Task::Recents, "recents", "Look at the recent calls and at one's detail.",
+                      {callsOption(), paceOption(), verboseOption()}, recentsSteps()),
         {Task::Hooks,
          {"hooks", "List the methods that the add-on replaces, in order.", "",
           withPlaces({iosOption(),
@@ -68,7 +68,8 @@ std::vector<Command> makeCommands() {
                       {"--verbose", "", "report hooks on missing methods on stderr as well"}})}},
         {Task::Gallery,
          {"gallery", "Draw every scene on every device, with and without the add-on.", "",
-          withPlaces({{"--out", "FOLDER", "where to put the pictures and index.html"}})}},
+          withPlaces(
+              {{"--out", "FOLDER", "where to put the pictures and index.html"}, callsOption()})}},
         {Task::Describe,
          {"describe", "Print what the dialer shows for numbers.", "NUMBER...",
           withPlaces({iosOption(), screenOption()})}},

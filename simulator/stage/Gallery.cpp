@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <span>
 #include <sstream>
 #include <vector>
 
@@ -22,6 +23,8 @@ namespace fs = std::filesystem;
 constexpr auto kPictures = "pictures";
 constexpr auto kPage = "index.html";
 constexpr double kPace = 0.01;  // nobody watches
+constexpr char kDrawn = '+';    // before what a scene's screen said
+constexpr char kLeftOut = '-';  // the scene needs more than there is
 
 std::vector<Model> allModels() {
     std::vector<Model> models;
@@ -42,28 +45,46 @@ bool isShown(const Scene &scene, const Model &model) {
     return !scene.onlyBefore8 || model.ios < "8";
 }
 
-/// Draws all scenes on one device; returns what the screen said, one line a scene.
+bool isSample(const Settings &settings) { return settings.world.empty() && settings.calls.empty(); }
+
+/// Draws one scene; returns what the screen said, on one line.
+std::string drawScene(Session &session, const Scene &scene, const Settings &settings,
+                      const fs::path &picture) {
+    std::ostringstream printed;  // by steps; nobody reads it
+    session.startOver();
+    session.open(scene.opening);
+    for (const Step &step : scene.steps) {
+        if (settings.withAddOn || step.kind != Step::Kind::HoldButton) {
+            session.perform(step, printed);  // the buttons are the add-on's
+        }
+    }
+    session.savePicture(picture);
+    std::string said = session.lineText();
+    std::ranges::replace(said, '\n', ' ');
+    return said;
+}
+
+/// Draws all scenes on one device; returns a line a scene, what the screen said or that it is
+/// left out.
 std::string drawScenes(const fs::path &folder, const std::vector<SceneGroup> &groups,
                        const Settings &settings) {
     Session session(settings);
     std::ostringstream captions;
-    std::ostringstream printed;  // by steps; nobody reads it
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
             if (!isShown(scene, settings.model)) {
                 continue;
             }
-            session.startOver();
-            session.open(scene.opening);
-            for (const Step &step : scene.steps) {
-                if (settings.withAddOn || step.kind != Step::Kind::HoldButton) {
-                    session.perform(step, printed);  // the buttons are the add-on's
+            try {
+                const fs::path picture = folder / pictureName(scene, settings);
+                const std::string said = drawScene(session, scene, settings, picture);
+                captions << kDrawn << said << '\n';
+            } catch (const Failure &) {
+                if (isSample(settings)) {
+                    throw;
                 }
+                captions << kLeftOut << '\n';
             }
-            session.savePicture(folder / pictureName(scene, settings));
-            std::string said = session.lineText();
-            std::ranges::replace(said, '\n', ' ');
-            captions << said << '\n';
         }
     }
     return captions.str();
@@ -80,7 +101,32 @@ Settings sideOf(const Settings &settings, const Model &model, bool withAddOn) {
     return side;
 }
 
-/// What a device shows in all scenes: the captions of both sides come in the order of the scenes.
+/// Returns whether the scene was drawn.
+bool takeCaption(std::istream &lines, std::string &caption) {
+    const bool drawn = lines.get() == kDrawn;
+    std::getline(lines, caption);
+    return drawn;
+}
+
+/// The scenes that not every device which could show them does.
+std::vector<std::string_view> missingIn(std::span<const Exhibit> exhibits,
+                                        std::span<const SceneGroup> groups,
+                                        std::span<const Model> models) {
+    std::vector<std::string_view> names;
+    for (const SceneGroup &group : groups) {
+        for (const Scene &scene : group.scenes) {
+            const auto wanted = std::ranges::count_if(
+                models, [&](const Model &model) { return isShown(scene, model); });
+            if (std::ranges::count(exhibits, scene.name, &Exhibit::scene) < wanted) {
+                names.push_back(scene.name);
+            }
+        }
+    }
+    return names;
+}
+
+/// What a device shows in all scenes that both sides drew: their lines come in the order of the
+/// scenes.
 std::vector<Exhibit> exhibitsOf(const std::vector<SceneGroup> &groups, const Settings &without,
                                 const Settings &with, const std::string &saidWithout,
                                 const std::string &saidWith) {
@@ -98,9 +144,10 @@ std::vector<Exhibit> exhibitsOf(const std::vector<SceneGroup> &groups, const Set
                             pictureName(scene, with),
                             {},
                             {}};
-            std::getline(captionsWithout, exhibit.captionWithout);
-            std::getline(captionsWith, exhibit.captionWith);
-            exhibits.push_back(std::move(exhibit));
+            const bool drawn = takeCaption(captionsWithout, exhibit.captionWithout);
+            if (takeCaption(captionsWith, exhibit.captionWith) && drawn) {
+                exhibits.push_back(std::move(exhibit));
+            }
         }
     }
     return exhibits;
@@ -145,30 +192,28 @@ void writePage(const fs::path &file, const std::string &page) {
 }
 
 /// Puts the finished files in their place, the page last.
-int moveInto(const fs::path &folder, const fs::path &staged) {
-    int pictures = 0;
+void moveInto(const fs::path &folder, const fs::path &staged, std::span<const Exhibit> exhibits) {
     try {
         fs::create_directories(folder / kPictures);
-        for (const fs::directory_entry &entry : fs::directory_iterator(staged / kPictures)) {
-            fs::rename(entry.path(), folder / kPictures / entry.path().filename());
-            ++pictures;
+        for (const Exhibit &exhibit : exhibits) {
+            fs::rename(staged / exhibit.pictureWithout, folder / exhibit.pictureWithout);
+            fs::rename(staged / exhibit.pictureWith, folder / exhibit.pictureWith);
         }
         fs::rename(staged / kPage, folder / kPage);
     } catch (const fs::filesystem_error &error) {
         throw Failure(folder.string() + ": cannot be filled: " + error.code().message() +
                       "; choose another folder with --out");
     }
-    return pictures;
 }
 
 }  // namespace
 
-int makeGallery(const fs::path &folder, const Settings &settings) {
+Gallery makeGallery(const fs::path &folder, const Settings &settings,
+                    const std::vector<SceneGroup> &groups) {
     if (fs::exists(folder) && !fs::is_directory(folder)) {
         throw Failure(folder.string() + ": is no folder; choose another with --out");
     }
     const StagingFolder staging(folder);
-    const std::vector<SceneGroup> groups = {dialerScenes(), inCallScenes(), recentsScenes()};
     const std::vector<Model> models = allModels();
     std::vector<Exhibit> exhibits;
     for (const Model &model : models) {
@@ -184,8 +229,9 @@ int makeGallery(const fs::path &folder, const Settings &settings) {
         std::ranges::move(exhibitsOf(groups, without, with, saidWithout, drawWith.answer()),
                           std::back_inserter(exhibits));
     }
-    writePage(staging.path() / kPage, galleryPage(groups, models, exhibits));
-    return moveInto(folder, staging.path());
+    writePage(staging.path() / kPage, galleryPage(groups, models, exhibits, isSample(settings)));
+    moveInto(folder, staging.path(), exhibits);
+    return {2 * exhibits.size(), missingIn(exhibits, groups, models)};
 }
 
 }  // namespace stage

@@ -2,14 +2,23 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
+#include <vector>
 
+#include "stage/Scene.hpp"
 #include "stage/Session.hpp"
 
 namespace stage {
 
-/// Draws the gallery into `folder`, which is made if need be: index.html and a folder of pictures.
-/// World and data folder are those of `settings`. After an error the folder is as it was before.
-/// Returns the number of pictures. Throws Failure.
-int makeGallery(const std::filesystem::path &folder, const Settings &settings);
+struct Gallery {
+    size_t pictures;
+    std::vector<std::string_view> leftOut;  // scenes for which there is nothing to open or touch
+};
+
+/// Draws the scenes on every device into `folder`, which is made if need be: index.html and a
+/// folder of pictures. World, calls and data folder are those of `settings`. After an error the
+/// folder is as it was before. Throws Failure.
+Gallery makeGallery(const std::filesystem::path &folder, const Settings &settings,
+                    const std::vector<SceneGroup> &groups);
 
 }  // namespace stage

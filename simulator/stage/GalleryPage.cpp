@@ -1,6 +1,8 @@
 // Writing the gallery's page. Picking a device is done by radio buttons and a style sheet alone.
 #include "stage/GalleryPage.hpp"
 
+#include <algorithm>
+
 namespace stage {
 namespace {
 
@@ -20,6 +22,10 @@ figure { margin: 0; width: 320px; }
 img { width: 320px; height: auto; border: 1px solid #d1d1d6; border-radius: 4px; display: block; }
 figcaption { padding-top: 6px; font-size: 13px; color: #48484a; }
 )";
+
+constexpr auto kOwnWorld =
+    "The titles and notes tell what the sample world has in these places; what is shown is a world "
+    "or a call history of your own. ";
 
 std::string id(const Model &model) {
     std::string name = "d-" + model.slug();
@@ -108,19 +114,22 @@ std::string escapedHtml(std::string_view text) {
 }
 
 std::string galleryPage(std::span<const SceneGroup> groups, std::span<const Model> models,
-                        std::span<const Exhibit> exhibits) {
+                        std::span<const Exhibit> exhibits, bool isSample) {
     std::string html =
         "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
         "<title>libZQDial: the gallery</title>\n<style>";
     html += kStyle;
     html += chooserStyle(models) + "</style>\n</head>\n<body>\n<h1>libZQDial</h1>\n" +
-            "<p>The simulated Phone application without and with the add-on. Pick a device:</p>\n" +
-            chooser(models) + contents(groups);
+            "<p>The simulated Phone application without and with the add-on. " +
+            (isSample ? "" : kOwnWorld) + "Pick a device:</p>\n" + chooser(models) +
+            contents(groups);
     // Headings and scenes lie side by side: the style sheet reaches the scenes from the buttons.
     for (const SceneGroup &group : groups) {
         html += heading(group);
         for (const Scene &scene : group.scenes) {
-            html += section(scene, exhibits);
+            if (std::ranges::find(exhibits, scene.name, &Exhibit::scene) != exhibits.end()) {
+                html += section(scene, exhibits);
+            }
         }
     }
     return html + "</body>\n</html>\n";

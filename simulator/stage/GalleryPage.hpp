@@ -21,9 +21,11 @@ struct Exhibit {
     std::string captionWith;
 };
 
-/// The page for `exhibits`; a reader picks the device, the first one is shown at first.
+/// The page for `exhibits`; a reader picks the device, the first one is shown at first. Scenes
+/// without an exhibit are left out. Titles and notes are those of the sample world, which the page
+/// says when it shows another.
 std::string galleryPage(std::span<const SceneGroup> groups, std::span<const Model> models,
-                        std::span<const Exhibit> exhibits);
+                        std::span<const Exhibit> exhibits, bool isSample);
 
 /// The text with the characters that HTML reserves written as references.
 std::string escapedHtml(std::string_view text);

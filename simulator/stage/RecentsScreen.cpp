@@ -125,8 +125,9 @@ void RecentsScreen::requireRow(const std::string &step, int row) const {
     requireList(step);
     const NSInteger count = controller()->rowCount();
     require(row <= count, step,
-            count == 0 ? "the list is empty; name other calls with --calls"
-                       : "there are " + std::to_string(count) + " rows; choose one from 1 on");
+            count == 0   ? "the list is empty; name other calls with --calls"
+            : count == 1 ? "there is one row; choose row 1"
+                         : "there are " + std::to_string(count) + " rows; choose one from 1 on");
 }
 
 void RecentsScreen::scrollToRow(int row) const {

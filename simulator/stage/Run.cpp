@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <iomanip>
+#include <utility>
 
 #include "stage/Errors.hpp"
 #include "stage/Gallery.hpp"
@@ -93,6 +94,17 @@ void runDescribe(const Request &request, std::ostream &out, std::ostream &err) {
     out << table.str();
 }
 
+void runGallery(const Request &request, std::ostream &out, std::ostream &err) {
+    const Gallery gallery = makeGallery(request.out, settingsOf(request, err),
+                                        {dialerScenes(), inCallScenes(), recentsScenes()});
+    out << gallery.pictures << " pictures and " << (request.out / "index.html").string() << '\n';
+    const char *before = "left out, for want of what they open or touch: ";
+    for (const std::string_view scene : gallery.leftOut) {
+        out << std::exchange(before, ", ") << scene;
+    }
+    out << (gallery.leftOut.empty() ? "" : "\n");
+}
+
 void runRequest(const Request &request, std::ostream &out, std::ostream &err) {
     switch (request.task) {
     case Task::Help:
@@ -110,8 +122,7 @@ void runRequest(const Request &request, std::ostream &out, std::ostream &err) {
         runHooks(request, out, err);
         break;
     case Task::Gallery:
-        out << makeGallery(request.out, settingsOf(request, err)) << " pictures and "
-            << (request.out / "index.html").string() << '\n';
+        runGallery(request, out, err);
         break;
     case Task::Describe:
         runDescribe(request, out, err);

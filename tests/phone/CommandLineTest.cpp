@@ -14,6 +14,7 @@ using stage::Request;
 using stage::Step;
 using stage::Task;
 using testing::HasSubstr;
+using testing::Not;
 using namespace std::chrono_literals;
 
 Request read(const std::vector<std::string> &words) { return stage::readRequest(words); }
@@ -111,7 +112,7 @@ TEST(CommandLine, NamesTheChoicesInOneLine) {
             message = error.what();
         }
         EXPECT_THAT(message, HasSubstr(complaint));
-        EXPECT_THAT(message, testing::Not(HasSubstr("\n")));
+        EXPECT_THAT(message, Not(HasSubstr("\n")));
     }
 }
 
@@ -124,20 +125,22 @@ TEST(TextTable, AlignsChineseTextAndKeepsEachRowOnItsLine) {
 
 TEST(GalleryPage, ShowsEachDeviceOfAScene) {
     const std::vector<stage::SceneGroup> groups = {
-        {"first", "Keys & more", {{"one", "A & B", "<note>", {}}}}};
+        {"first", "Keys & more", {{"one", "A & B", "<note>", {}}, {"two", "None", "", {}}}}};
     const stage::Model models[] = {{"7.0", "4"}, {"7.1", "3.5"}};
     const std::vector<stage::Exhibit> exhibits = {
         {models[0], "one", "p/1.png", "p/2.png", "", "a \"label\""},
         {models[1], "one", "p/3.png", "p/4.png", "", ""},
         {models[1], "another", "p/5.png", "p/6.png", "", ""}};
-    const std::string page = stage::galleryPage(groups, models, exhibits);
-    for (const char *part :
-         {"Keys &amp; more", "href=\"#first\"", "id=\"first\"", "A &amp; B", "&lt;note&gt;",
-          "p/1.png", "p/4.png", "With it: a &quot;label&quot;", "iOS 7.1, 3.5 inch"}) {
+    const std::string page = stage::galleryPage(groups, models, exhibits, false);
+    for (const char *part : {"Keys &amp; more", "href=\"#first\"", "id=\"first\"", "A &amp; B",
+                             "&lt;note&gt;", "p/1.png", "p/4.png", "With it: a &quot;label&quot;",
+                             "iOS 7.1, 3.5 inch", "of your own"}) {
         EXPECT_THAT(page, HasSubstr(part));
     }
-    EXPECT_THAT(page, testing::Not(HasSubstr("p/5.png")));
-    EXPECT_THAT(page, testing::Not(HasSubstr("http"))) << "nothing comes from elsewhere";
+    EXPECT_THAT(page, Not(HasSubstr("p/5.png")));
+    EXPECT_THAT(page, Not(HasSubstr("id=\"two\"")));
+    EXPECT_THAT(stage::galleryPage(groups, models, exhibits, true), Not(HasSubstr("of your own")));
+    EXPECT_THAT(page, Not(HasSubstr("http"))) << "nothing comes from elsewhere";
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "companion/SimulatedTime.hpp"
 #include "phone/incall/InCallController.hpp"
 #include "stage/CallsFile.hpp"
+#include "stage/Gallery.hpp"
 
 namespace {
 
@@ -188,6 +189,30 @@ TEST_F(Stage, ListsHooks) {
     for (std::string line; std::getline(lines, line);) {
         EXPECT_LE(line.size(), 100U) << line;
     }
+}
+
+TEST_F(Stage, LeavesOutOfAGalleryWhatAnOwnWorldHasTooLittleFor) {
+    const auto row = [](Kind kind, int number) { return stage::Step{kind, {}, number}; };
+    const stage::Opening recents{ScreenKind::Recents};
+    const std::vector<stage::SceneGroup> groups = {
+        {"a",
+         "",
+         {{"row-2", "", "", {row(Kind::Open, 2)}, recents},
+          {"mark", "", "", {row(Kind::Open, 1), {Kind::HoldButton, "mark"}}, recents},
+          {"row-1", "", "", {row(Kind::Open, 1)}, recents, true}}}};
+    stage::Settings own = settings("7.0", "4");
+    own.calls = folder_ / "calls.csv";
+    test::writeFile(own.calls, "number,name,direction,time,answered\n4002001818,,incoming,,yes\n");
+    const stage::Gallery gallery = stage::makeGallery(folder_ / "own", own, groups);
+    EXPECT_THAT(gallery.leftOut, testing::ElementsAre("row-2", "mark"));
+    EXPECT_EQ(gallery.pictures, 8U) << "iOS 7.0 and 7.1, two screens, with and without";
+    const fs::directory_iterator files(folder_ / "own" / "pictures");
+    EXPECT_EQ(std::ranges::distance(files), 8) << "nor is half of a pair left";
+
+    own.calls.clear();
+    const std::vector<stage::SceneGroup> tooFar = {
+        {"a", "", {{"row-46", "", "", {row(Kind::Open, 46)}, recents}}}};
+    EXPECT_THROW(stage::makeGallery(folder_ / "sample", own, tooFar), stage::Failure);
 }
 
 TEST_F(Stage, FailsWithOneLineAndLeavesNothing) {
