@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <iterator>
 #include <span>
 #include <sstream>
 #include <vector>
@@ -14,6 +15,7 @@
 #include "stage/Errors.hpp"
 #include "stage/GalleryPage.hpp"
 #include "stage/Surroundings.hpp"
+#include "uikit/drawing/Canvas.hpp"
 
 namespace stage {
 namespace {
@@ -65,7 +67,7 @@ std::string drawScene(Session &session, const Scene &scene, const Settings &sett
 }
 
 /// Draws all scenes on one device; returns a line a scene, what the screen said or that it is
-/// left out.
+/// left out, and then the characters that no font has.
 std::string drawScenes(const fs::path &folder, const std::vector<SceneGroup> &groups,
                        const Settings &settings) {
     Session session(settings);
@@ -86,6 +88,9 @@ std::string drawScenes(const fs::path &folder, const std::vector<SceneGroup> &gr
                 captions << kLeftOut << '\n';
             }
         }
+    }
+    for (const char32_t character : sim::Canvas::charactersWithoutGlyph()) {
+        captions << static_cast<uint32_t>(character) << ' ';
     }
     return captions.str();
 }
@@ -128,11 +133,9 @@ std::vector<std::string_view> missingIn(std::span<const Exhibit> exhibits,
 /// What a device shows in all scenes that both sides drew: their lines come in the order of the
 /// scenes.
 std::vector<Exhibit> exhibitsOf(const std::vector<SceneGroup> &groups, const Settings &without,
-                                const Settings &with, const std::string &saidWithout,
-                                const std::string &saidWith) {
+                                const Settings &with, std::istream &captionsWithout,
+                                std::istream &captionsWith) {
     std::vector<Exhibit> exhibits;
-    std::istringstream captionsWithout(saidWithout);
-    std::istringstream captionsWith(saidWith);
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
             if (!isShown(scene, with.model)) {
@@ -225,9 +228,14 @@ Gallery makeGallery(const fs::path &folder, const Settings &settings,
         }
         ChildProcess drawWithout([&] { return drawScenes(staging.path(), groups, without); });
         ChildProcess drawWith([&] { return drawScenes(staging.path(), groups, with); });
-        const std::string saidWithout = drawWithout.answer();
-        std::ranges::move(exhibitsOf(groups, without, with, saidWithout, drawWith.answer()),
+        std::istringstream saidWithout(drawWithout.answer());
+        std::istringstream saidWith(drawWith.answer());
+        std::ranges::move(exhibitsOf(groups, without, with, saidWithout, saidWith),
                           std::back_inserter(exhibits));
+        for (std::istream *const said : {&saidWithout, &saidWith}) {
+            sim::Canvas::charactersWithoutGlyph().insert(std::istream_iterator<uint32_t>(*said),
+                                                         {});
+        }
     }
     writePage(staging.path() / kPage, galleryPage(groups, models, exhibits, isSample(settings)));
     moveInto(folder, staging.path(), exhibits);

@@ -3,6 +3,8 @@
 
 #include <filesystem>
 #include <iomanip>
+#include <ranges>
+#include <set>
 #include <utility>
 
 #include "stage/Errors.hpp"
@@ -11,6 +13,7 @@
 #include "stage/Session.hpp"
 #include "stage/TextTable.hpp"
 #include "substrate/HookLog.hpp"
+#include "uikit/drawing/Canvas.hpp"
 
 namespace stage {
 namespace {
@@ -105,6 +108,25 @@ void runGallery(const Request &request, std::ostream &out, std::ostream &err) {
     out << (gallery.leftOut.empty() ? "" : "\n");
 }
 
+/// In one line, however many there are.
+void warnOfBoxes(std::ostream &err) {
+    constexpr ptrdiff_t kShown = 5;
+    const std::set<char32_t> &characters = sim::Canvas::charactersWithoutGlyph();
+    if (characters.empty()) {
+        return;
+    }
+    err << kProgram << ": drawn as boxes, since no font here has them:" << std::hex
+        << std::uppercase << std::setfill('0');
+    for (const char32_t character : characters | std::views::take(kShown)) {
+        err << " U+" << std::setw(4) << static_cast<uint32_t>(character);
+    }
+    err << std::dec;
+    if (std::ssize(characters) > kShown) {
+        err << " and " << std::ssize(characters) - kShown << " more";
+    }
+    err << "; install a font that does\n";
+}
+
 void runRequest(const Request &request, std::ostream &out, std::ostream &err) {
     switch (request.task) {
     case Task::Help:
@@ -137,6 +159,7 @@ int run(std::span<const std::string> words, std::ostream &out, std::ostream &err
     constexpr int kWrongUsage = 2;
     try {
         runRequest(readRequest(words), out, err);
+        warnOfBoxes(err);
         if (!out.flush()) {
             throw Failure("the output cannot be written; is the disk full?");
         }

@@ -37,6 +37,11 @@ void prepareDataFolder(const fs::path &folder) {
         throw Failure(folder.string() + ": cannot be made a data folder: " + error.message() +
                       "; name another with --data");
     }
+    // Fonts that a user has installed at home are still looked for there.
+    if (const char *const usersHome = getenv("HOME")) {
+        setenv("XDG_DATA_HOME", (fs::path(usersHome) / ".local" / "share").c_str(), 0);
+        setenv("XDG_CONFIG_HOME", (fs::path(usersHome) / ".config").c_str(), 0);
+    }
     setenv("HOME", home.c_str(), 1);
     setenv("GNUSTEP_USER_ROOT", (home / "GNUstep").c_str(), 1);
 }

@@ -1,5 +1,7 @@
 // Texts: lines, labels and the strings' own measuring. In fixed advances a unit is half as wide as
 // its font is high, Chinese as wide as high.
+#include <set>
+
 #include "UIKitTestCase.hpp"
 #include "platform/Format.hpp"
 #include "uikit/AttributedText.hpp"
@@ -208,6 +210,19 @@ TEST(RealFonts, WrapWithinTheRoomAddUpAndGrowInProportion) {
         EXPECT_LE(total, whole + 1e-6) << "only blanks at line ends may be lost";
         EXPECT_GE(total, whole - 15) << "wrapping at " << width;
     }
+}
+
+TEST(RealFonts, GiveWayToTheMachinesOwnForScriptsThatTheyLack) {
+    sim::TextMeasurer::setCurrent(nullptr);
+    const auto boxesIn = [](const char16_t *text) {
+        sim::Canvas::charactersWithoutGlyph().clear();
+        sim::Canvas canvas({100, 20});
+        canvas.draw(sim::layOut({text, kTenPoints}, {}), {{0, 0}, {100, 20}},
+                    sim::TextAlignment::Left);
+        return sim::Canvas::charactersWithoutGlyph();
+    };
+    EXPECT_EQ(boxesIn(u"林 a שלום"), std::set<char32_t>()) << "fontconfig comes with a font for it";
+    EXPECT_EQ(boxesIn(u"a\U0010FFFD"), std::set<char32_t>{0x10FFFD}) << "nobody's character";
 }
 
 TEST(RealFonts, MeasureAnyTextUnitByUnit) {

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstring>
 #include <numbers>
+#include <span>
 
 #include "uikit/drawing/FontSet.hpp"
 #include "uikit/drawing/NinePatch.hpp"
@@ -27,6 +28,15 @@ double indent(double room, double width, TextAlignment alignment) {
         return room - width;
     default:
         return 0;
+    }
+}
+
+void noteBoxes(const PangoGlyphString &glyphs) {
+    for (const PangoGlyphInfo &info :
+         std::span(glyphs.glyphs, static_cast<size_t>(glyphs.num_glyphs))) {
+        if ((info.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0) {
+            Canvas::charactersWithoutGlyph().insert(info.glyph & ~PANGO_GLYPH_UNKNOWN_FLAG);
+        }
     }
 }
 
@@ -158,12 +168,19 @@ void Canvas::draw(const TextFragment &fragment, Point baseline) {
     // Pango shifts runs by the script that the fragment happens to begin with; the fragments of one
     // line stand on one baseline all the same.
     for (const GSList *run = line->runs; run != nullptr; run = run->next) {
-        static_cast<PangoGlyphItem *>(run->data)->y_offset = 0;
+        auto *const item = static_cast<PangoGlyphItem *>(run->data);
+        item->y_offset = 0;
+        noteBoxes(*item->glyphs);
     }
     setColor(fragment.style.color);
     cairo_move_to(context_.get(), baseline.x, baseline.y);
     pango_cairo_show_layout_line(context_.get(), line);
     cairo_new_path(context_.get());
+}
+
+std::set<char32_t> &Canvas::charactersWithoutGlyph() {
+    static std::set<char32_t> g_characters;
+    return g_characters;
 }
 
 void Canvas::savePng(const std::filesystem::path &file) const { writePng(surface_.get(), file); }

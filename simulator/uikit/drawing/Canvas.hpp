@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <set>
 
 #include <cairo.h>
 
@@ -49,6 +50,10 @@ class Canvas {
     void drawTemplate(const Picture &picture, Rect target, Color color);
     /// The lines from the rectangle's top, aligned within its width.
     void draw(const TextLayout &text, Rect within, TextAlignment alignment);
+
+    /// The characters that any canvas of this process has drawn as boxes, since no font of the
+    /// machine has them; may be added to.
+    static std::set<char32_t> &charactersWithoutGlyph();
 
     /// Written at once or not at all; throws PictureError.
     void savePng(const std::filesystem::path &file) const;

@@ -41,15 +41,25 @@ std::filesystem::path fontsFile() {
     return library.parent_path().parent_path() / "share" / "fonts.conf";
 }
 
-FcConfigPtr loadConfig() {
+/// Adds the rules of the simulator's file, and the fonts that it names when the configuration has
+/// not been given any yet.
+void addOwnRules(FcConfig *config) {
     const std::string file = fontsFile().string();
-    FcConfigPtr config(FcConfigCreate());
     const auto *name = reinterpret_cast<const FcChar8 *>(file.c_str());
-    if (FcConfigParseAndLoad(config.get(), name, FcTrue) == FcFalse) {
+    if (FcConfigParseAndLoad(config, name, FcTrue) == FcFalse) {
         throw FontError(file + ": missing or damaged; build the project again");
     }
+}
+
+FcConfigPtr loadConfig() {
+    FcConfigPtr config(FcConfigCreate());
+    addOwnRules(config.get());
     FcConfigBuildFonts(config.get());
     return config;
+}
+
+bool lacksGlyphs(const PangoLayoutPtr &layout) {
+    return pango_layout_get_unknown_glyphs_count(layout.get()) > 0;
 }
 
 bool hasFamily(FcConfig *config, const char *family) {
@@ -95,29 +105,33 @@ void useUnhintedFonts(PangoContext *context) {
     pango_context_set_round_glyph_positions(context, FALSE);
 }
 
-}  // namespace
-
-const FontSet &FontSet::shared() {
-    static const FontSet g_set;
-    return g_set;
-}
-
-FontSet::FontSet() : fontMap_(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)) {
-    const FcConfigPtr config = loadConfig();
-    requireFonts(config.get());
-    // Pango and cairo ask for the process's own configuration too; it must not be the user's.
-    FcConfigSetCurrent(config.get());
-    pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(fontMap_.get()), config.get());
-    context_.reset(pango_font_map_create_context(fontMap_.get()));
-    useUnhintedFonts(context_.get());
+FontChoice choiceOf(FcConfig *config) {
+    FontChoice choice;
+    choice.map.reset(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT));
+    pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(choice.map.get()), config);
+    choice.context.reset(pango_font_map_create_context(choice.map.get()));
+    useUnhintedFonts(choice.context.get());
     // Without a language Pango would pick the Han shapes by the user's locale.
-    pango_context_set_language(context_.get(), pango_language_from_string("zh-cn"));
+    pango_context_set_language(choice.context.get(), pango_language_from_string("zh-cn"));
+    return choice;
 }
 
-FontSet::~FontSet() = default;
+/// All fonts of the machine, the simulator's own first; without a context when the machine has no
+/// configuration. Loaded when a text needs it, which most runs spare themselves.
+const FontChoice &everything() {
+    static const FontChoice g_everything = [] {
+        const FcConfigPtr config(FcInitLoadConfigAndFonts());
+        if (!config) {
+            return FontChoice();
+        }
+        addOwnRules(config.get());
+        return choiceOf(config.get());
+    }();
+    return g_everything;
+}
 
-PangoLayoutPtr FontSet::shape(std::string_view utf8, const Font &font) const {
-    PangoLayoutPtr layout(pango_layout_new(context_.get()));
+PangoLayoutPtr shaped(std::string_view utf8, const Font &font, const FontChoice &choice) {
+    PangoLayoutPtr layout(pango_layout_new(choice.context.get()));
     PangoFontDescription *description = pango_font_description_new();
     pango_font_description_set_family_static(description, "Helvetica Neue");
     pango_font_description_set_weight(description, pangoWeight(font.weight));
@@ -126,6 +140,32 @@ PangoLayoutPtr FontSet::shape(std::string_view utf8, const Font &font) const {
     pango_font_description_free(description);
     pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
     pango_layout_set_text(layout.get(), utf8.data(), static_cast<int>(utf8.size()));
+    return layout;
+}
+
+}  // namespace
+
+const FontSet &FontSet::shared() {
+    static const FontSet g_set;
+    return g_set;
+}
+
+FontSet::FontSet() {
+    const FcConfigPtr config = loadConfig();
+    requireFonts(config.get());
+    // Pango and cairo ask for the process's own configuration too; it must not be the user's.
+    FcConfigSetCurrent(config.get());
+    own_ = choiceOf(config.get());
+}
+
+FontSet::~FontSet() = default;
+
+PangoLayoutPtr FontSet::shape(std::string_view utf8, const Font &font) const {
+    PangoLayoutPtr layout = shaped(utf8, font, own_);
+    // Asked only for texts that would show boxes: all others look the same on every machine.
+    if (lacksGlyphs(layout) && everything().context) {
+        layout = shaped(utf8, font, everything());
+    }
     return layout;
 }
 

@@ -1,5 +1,6 @@
-// The fonts of the simulator, loaded from its own fontconfig file, and Pango
-// set up so that widths are the same at every scale.
+// The fonts of the simulator, loaded from its own fontconfig file, and Pango set up so that widths
+// are the same at every scale. A text with characters that they lack is set in the machine's other
+// fonts as well.
 #pragma once
 
 #include <memory>
@@ -24,6 +25,12 @@ class FontError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// Fonts that are looked through together.
+struct FontChoice {
+    std::unique_ptr<PangoFontMap, GObjectUnref> map{};
+    std::unique_ptr<PangoContext, GObjectUnref> context{};
+};
+
 class FontSet {
   public:
     /// Loaded on first use; throws FontError.
@@ -38,8 +45,7 @@ class FontSet {
 
   private:
     FontSet();
-    std::unique_ptr<PangoFontMap, GObjectUnref> fontMap_;
-    std::unique_ptr<PangoContext, GObjectUnref> context_;
+    FontChoice own_;
 };
 
 }  // namespace sim
