@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 #include <phonenumbers/asyoutypeformatter.h>
 #include <phonenumbers/phonenumberutil.h>
@@ -14,9 +15,26 @@ constexpr size_t kLongestNumber = 20;  // characters; E.164 ends at 15 digits, p
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
+bool isKey(char c) { return isDigit(c) || c == '+'; }
+
 bool looksLikeNumber(std::string_view text) {
-    return text.size() <= kLongestNumber &&
-           std::ranges::all_of(text, [](char c) { return isDigit(c) || c == '+'; });
+    return text.size() <= kLongestNumber && std::ranges::all_of(text, isKey);
+}
+
+/// Behind the area code of a landline number of mainland China; none in any other.
+std::optional<size_t> subscriberStart(std::string_view number) {
+    constexpr std::string_view kPrefixes[] = {"+86", "0086", "0"};
+    const auto *const prefix = std::ranges::find_if(
+        kPrefixes, [&](std::string_view known) { return number.starts_with(known); });
+    if (prefix == std::end(kPrefixes)) {
+        return std::nullopt;
+    }
+    const std::string_view national = number.substr(prefix->size());
+    if (national.starts_with("10") || national.starts_with('2')) {
+        return prefix->size() + 2;
+    }
+    const bool isAreaCode = !national.empty() && national[0] >= '3';
+    return isAreaCode ? std::optional(prefix->size() + 3) : std::nullopt;
 }
 
 }  // namespace
@@ -38,9 +56,23 @@ std::string TypedNumber::formatted() const {
     using i18n::phonenumbers::AsYouTypeFormatter;
     const std::unique_ptr<AsYouTypeFormatter> formatter(
         i18n::phonenumbers::PhoneNumberUtil::GetInstance()->GetAsYouTypeFormatter("CN"));
-    std::string shown = typed_;
-    for (const char key : typed_) {
+    // No subscriber's number begins with 0. The formatter knows that and groups one that does, as
+    // numbers for examples do, like nothing in its country: another digit stands in.
+    std::string keys = typed_;
+    const size_t start = subscriberStart(keys).value_or(keys.size());
+    const bool hasStandIn = start < keys.size() && keys[start] == '0';
+    if (hasStandIn) {
+        keys[start] = '6';
+    }
+    std::string shown = keys;
+    for (const char key : keys) {
         formatter->InputDigit(static_cast<unsigned char>(key), &shown);
+    }
+    size_t key = 0;
+    for (char &c : shown) {
+        if (isKey(c) && key++ == start && hasStandIn) {
+            c = '0';
+        }
     }
     return shown;
 }
