@@ -14,6 +14,7 @@
 #include "stage/TextTable.hpp"
 #include "substrate/HookLog.hpp"
 #include "uikit/drawing/Canvas.hpp"
+#include "uikit/drawing/Utf16.hpp"
 
 namespace stage {
 namespace {
@@ -32,7 +33,10 @@ Settings settingsOf(const Request &request, std::ostream &err) {
     settings.withoutClass = request.withoutClass;
     settings.calls = request.calls;
     settings.pace = request.pace;
-    settings.warn = [&err](const std::string &line) { err << kProgram << ": " << line << '\n'; };
+    // Names from the user's files may hold newlines.
+    settings.warn = [&err](const std::string &line) {
+        err << kProgram << ": " << sim::drawableText(sim::utf16(line)).utf8 << '\n';
+    };
     return settings;
 }
 

@@ -267,8 +267,8 @@ TEST_F(Stage, ShowsOwnPicturesAndWarnsOfWhatItCannotShow) {
     const std::string world = folder_ / "world.json";
     test::writeFile(calls,
                     "number,name,direction,time,answered\n"
-                    ",Nobody,incoming,,no\nBANK-1,Bank,incoming,,no\n,Other,incoming,,no\n");
-    test::writeFile(world, R"({"brands": [{"number": "95001", "name": "a", "logo": "none.png"}],
+                    ",\"No\nbody\",incoming,,no\nBANK-1,Bank,incoming,,no\n,Other,incoming,,no\n");
+    test::writeFile(world, R"({"brands": [{"number": "95001", "name": "a", "logo": "no\ne.png"}],
         "contacts": [
             {"recordId": 1, "name": "own", "avatar": "own.png", "numbers": [{"number": "13800130011"}]},
             {"recordId": 2, "name": "b", "avatar": "text.png", "wallpaper": "logo_bank.png",
@@ -285,8 +285,8 @@ TEST_F(Stage, ShowsOwnPicturesAndWarnsOfWhatItCannotShow) {
     }
     EXPECT_THAT(warnings,
                 testing::UnorderedElementsAre(
-                    HasSubstr("calls.csv:2: 'Nobody' is not shown, since the number is missing"),
-                    HasSubstr("world.json: /brands/0/logo: no PNG picture none.png lies beside"),
+                    HasSubstr("calls.csv:2: 'No body' is not shown, since the number is missing"),
+                    HasSubstr("world.json: /brands/0/logo: no PNG picture no e.png lies beside"),
                     HasSubstr("world.json: /contacts/1/avatar: no PNG picture text.png lies")));
     EXPECT_EQ(companion::pictureFile("own.png"), folder_ / "own.png");
     EXPECT_EQ(companion::pictureFile("text.png"), companion::resourceDir() / "text.png");
