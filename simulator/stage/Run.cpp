@@ -63,9 +63,8 @@ void runScreen(const Request &request, std::ostream &out, std::ostream &err) {
 std::string outcomeText(const substrate::HookEntry &entry) {
     switch (entry.outcome) {
     case substrate::HookEntry::Outcome::Replaced:
-        return "replaced by " + entry.replacement;
     case substrate::HookEntry::Outcome::Added:
-        return "overridden, was inherited: " + entry.replacement;
+        return "replaced by " + entry.replacement;
     case substrate::HookEntry::Outcome::MissingMethod:
         return "skipped: no such method";
     case substrate::HookEntry::Outcome::MissingClass:
@@ -79,12 +78,13 @@ void runHooks(const Request &request, std::ostream &out, std::ostream &err) {
     const Session session(settingsOf(request, err));
     size_t installed = 0;
     for (const substrate::HookEntry &entry : substrate::hookLog()) {
-        const bool isInstalled = entry.outcome == substrate::HookEntry::Outcome::Replaced ||
-                                 entry.outcome == substrate::HookEntry::Outcome::Added;
+        const bool wasInherited = entry.outcome == substrate::HookEntry::Outcome::Added;
+        const bool isInstalled =
+            wasInherited || entry.outcome == substrate::HookEntry::Outcome::Replaced;
         installed += isInstalled ? 1 : 0;
         out << std::setw(2) << (isInstalled ? std::to_string(installed) : "") << "  "
             << entry.className << (entry.selector.empty() ? "" : "  ") << entry.selector
-            << "\n      " << outcomeText(entry) << '\n';
+            << (wasInherited ? "  (inherited)" : "") << "\n      " << outcomeText(entry) << '\n';
     }
     out << request.model.title() << ": " << installed << (installed == 1 ? " method" : " methods")
         << " replaced, " << substrate::hookLog().size() - installed << " skipped\n";

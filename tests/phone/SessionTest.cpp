@@ -185,10 +185,15 @@ TEST_F(Stage, ListsHooks) {
     EXPECT_THAT(outcome.out, HasSubstr("replace_PHRecentsViewController_viewWillAppear_"));
     EXPECT_THAT(outcome.out, HasSubstr("skipped: no such class"));
     EXPECT_THAT(outcome.out, testing::EndsWith("iOS 8.0, 4 inch: 1 method replaced, 1 skipped\n"));
-    std::istringstream lines(outcome.out);
-    for (std::string line; std::getline(lines, line);) {
+}
+
+TEST_F(Stage, ListsHooksWithinTheWidthOfATerminal) {
+    std::istringstream lines(run({"hooks", "--ios", "7.0"}).out);
+    size_t count = 0;
+    for (std::string line; std::getline(lines, line); ++count) {
         EXPECT_LE(line.size(), 100U) << line;
     }
+    EXPECT_GT(count, 20U);
 }
 
 TEST_F(Stage, LeavesOutOfAGalleryWhatAnOwnWorldHasTooLittleFor) {
