@@ -1,6 +1,7 @@
 # The everyday commands. Each installs the Debian packages it needs, if any are missing, and builds
 # what it works on; none needs an environment variable.
-.PHONY: help demo test build bench asan tsan clang format lint contract device device-test
+.PHONY: help demo test build bench asan tsan clang format lint contract device device-test \
+	reproducible
 
 # The slices of the library that "make device" builds, and the host that its web search asks; empty:
 # as in src/recents/Actions.cpp.
@@ -19,6 +20,7 @@ help:
 	@echo 'make contract      check what libZQDial.so shows and takes'
 	@echo 'make device        build the library for iOS and its package into build/device, check them'
 	@echo 'make device-test   run it on emulated processors, and break it on purpose to see that noticed'
+	@echo 'make reproducible  build it a second time elsewhere, and compare'
 
 packages-%:
 	@tools/install-packages.sh $*
@@ -66,4 +68,8 @@ device: packages-device $(if $(filter armv7,$(SLICES)),packages-armv7)
 device-test: device packages-qemu $(if $(filter armv7,$(SLICES)),packages-qemu-armv7)
 	@cmake -S device -B build/device >/dev/null
 	@cmake --build build/device --target outside
-	@ctest --test-dir build/device --output-on-failure --no-tests=error --parallel "$$(nproc)"
+	@ctest --test-dir build/device --output-on-failure --no-tests=error --parallel "$$(nproc)" \
+		--exclude-regex '^reproducible$$'
+
+reproducible: device
+	@ctest --test-dir build/device --output-on-failure --no-tests=error --tests-regex '^reproducible$$'
