@@ -79,6 +79,8 @@ TEST(WorldFile, IsRefusedWithPlaceValueAndExpectation) {
          "line 1, column 1: not JSON: unexpected end of input; expected '[', '{', or a literal"},
         {"{\n  \"about\": \"明月\",\n  \"marks\": [1,]\n}", "line 3, column 15: not JSON: "},
         {"{\"about\": \"\xFF\"}", "line 1, column "},
+        {R"({"cloudDelay": 1e999})",
+         "line 1, column 20: not JSON: number overflow parsing '1e999'"},
         {"{}", "accepted"},
     };
     for (const auto &[json, message] : mistakes) {

@@ -75,11 +75,11 @@ void WorldReader::readPartnerNumbers(const JsonPlace &list) {
         const std::int32_t kind = kindOf(entry, kCloudKinds, identity_kind::kCloudStored);
         Identity identity = identityAt(entry, IdentityOrigin::partner, kind);
         identity.count = entry["partner"].integer(0, kMost);
-        const auto partner = std::ranges::find(world_.partners, identity.count, &Partner::id);
-        if (partner == world_.partners.end()) {
+        const auto partner = partnerNames_.find(identity.count);
+        if (partner == partnerNames_.end()) {
             entry["partner"].fail("the id of an entry of /partners");
         }
-        identity.label = entry["label"].textOr(partner->name);
+        identity.label = entry["label"].textOr(partner->second);
         identity.source = kPartnerSource;
         world_.identities.push_back(std::move(identity));
     }

@@ -1,4 +1,4 @@
-// The parser keeps the last of two equal keys silently, so keys are watched while it works.
+// The document is built here: the parser keeps the last of two equal keys silently.
 #include "companion/world/JsonFile.hpp"
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 #include <cstring>
 #include <fstream>
 #include <optional>
-#include <set>
+#include <span>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -55,34 +55,46 @@ std::string position(std::string_view text, std::size_t byte) {
 }
 
 /// What the parser disliked, without its own prefix and position.
-std::string detail(const json::parse_error &error) {
-    std::string text = error.what();
+std::string detail(std::string text) {
     const std::size_t reason = text.find(" - ");
     text = reason == std::string::npos ? text.substr(text.find("] ") + 2) : text.substr(reason + 3);
     std::ranges::replace(text, '\n', ' ');
     return text;
 }
 
-/// Follows the parser through a document and notes the first key that comes twice in one object.
-class KeyWatch {
+/// Puts the document together from what the parser finds, and notes the first key that comes twice
+/// in one object. The parser's own builder looks through the whole list behind every entry as soon
+/// as somebody watches it, and a list may be long.
+class Builder final : public json::json_sax_t {
   public:
-    explicit KeyWatch(std::istream &in) : in_(in) {}
+    explicit Builder(std::istream &in) : in_(in) {}
 
-    bool operator()(int /*depth*/, json::parse_event_t event, const json &value) {
-        using Event = json::parse_event_t;
-        if (event == Event::key) {
-            enter(value.get_ref<const std::string &>());
-        } else if (event == Event::object_start || event == Event::array_start) {
-            open_.push_back({event == Event::array_start});
-        } else {
-            if (event != Event::value) {
-                open_.pop_back();
-            }
-            if (!open_.empty()) {
-                ++open_.back().finished;
-            }
+    bool null() override { return add(nullptr); }
+    bool boolean(bool value) override { return add(value); }
+    bool number_integer(json::number_integer_t value) override { return add(value); }
+    bool number_unsigned(json::number_unsigned_t value) override { return add(value); }
+    bool number_float(json::number_float_t value, const std::string & /*text*/) override {
+        return add(value);
+    }
+    bool string(std::string &value) override { return add(std::move(value)); }
+    bool binary(json::binary_t &value) override { return add(std::move(value)); }
+    bool start_object(std::size_t /*size*/) override { return open(json::object()); }
+    bool key(std::string &name) override {
+        const auto [member, isNew] =
+            open_.back().value->get_ref<json::object_t &>().try_emplace(name);
+        if (!isNew && !repeated_) {
+            repeated_ = {place(), json(name).dump(), static_cast<std::size_t>(in_.tellg())};
         }
+        open_.back().member = member;
         return true;
+    }
+    bool end_object() override { return close(); }
+    bool start_array(std::size_t /*size*/) override { return open(json::array()); }
+    bool end_array() override { return close(); }
+    bool parse_error(std::size_t byte, const std::string & /*token*/,
+                     const json::exception &error) override {
+        mistake_ = {byte, detail(error.what())};
+        return false;
     }
 
     struct Repeated {
@@ -91,36 +103,54 @@ class KeyWatch {
         std::size_t end;    // byte behind the key
     };
     const std::optional<Repeated> &repeated() const { return repeated_; }
+    /// Where the text is no JSON and why.
+    const std::pair<std::size_t, std::string> &mistake() const { return mistake_; }
+    json document() { return std::move(document_); }
 
   private:
-    /// An object or a list that is being read.
+    /// An object or a list that is being read; its address stays as long as that lasts.
     struct Open {
-        bool isList = false;
-        std::size_t finished = 0;  // how many of its values
-        std::string key{};         // of the value at hand
-        std::set<std::string> keys{};
+        json *value;
+        json::object_t::iterator member{};  // of an object: the value at hand
     };
 
-    void enter(const std::string &key) {
-        const std::string shown = json(key).dump();
-        if (!open_.back().keys.insert(key).second && !repeated_) {
-            repeated_ = {place(), shown, static_cast<std::size_t>(in_.tellg())};
+    json &added(json value) {
+        if (open_.empty()) {
+            return document_ = std::move(value);
         }
-        open_.back().key = shown.substr(1, shown.size() - 2);
+        const Open &inner = open_.back();
+        json &place = inner.value->is_array() ? inner.value->emplace_back() : inner.member->second;
+        return place = std::move(value);
+    }
+    bool add(json value) {
+        added(std::move(value));
+        return true;
+    }
+    bool open(json value) {
+        open_.push_back({&added(std::move(value))});
+        return true;
+    }
+    bool close() {
+        open_.pop_back();
+        return true;
     }
 
     /// Of the innermost object.
     std::string place() const {
         std::string path;
-        for (std::size_t i = 0; i + 1 < open_.size(); ++i) {
-            path += "/" + (open_[i].isList ? std::to_string(open_[i].finished) : open_[i].key);
+        for (const Open &outer : std::span(open_).first(open_.size() - 1)) {
+            const std::string key = outer.value->is_array() ? "" : json(outer.member->first).dump();
+            path += "/" + (key.empty() ? std::to_string(outer.value->size() - 1)
+                                       : key.substr(1, key.size() - 2));
         }
         return path.empty() ? "/" : path;
     }
 
     std::istream &in_;
-    std::vector<Open> open_;
+    json document_;
+    std::vector<Open> open_;  // from the outermost inwards
     std::optional<Repeated> repeated_;
+    std::pair<std::size_t, std::string> mistake_;
 };
 
 }  // namespace
@@ -128,20 +158,17 @@ class KeyWatch {
 json readJsonFile(const std::filesystem::path &file) {
     const std::string text = readText(file);
     std::istringstream in(text);
-    KeyWatch keys(in);
-    json document;
-    try {
-        document = json::parse(in, std::ref(keys));
-    } catch (const json::parse_error &error) {
-        throw WorldError(file.string() + ": " + position(text, error.byte) +
-                         ": not JSON: " + detail(error));
+    Builder builder(in);
+    if (!json::sax_parse(in, &builder)) {
+        const auto &[byte, reason] = builder.mistake();
+        throw WorldError(file.string() + ": " + position(text, byte) + ": not JSON: " + reason);
     }
-    if (const auto &repeated = keys.repeated()) {
+    if (const auto &repeated = builder.repeated()) {
         throw WorldError(file.string() + ": " + lineOf(text, repeated->end) + ", " +
                          repeated->place + ": found the key " + repeated->key +
                          " twice in one object, expected it once");
     }
-    return document;
+    return builder.document();
 }
 
 }  // namespace companion

@@ -108,15 +108,14 @@ void WorldReader::readContacts(const JsonPlace &list) {
 }
 
 void WorldReader::readPartners(const JsonPlace &list) {
-    std::set<std::int32_t> ids;
     for (const JsonPlace &entry : list.items()) {
         entry.expectObject({"id", "name", "icon", "source", "ads"});
         Partner partner;
         partner.id = entry["id"].integer(kLowestPartnerId, kMost);
-        if (!ids.insert(partner.id).second) {
+        partner.name = entry["name"].nonEmptyText();
+        if (!partnerNames_.try_emplace(partner.id, partner.name).second) {
             entry["id"].fail("an id that no other partner has");
         }
-        partner.name = entry["name"].nonEmptyText();
         partner.icon = pictureAt(entry["icon"]);
         partner.source = entry["source"].textOr("");
         nlohmann::json ads = nlohmann::json::array();

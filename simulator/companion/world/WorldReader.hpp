@@ -39,6 +39,7 @@ class WorldReader {
     std::string pictureAt(const JsonPlace &place);
 
     World world_;
+    std::map<std::int32_t, std::string> partnerNames_;  // by their ids
     std::map<std::pair<IdentityOrigin, std::string>, std::string> describedAt_;
 };
 
