@@ -9,6 +9,7 @@ find_package(GTest REQUIRED)               # GTest::gtest_main, GTest::gmock
 find_package(benchmark REQUIRED)           # benchmark::benchmark_main
 pkg_check_modules(sqlite3 REQUIRED IMPORTED_TARGET sqlite3)         # PkgConfig::sqlite3
 pkg_check_modules(cairo REQUIRED IMPORTED_TARGET cairo)             # PkgConfig::cairo
+pkg_check_modules(spng REQUIRED IMPORTED_TARGET spng)               # PkgConfig::spng
 pkg_check_modules(pangocairo REQUIRED IMPORTED_TARGET pangocairo)   # PkgConfig::pangocairo
 pkg_check_modules(pangoft2 REQUIRED IMPORTED_TARGET pangoft2)       # PkgConfig::pangoft2
 pkg_check_modules(fontconfig REQUIRED IMPORTED_TARGET fontconfig)   # PkgConfig::fontconfig

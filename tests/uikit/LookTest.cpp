@@ -133,6 +133,18 @@ TEST_F(PictureFiles, AreFoundAtTheDoubleScaleOrMissingQuietly) {
     }
 }
 
+TEST_F(PictureFiles, KeepTheColoursOfWhatIsNotOpaque) {
+    sim::Canvas drawn({3, 1}, 1);
+    drawn.fill({{0, 0}, {1, 1}}, {.2, .4, .8, .5});
+    drawn.fill({{1, 0}, {1, 1}}, {.2, .4, .8, 1});
+    drawn.savePng(folder_ / "glass.png");
+    sim::Canvas read({3, 1}, 1);
+    read.draw(*sim::Picture::load(folder_ / "glass.png"), {{0, 0}, {3, 1}});
+    for (const double x : {0, 1, 2}) {
+        EXPECT_EQ(read.colorAt({x, 0}), drawn.colorAt({x, 0})) << x;
+    }
+}
+
 TEST_F(PictureFiles, AreReplacedOnlyWhenComplete) {
     const fs::path file = folder_ / "scene.png";
     square(4, 1).savePng(file);
