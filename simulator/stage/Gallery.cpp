@@ -23,6 +23,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr auto kPictures = "pictures";
+constexpr auto kDistinct = "distinct";  // pictures by their fingerprints
 constexpr auto kPage = "index.html";
 constexpr double kPace = 0.01;  // nobody watches
 constexpr char kDrawn = '+';    // before what a scene's screen said
@@ -49,9 +50,21 @@ bool isShown(const Scene &scene, const Model &model) {
 
 bool isSample(const Settings &settings) { return settings.world.empty() && settings.calls.empty(); }
 
+/// Many scenes look the same on two devices, or with and without the add-on: such pictures share
+/// one file, as far as the disk allows that.
+void keep(const sim::Canvas &picture, const fs::path &folder, const std::string &name) {
+    const fs::path known = folder / kDistinct / std::to_string(picture.fingerprint());
+    std::error_code none;
+    fs::create_hard_link(known, folder / name, none);
+    if (none) {
+        picture.savePng(folder / name);
+        fs::create_hard_link(folder / name, known, none);
+    }
+}
+
 /// Draws one scene; returns what the screen said, on one line.
 std::string drawScene(Session &session, const Scene &scene, const Settings &settings,
-                      const fs::path &picture) {
+                      const fs::path &folder) {
     std::ostringstream printed;  // by steps; nobody reads it
     session.startOver();
     session.open(scene.opening);
@@ -60,7 +73,7 @@ std::string drawScene(Session &session, const Scene &scene, const Settings &sett
             session.perform(step, printed);  // the buttons are the add-on's
         }
     }
-    session.savePicture(picture);
+    keep(session.picture(), folder, pictureName(scene, settings));
     std::string said = session.lineText();
     std::ranges::replace(said, '\n', ' ');
     return said;
@@ -78,9 +91,7 @@ std::string drawScenes(const fs::path &folder, const std::vector<SceneGroup> &gr
                 continue;
             }
             try {
-                const fs::path picture = folder / pictureName(scene, settings);
-                const std::string said = drawScene(session, scene, settings, picture);
-                captions << kDrawn << said << '\n';
+                captions << kDrawn << drawScene(session, scene, settings, folder) << '\n';
             } catch (const Failure &) {
                 if (isSample(settings)) {
                     throw;
@@ -167,6 +178,7 @@ class StagingFolder {
         path_ = target.string() + ".unfinished-" + std::to_string(getpid());
         std::error_code error;
         fs::create_directories(path_ / kPictures, error);
+        fs::create_directory(path_ / kDistinct, error);
         if (error) {
             throw Failure(path_.string() + ": cannot be made: " + error.message() +
                           "; choose another folder with --out");

@@ -78,9 +78,9 @@ std::string PhoneWindow::tree() const {
     return sim::viewTree(window());
 }
 
-void PhoneWindow::savePicture(const std::filesystem::path &file) const {
+sim::Canvas PhoneWindow::picture() const {
     const objc::AutoreleasePool pool;
-    sim::snapshot(window()).savePng(file);
+    return sim::snapshot(window());
 }
 
 }  // namespace stage

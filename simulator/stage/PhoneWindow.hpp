@@ -8,6 +8,7 @@
 #include "phone/frame/PhoneTabBar.hpp"
 #include "platform/Foundation.hpp"
 #include "uikit/SimWindow.hpp"
+#include "uikit/drawing/Canvas.hpp"
 
 class SimViewController;
 
@@ -35,8 +36,7 @@ class PhoneWindow {
     void layout() const;
     /// The view tree, laid out.
     std::string tree() const;
-    /// Throws sim::PictureError.
-    void savePicture(const std::filesystem::path &file) const;
+    sim::Canvas picture() const;
 
   private:
     void replaceRoot(NSObject from, NSObject by);

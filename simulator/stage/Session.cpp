@@ -85,7 +85,7 @@ void Session::perform(const Step &step, std::ostream &out) {
         wait(step.time);
         break;
     case Step::Kind::Picture:
-        savePicture(step.text);
+        picture().savePng(step.text);
         break;
     case Step::Kind::Tree:
         out << tree();

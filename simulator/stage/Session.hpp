@@ -70,8 +70,8 @@ class Session {
 
     /// The screen's view tree, laid out.
     std::string tree() const { return window_->tree(); }
-    /// Throws sim::PictureError.
-    void savePicture(const std::filesystem::path &file) const { window_->savePicture(file); }
+    /// The screen as it is seen.
+    sim::Canvas picture() const { return window_->picture(); }
     /// What the screen says of the number in question, its visible texts joined by " | ": under
     /// the typed number, in the display of a call, or in the call's row or detail.
     std::string lineText() const;

@@ -70,10 +70,10 @@ TEST_P(InCallSession, TheCloudsAnswerArrivesDuringAnOutgoingCall) {
 TEST_P(InCallSession, APartnersLogoArrivesAndShowsAtTheNextLayoutPass) {
     perform(Kind::Outgoing, "021-01065012");
     EXPECT_TRUE(says("一碗山食堂"));
-    session_.savePicture(folder_ / "before.png");
+    session_.picture().savePng(folder_ / "before.png");
     session_.wait(2s);
     perform(Kind::Layout);
-    session_.savePicture(folder_ / "after.png");
+    session_.picture().savePng(folder_ / "after.png");
     const auto bytes = [&](const char *name) {
         std::ifstream file(folder_ / name, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(file), {});

@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <functional>
 #include <numbers>
 #include <span>
+#include <string_view>
 
 #include "uikit/drawing/FontSet.hpp"
 #include "uikit/drawing/NinePatch.hpp"
@@ -184,6 +186,14 @@ std::set<char32_t> &Canvas::charactersWithoutGlyph() {
 }
 
 void Canvas::savePng(const std::filesystem::path &file) const { writePng(surface_.get(), file); }
+
+std::size_t Canvas::fingerprint() const {
+    cairo_surface_flush(surface_.get());
+    const auto size = static_cast<std::size_t>(cairo_image_surface_get_stride(surface_.get())) *
+                      static_cast<std::size_t>(cairo_image_surface_get_height(surface_.get()));
+    const void *const pixels = cairo_image_surface_get_data(surface_.get());
+    return std::hash<std::string_view>()({static_cast<const char *>(pixels), size});
+}
 
 Color Canvas::colorAt(Point point) const {
     const int x = static_cast<int>(std::floor(point.x * scale_));

@@ -57,6 +57,8 @@ class Canvas {
 
     /// Written at once or not at all; throws PictureError.
     void savePng(const std::filesystem::path &file) const;
+    /// The same for the same pixels, another one for others.
+    std::size_t fingerprint() const;
     /// The pixel under a point; clear outside the canvas.
     Color colorAt(Point point) const;
     /// What has been drawn so far, sharing the pixels.
