@@ -1,19 +1,28 @@
-// fork, a pipe for the answer, and the exit code for how it went.
+// fork, a pipe for the text, and the exit code for how it went.
 #include "stage/ChildProcess.hpp"
 
+#include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <exception>
+#include <iterator>
+#include <map>
+#include <vector>
 
+#include <fcntl.h>
+#include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "stage/Errors.hpp"
+#include "stage/Interruption.hpp"
 
 namespace stage {
 namespace {
 
 constexpr int kThrew = 1;
+constexpr char kError = '\0';  // before the message of what was thrown
 
 void writeAll(int file, const std::string &text) {
     for (size_t done = 0; done < text.size();) {
@@ -25,26 +34,13 @@ void writeAll(int file, const std::string &text) {
     }
 }
 
-std::string readAll(int file) {
-    std::string text;
-    char part[4096];
-    for (ssize_t count = 1; count != 0;) {
-        count = read(file, part, sizeof part);
-        if (count > 0) {
-            text.append(part, static_cast<size_t>(count));
-        } else if (count < 0 && errno != EINTR) {
-            break;
-        }
-    }
-    return text;
-}
-
-[[noreturn]] void runChild(const std::function<std::string()> &work, int out) {
+[[noreturn]] void runChild(const ChildProcess::Work &work, int out) {
     int code = 0;
+    Interruption::leaveToTheSystem();
     try {
-        writeAll(out, work());
+        work([out](const std::string &text) { writeAll(out, text); });
     } catch (const std::exception &error) {
-        writeAll(out, error.what());
+        writeAll(out, kError + std::string(error.what()));
         code = kThrew;
     }
     // Not exit(): what the parent has buffered or registered is the parent's to finish.
@@ -53,7 +49,7 @@ std::string readAll(int file) {
 
 }  // namespace
 
-ChildProcess::ChildProcess(const std::function<std::string()> &work) {
+ChildProcess::ChildProcess(const Work &work) {
     int ends[2];
     if (pipe(ends) != 0) {
         throw Failure(std::string("no pipe for a child process: ") + std::strerror(errno));
@@ -75,9 +71,18 @@ ChildProcess::ChildProcess(const std::function<std::string()> &work) {
 
 ChildProcess::~ChildProcess() {
     if (child_ != 0) {
-        readAll(output_);  // a child that nobody reads would not end
+        kill(child_, SIGTERM);
         wait();
     }
+}
+
+bool ChildProcess::read() {
+    char part[4096];
+    const ssize_t count = ::read(output_, part, sizeof part);
+    if (count > 0) {
+        said_.append(part, static_cast<size_t>(count));
+    }
+    return count > 0 || (count < 0 && errno == EINTR);
 }
 
 int ChildProcess::wait() {
@@ -89,16 +94,46 @@ int ChildProcess::wait() {
     return status;
 }
 
-std::string ChildProcess::answer() {
-    std::string text = readAll(output_);
+void ChildProcess::finish() {
     const int status = wait();
     if (WIFSIGNALED(status)) {
         throw Failure("a child process was ended by signal " + std::to_string(WTERMSIG(status)));
     }
     if (WEXITSTATUS(status) != 0) {
-        throw Failure(text);
+        throw Failure(said_.substr(said_.rfind(kError) + 1));
     }
-    return text;
+}
+
+std::vector<std::string> runEach(std::span<const ChildProcess::Work> works, size_t atOnce,
+                                 const std::function<void(const std::string &)> &heard) {
+    std::vector<std::string> said(works.size());
+    std::map<size_t, ChildProcess> running;
+    for (size_t next = 0; next < works.size() || !running.empty();) {
+        for (; next < works.size() && running.size() < atOnce; ++next) {
+            running.try_emplace(next, works[next]);
+        }
+        std::vector<pollfd> outputs;
+        std::ranges::transform(running, std::back_inserter(outputs), [](const auto &entry) {
+            return pollfd{entry.second.output(), POLLIN, 0};
+        });
+        poll(outputs.data(), outputs.size(), -1);
+        if (Interruption::came()) {
+            throw Failure("interrupted");
+        }
+        auto output = outputs.cbegin();
+        for (auto entry = running.begin(); entry != running.end(); ++output) {
+            auto &[index, child] = *entry;
+            if (output->revents == 0 || child.read()) {
+                heard(child.said().substr(said[index].size()));
+                said[index] = child.said();
+                ++entry;
+            } else {
+                child.finish();
+                entry = running.erase(entry);
+            }
+        }
+    }
+    return said;
 }
 
 }  // namespace stage

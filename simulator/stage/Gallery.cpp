@@ -1,5 +1,6 @@
-// Drawing the gallery: one child process for each device and for each side, both sides at a time,
-// pictures first into a folder of their own, so that a gallery is complete or not there.
+// Drawing the gallery: one child process for each device, as many at a time as there are
+// processors, pictures first into a folder of their own, so that a gallery is complete or not
+// there.
 #include "stage/Gallery.hpp"
 
 #include <algorithm>
@@ -7,6 +8,7 @@
 #include <iterator>
 #include <span>
 #include <sstream>
+#include <thread>
 #include <vector>
 
 #include <unistd.h>
@@ -14,6 +16,8 @@
 #include "stage/ChildProcess.hpp"
 #include "stage/Errors.hpp"
 #include "stage/GalleryPage.hpp"
+#include "stage/Interruption.hpp"
+#include "stage/ProgressBar.hpp"
 #include "stage/Surroundings.hpp"
 #include "uikit/drawing/Canvas.hpp"
 
@@ -79,31 +83,34 @@ std::string drawScene(Session &session, const Scene &scene, const Settings &sett
     return said;
 }
 
-/// Draws all scenes on one device; returns a line a scene, what the screen said or that it is
-/// left out, and then the characters that no font has.
-std::string drawScenes(const fs::path &folder, const std::vector<SceneGroup> &groups,
-                       const Settings &settings) {
+using Say = std::function<void(const std::string &)>;
+
+/// Draws all scenes on one device; says a line a scene, what the screen said or that it is left
+/// out.
+void drawScenes(const fs::path &folder, const std::vector<SceneGroup> &groups,
+                const Settings &settings, const Say &say) {
     Session session(settings);
-    std::ostringstream captions;
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
             if (!isShown(scene, settings.model)) {
                 continue;
             }
             try {
-                captions << kDrawn << drawScene(session, scene, settings, folder) << '\n';
+                say(kDrawn + drawScene(session, scene, settings, folder) + '\n');
             } catch (const Failure &) {
                 if (isSample(settings)) {
                     throw;
                 }
-                captions << kLeftOut << '\n';
+                say(kLeftOut + std::string("\n"));
             }
         }
     }
+}
+
+void sayWhatNoFontHas(const Say &say) {
     for (const char32_t character : sim::Canvas::charactersWithoutGlyph()) {
-        captions << static_cast<uint32_t>(character) << ' ';
+        say(std::to_string(static_cast<uint32_t>(character)) + ' ');
     }
-    return captions.str();
 }
 
 Settings sideOf(const Settings &settings, const Model &model, bool withAddOn) {
@@ -112,8 +119,7 @@ Settings sideOf(const Settings &settings, const Model &model, bool withAddOn) {
     side.withAddOn = withAddOn;
     side.pace = kPace;
     // Two runs at a time cannot share a store.
-    side.data = (settings.data.empty() ? defaultDataFolder() : settings.data) /
-                (withAddOn ? "with-addon" : "without-addon");
+    side.data = (settings.data.empty() ? defaultDataFolder() : settings.data) / model.slug();
     return side;
 }
 
@@ -122,6 +128,15 @@ bool takeCaption(std::istream &lines, std::string &caption) {
     const bool drawn = lines.get() == kDrawn;
     std::getline(lines, caption);
     return drawn;
+}
+
+size_t shownScenes(const std::vector<SceneGroup> &groups, const Model &model) {
+    size_t count = 0;
+    for (const SceneGroup &group : groups) {
+        count += static_cast<size_t>(std::ranges::count_if(
+            group.scenes, [&](const Scene &scene) { return isShown(scene, model); }));
+    }
+    return count;
 }
 
 /// The scenes that not every device which could show them does.
@@ -142,28 +157,30 @@ std::vector<std::string_view> missingIn(std::span<const Exhibit> exhibits,
 }
 
 /// What a device shows in all scenes that both sides drew: their lines come in the order of the
-/// scenes.
+/// scenes, those without the add-on first.
 std::vector<Exhibit> exhibitsOf(const std::vector<SceneGroup> &groups, const Settings &without,
-                                const Settings &with, std::istream &captionsWithout,
-                                std::istream &captionsWith) {
+                                const Settings &with, std::istream &captions) {
     std::vector<Exhibit> exhibits;
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
-            if (!isShown(scene, with.model)) {
-                continue;
-            }
-            Exhibit exhibit{with.model,
-                            std::string(scene.name),
-                            pictureName(scene, without),
-                            pictureName(scene, with),
-                            {},
-                            {}};
-            const bool drawn = takeCaption(captionsWithout, exhibit.captionWithout);
-            if (takeCaption(captionsWith, exhibit.captionWith) && drawn) {
-                exhibits.push_back(std::move(exhibit));
+            if (isShown(scene, with.model)) {
+                exhibits.push_back({with.model,
+                                    std::string(scene.name),
+                                    pictureName(scene, without),
+                                    pictureName(scene, with),
+                                    {},
+                                    {}});
             }
         }
     }
+    for (const auto caption : {&Exhibit::captionWithout, &Exhibit::captionWith}) {
+        for (Exhibit &exhibit : exhibits) {
+            if (!takeCaption(captions, exhibit.*caption)) {
+                exhibit.scene.clear();
+            }
+        }
+    }
+    std::erase_if(exhibits, [](const Exhibit &exhibit) { return exhibit.scene.empty(); });
     return exhibits;
 }
 
@@ -228,26 +245,39 @@ Gallery makeGallery(const fs::path &folder, const Settings &settings,
     if (fs::exists(folder) && !fs::is_directory(folder)) {
         throw Failure(folder.string() + ": is no folder; choose another with --out");
     }
+    const Interruption interruption;
     const StagingFolder staging(folder);
     const std::vector<Model> models = allModels();
-    std::vector<Exhibit> exhibits;
+    std::vector<ChildProcess::Work> works;
+    uintmax_t total = 0;
     for (const Model &model : models) {
-        Settings without = sideOf(settings, model, false);
-        Settings with = sideOf(settings, model, true);
-        without.warn = {};  // one warns for all
-        if (&model != models.data()) {
-            with.warn = {};
-        }
-        ChildProcess drawWithout([&] { return drawScenes(staging.path(), groups, without); });
-        ChildProcess drawWith([&] { return drawScenes(staging.path(), groups, with); });
-        std::istringstream saidWithout(drawWithout.answer());
-        std::istringstream saidWith(drawWith.answer());
-        std::ranges::move(exhibitsOf(groups, without, with, saidWithout, saidWith),
+        total += 2 * shownScenes(groups, model);
+        works.emplace_back([&](const Say &say) {
+            for (const bool withAddOn : {false, true}) {
+                Settings side = sideOf(settings, model, withAddOn);
+                if (&model != models.data() || !withAddOn) {
+                    side.warn = {};  // one warns for all
+                }
+                drawScenes(staging.path(), groups, side, say);
+            }
+            sayWhatNoFontHas(say);
+        });
+    }
+    ProgressBar progress("drawing", total);
+    progress.show(0);
+    uintmax_t drawn = 0;
+    const std::vector<std::string> said = runEach(
+        works, std::max(1U, std::thread::hardware_concurrency()), [&](const std::string &lines) {
+            drawn += static_cast<uintmax_t>(std::ranges::count(lines, '\n'));
+            progress.show(drawn);
+        });
+    std::vector<Exhibit> exhibits;
+    for (size_t i = 0; i < models.size(); ++i) {
+        std::istringstream lines(said[i]);
+        std::ranges::move(exhibitsOf(groups, sideOf(settings, models[i], false),
+                                     sideOf(settings, models[i], true), lines),
                           std::back_inserter(exhibits));
-        for (std::istream *const said : {&saidWithout, &saidWith}) {
-            sim::Canvas::charactersWithoutGlyph().insert(std::istream_iterator<uint32_t>(*said),
-                                                         {});
-        }
+        sim::Canvas::charactersWithoutGlyph().insert(std::istream_iterator<uint32_t>(lines), {});
     }
     writePage(staging.path() / kPage, galleryPage(groups, models, exhibits, isSample(settings)));
     moveInto(folder, staging.path(), exhibits);

@@ -5,29 +5,54 @@
 #include <iostream>
 #include <utility>
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace stage {
+namespace {
+
+/// Asked each time: the user may change it.
+size_t terminalColumns() {
+    constexpr size_t kUsual = 80;
+    winsize size{};
+    const bool known = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return known ? size.ws_col : kUsual;
+}
+
+}  // namespace
+
+std::string progressLine(const std::string &title, uintmax_t percent, size_t columns) {
+    std::string number = std::to_string(percent) + " %";
+    number.insert(0, 5 - std::min<size_t>(number.size(), 5), ' ');
+    const size_t taken = title.size() + 4 + number.size();  // with blanks and brackets
+    constexpr size_t kShortest = 4;
+    if (columns < taken + kShortest + 1) {  // the last column stays free: some terminals wrap there
+        return number.size() < columns ? number : "";
+    }
+    const size_t width = columns - 1 - taken;
+    std::string bar(width, ' ');
+    std::fill_n(bar.begin(), percent * width / 100, '#');
+    return title + " [" + bar + "] " + number;
+}
 
 ProgressBar::ProgressBar(std::string title, uintmax_t total)
     : title_(std::move(title)), total_(isatty(STDERR_FILENO) != 0 ? total : 0) {}
 
 ProgressBar::~ProgressBar() {
-    if (percent_ > 0) {
+    if (percent_) {
         std::cerr << "\r\x1b[K" << std::flush;
     }
 }
 
 void ProgressBar::show(uintmax_t done) {
-    const uintmax_t percent = total_ == 0 ? 0 : std::min(done, total_) * 100 / total_;
-    if (percent == percent_) {
+    if (total_ == 0) {
         return;
     }
-    percent_ = percent;
-    constexpr size_t kWidth = 40;
-    std::string bar(kWidth, ' ');
-    std::fill_n(bar.begin(), percent * kWidth / 100, '#');
-    std::cerr << '\r' << title_ << " [" << bar << "] " << percent << " %" << std::flush;
+    const uintmax_t percent = std::min(done, total_) * 100 / total_;
+    if (percent != percent_) {
+        percent_ = percent;
+        std::cerr << "\r\x1b[K" << progressLine(title_, percent, terminalColumns()) << std::flush;
+    }
 }
 
 }  // namespace stage

@@ -2,9 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace stage {
+
+/// One line for a terminal of so many columns; the bar gives way to the number, and that to
+/// nothing.
+std::string progressLine(const std::string &title, uintmax_t percent, size_t columns);
 
 class ProgressBar {
   public:
@@ -21,7 +26,7 @@ class ProgressBar {
   private:
     std::string title_;
     uintmax_t total_;
-    uintmax_t percent_ = 0;  // that is shown
+    std::optional<uintmax_t> percent_;  // that is shown
 };
 
 }  // namespace stage

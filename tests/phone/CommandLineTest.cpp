@@ -5,6 +5,7 @@
 
 #include "stage/Errors.hpp"
 #include "stage/GalleryPage.hpp"
+#include "stage/ProgressBar.hpp"
 #include "stage/Request.hpp"
 #include "stage/TextTable.hpp"
 
@@ -121,6 +122,19 @@ TEST(TextTable, AlignsChineseTextAndKeepsEachRowOnItsLine) {
     table.add({"快递", "1"});
     table.add({"x\ny", "\t2"});
     EXPECT_EQ(table.str(), "a     b\n----  --\n快递  1\nx y    2\n");
+}
+
+TEST(ProgressBar, FillsTheTerminal) {
+    const std::tuple<uintmax_t, size_t, std::string> cases[] = {
+        {0, 25, "reading [        ]   0 %"},
+        {50, 25, "reading [####    ]  50 %"},
+        {100, 21, "reading [####] 100 %"},
+        {99, 20, " 99 %"},
+        {99, 5, ""},
+    };
+    for (const auto &[percent, columns, line] : cases) {
+        EXPECT_EQ(stage::progressLine("reading", percent, columns), line) << columns;
+    }
 }
 
 TEST(GalleryPage, ShowsEachDeviceOfAScene) {
