@@ -130,6 +130,10 @@ static void checkTexts() {
         expectFrame(header->_nameLabel, {7, 53, 200, 30});
         expectTrue([header->_taglineLabel isHidden]);
         expectEqual(titles(header), each.titles);
+        // What is shown already asks for no other pass.
+        header->needsLayout = NO;
+        layOut(header);
+        expectTrue(!header->needsLayout);
         // The buttons share their row.
         const CGFloat kWidths[][3] = {{272, 135, 90}, {292, 145, 97}};
         const NSUInteger others = [each.titles length] / 2 - 1;

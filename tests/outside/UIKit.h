@@ -61,6 +61,7 @@ const std::string &wokenClasses();
   @public
     int layouts, layersLaidOut;
     BOOL keepsNothing;  // of what it is given
+    BOOL needsLayout;   // since a label in it got a new text, as under Auto Layout
 }
 @property(nonatomic) CGRect frame;
 @property(nonatomic, getter=isHidden) BOOL hidden;

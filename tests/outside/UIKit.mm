@@ -175,6 +175,9 @@ const std::string &wokenClasses() { return g_woken; }
     if (const auto happen = std::exchange(g_onText, nullptr)) {
         happen();
     }
+    if (_text != text && ![_text isEqual:text] && [self superview]) {
+        [self superview]->needsLayout = YES;
+    }
     NSString *copy = [text copy];
     [_text release];
     _text = copy;
