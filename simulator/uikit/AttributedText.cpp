@@ -21,7 +21,7 @@ TextStyle textStyle(NSDictionary attributes, const TextStyle &missing) {
 NSDictionary attributesAtFirst(NSAttributedString text) {
     return objc::send<NSUInteger()>(text, "length"_sel) > 0
                ? objc::send<NSDictionary(NSUInteger, NSRange *)>(
-                     text, "attributesAtIndex:effectiveRange:"_sel, 0, nullptr)
+                     text, "attributesAtIndex:effectiveRange:"_sel, NSUInteger{0}, nullptr)
                : NSDictionary();
 }
 
