@@ -18,7 +18,7 @@ for tool in clang-format-19 black; do
     fi
 done
 
-mapfile -d '' files < <(find src simulator tests bench device/loader -name '*.[ch]pp' -print0 | sort -z)
+mapfile -d '' files < <(find src simulator tests bench device -name '*.[ch]pp' -print0 | sort -z)
 failed=
 printf '%s\0' "${files[@]}" |
     xargs -0 -n 20 -P "$(nproc)" clang-format-19 --ferror-limit=1 "${mode[@]}" || failed=yes

@@ -16,9 +16,9 @@ if ! command -v clang-tidy-19 >/dev/null; then
 fi
 
 mapfile -t sources < <(sed -nE "s|^ *\"file\": \"$PWD/(.*\.cpp)\",?$|\1|p" \
-    "$build/compile_commands.json" | grep -E '^(src|simulator|tests|bench)/' | sort -u)
+    "$build/compile_commands.json" | grep -E '^(src|simulator|tests|bench|device)/' | sort -u)
 if [ ${#sources[@]} -eq 0 ]; then
-    echo "lint: $build compiles no source of src, simulator, tests or bench" >&2
+    echo "lint: $build compiles no source of src, simulator, tests, bench or device" >&2
     exit 1
 fi
 
@@ -42,7 +42,8 @@ printf '%s\0' "${sources[@]}" | REPORTS="$reports" xargs -0 -n 1 -P "$(nproc)" b
     case "$1" in
     device/loader/armv7/*) triple=arm-linux-gnueabi ;;&
     device/loader/*)
-        how=("$1" -- --target=$triple -std=c++20 -I device/loader "-DZQDIAL_IMPORTS=\"\""
+        how=("$1" -- --target=$triple -std=c++20 -I device/loader
+            "-DZQDIAL_IMPORTS=\"imports\"" "-DZQDIAL_PROGRAM_IMPORTS=\"of a program\""
             -idirafter /usr/lib/gcc-cross/$triple/12/include)
         ;;
     esac

@@ -48,7 +48,8 @@ function(zqdial_outside_objects result slice)
             list(FILTER options INCLUDE REGEX "-std")
         endif()
         zqdial_outside_object(object ${slice} "${OUTSIDE_SOURCES}/${name}" ${options}
-            -I "${SOURCE_ROOT}/src" -isystem "${sysroot}/usr/include/GNUstep")
+            -I "${SOURCE_ROOT}/src" -I "${SOURCE_ROOT}/device"
+            -isystem "${sysroot}/usr/include/GNUstep")
         list(APPEND objects "${object}")
     endforeach()
     set(${result} ${objects} PARENT_SCOPE)

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "members/Comparison.hpp"
+#include "Comparison.hpp"
 #include "objc/Send.hpp"
 
 extern "C" {

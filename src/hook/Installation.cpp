@@ -6,7 +6,7 @@
 #include "hook/Gates.hpp"
 #include "hook/Table.hpp"
 #include "incall/ZQDialWaitUIHook.hpp"
-#include "objc/EncodingText.hpp"
+#include "members/Encodings.hpp"
 #include "objc/Silently.hpp"
 #include "platform/Format.hpp"
 #include "platform/Log.hpp"
@@ -22,7 +22,7 @@ namespace {
 /// all the same, but whoever reads the log learns of it.
 void logUnlessAlike(const HookRow &row, Method method) {
     const char *const theirs = method ? method_getTypeEncoding(method) : nullptr;
-    if (theirs && !objc::sameEncoding(row.encoding, theirs)) {
+    if (theirs && !members::sameEncoding(row.encoding, theirs)) {
         const auto text = &NSString::withUTF8String;
         logLine(format<"libZQDial: -[%@ %@] is %@ on this system, expected %@">(
             text(row.className), text(row.selectorName), text(theirs), text(row.encoding)));

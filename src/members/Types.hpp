@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "objc/EncodingText.hpp"
+#include "members/Encodings.hpp"
 
 namespace members {
 
@@ -88,7 +88,7 @@ constexpr std::string_view takeName(std::string_view &types) {
 /// Takes the same type off both; false where they begin with different ones.
 constexpr bool takeSame(std::string_view &encoding, std::string_view &types, const Abi &abi) {
     const std::string_view code = encodingOf(takeName(types), abi);
-    return objc::isSameType(objc::takeType(encoding), code);
+    return isSameType(takeType(encoding), code);
 }
 
 /// Whether `encoding` is what the runtime says of a variable of this type.
@@ -97,7 +97,7 @@ constexpr bool isVariableOf(std::string_view encoding, std::string_view type, co
 }
 
 constexpr bool areArgumentsOf(std::string_view encoding, std::string_view types, const Abi &abi) {
-    bool isSame = objc::takeType(encoding) == "@" && objc::takeType(encoding) == ":";
+    bool isSame = takeType(encoding) == "@" && takeType(encoding) == ":";
     while (isSame && !types.empty()) {
         isSame = takeSame(encoding, types, abi);
     }

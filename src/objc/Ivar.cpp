@@ -1,7 +1,7 @@
 // Looking variables up, and reading numbers by the width that they have.
 #include "objc/Ivar.hpp"
 
-#include "objc/EncodingText.hpp"
+#include "members/Encodings.hpp"
 
 namespace objc {
 namespace {
@@ -38,7 +38,7 @@ VariablePlace VariableFinder::search(Class cls) const {
     }
     const char *const text = ivar_getTypeEncoding(variable);
     std::string_view encoding = text ? text : "";
-    const std::string_view type = takeType(encoding);
+    const std::string_view type = members::takeType(encoding);
     return {.offset = ivar_getOffset(variable), .type = type.empty() ? '?' : type.front()};
 }
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "objc/EncodingText.hpp"
+#include "members/Encodings.hpp"
 
 bool isSameText(NSString a, NSString b) {
     if (a.get() == b.get()) {
@@ -29,5 +29,5 @@ bool returnsObject(NSObject object, SEL selector) {
         object ? class_getInstanceMethod(object_getClass(object), selector) : nullptr;
     const char *const text = method ? method_getTypeEncoding(method) : nullptr;
     std::string_view encoding = text ? text : "";
-    return objc::takeType(encoding).starts_with('@');
+    return members::takeType(encoding).starts_with('@');
 }

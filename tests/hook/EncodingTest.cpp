@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "hook/Table.hpp"
-#include "objc/EncodingText.hpp"
+#include "members/Encodings.hpp"
 
 namespace {
 
@@ -12,7 +12,7 @@ TEST(HookEncodings, AreThoseOfTheMethodsThatAreReplaced) {
         const Class cls = objc::findClass(row.className);
         const Method method = class_getInstanceMethod(cls, sel_registerName(row.selectorName));
         ASSERT_NE(method, nullptr);
-        EXPECT_TRUE(objc::sameEncoding(row.encoding, method_getTypeEncoding(method)))
+        EXPECT_TRUE(members::sameEncoding(row.encoding, method_getTypeEncoding(method)))
             << "ours is " << row.encoding << ", theirs " << method_getTypeEncoding(method);
     }
 }
@@ -36,7 +36,7 @@ TEST(HookEncodings, AreComparedTypeByType) {
              Case{"v@:", "", false},
              Case{"v@:{", "v@:{A{", false},
          }) {
-        EXPECT_EQ(objc::sameEncoding(ours, theirs), isSame) << ours << ", " << theirs;
+        EXPECT_EQ(members::sameEncoding(ours, theirs), isSame) << ours << ", " << theirs;
     }
 }
 

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "members/Comparison.hpp"
 #include "members/Ledger.hpp"
+#include "phonecheck/Comparison.hpp"
 #include "stage/Session.hpp"
 
 namespace {

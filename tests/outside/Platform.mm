@@ -1,5 +1,5 @@
 // The classes of this host are those that the add-on expects of a phone.
-#include "members/Comparison.hpp"
+#include "phonecheck/Comparison.hpp"
 
 #import "Checks.h"
 

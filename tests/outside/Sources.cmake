@@ -15,7 +15,7 @@ set(OUTSIDE_HOST
     InCall.mm InCallFaults.mm
     Rows.mm Recents.mm RowFaults.mm Cache.mm Swipe.mm Editing.mm
     Contacts.mm Details.mm Header.mm HeaderFaults.mm OtherCode.mm
-    Platform.mm ../../src/members/Comparison.cpp)
+    Platform.mm ../../device/phonecheck/Comparison.cpp)
 
 # Each run: its name, the system's version, the process's identifier and its state.
 set(OUTSIDE_RUNS

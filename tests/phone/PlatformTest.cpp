@@ -1,9 +1,9 @@
 // The simulated classes are those that the add-on expects of a phone.
 #include <gtest/gtest.h>
 
-#include "members/Comparison.hpp"
 #include "objc/Owned.hpp"
 #include "phone/Classes.hpp"
+#include "phonecheck/Comparison.hpp"
 
 namespace {
 

@@ -61,7 +61,7 @@ Landing landingBy(Bytes actions, uint32_t pad, size_t action) {
         const size_t place = at - 1 + cursor.position();
         const int64_t next = cursor.sleb();
         if (type < 0) {
-            stop("an exception meets a specification of exceptions");
+            stop("an exception meets a list of those that may pass");
         }
         if (type > 0) {
             return {Found::Handler, pad, static_cast<uint32_t>(type)};

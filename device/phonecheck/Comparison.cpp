@@ -1,5 +1,7 @@
-#include "members/Comparison.hpp"
+// The runtime asked about every entry of the ledger.
+#include "Comparison.hpp"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "members/Ledger.hpp"

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string_view>
 
-namespace objc {
+namespace members {
 
 /// Takes the first type off a method's encoding, as the runtime writes it: qualifiers before a type
 /// and the numbers behind it, which are places in the frame, do not count.
@@ -45,4 +45,4 @@ constexpr bool sameEncoding(std::string_view ours, std::string_view theirs) {
     return true;
 }
 
-}  // namespace objc
+}  // namespace members
