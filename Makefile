@@ -29,7 +29,10 @@ build: packages-build
 	@cmake --preset host >/dev/null
 	@cmake --build --preset host
 
-demo: build
+# What only the tests use is not built.
+demo: packages-build
+	@cmake --preset host >/dev/null
+	@cmake --build --preset host --target phone-simulator
 	@tools/demo.sh
 
 test: build
@@ -48,16 +51,16 @@ asan tsan: packages-build
 
 clang: packages-build packages-lint
 	@cmake --preset clang >/dev/null
-	@cmake --build --preset clang
+	@cmake --build --preset clang --target all benchmarks
 
 format: packages-lint
 	@tools/format.sh
 
 lint: packages-build packages-lint packages-qemu packages-qemu-armv7
 	@tools/format.sh --check
-	@mypy device tests/device
+	@mypy device tests/device tools
 	@cmake --preset host >/dev/null
-	@tools/lint.sh
+	@tools/lint.py
 
 device: packages-device $(if $(filter armv7,$(SLICES)),packages-armv7)
 	@cmake -S device -B build/device -G Ninja "-DZQDIAL_SEARCH_HOST=$(SEARCH_HOST)" \

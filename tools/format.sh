@@ -22,7 +22,7 @@ mapfile -d '' files < <(find src simulator tests bench device -name '*.[ch]pp' -
 failed=
 printf '%s\0' "${files[@]}" |
     xargs -0 -n 20 -P "$(nproc)" clang-format-19 --ferror-limit=1 "${mode[@]}" || failed=yes
-if ! words="$(black "${pythonMode[@]}" device tests/device 2>&1)"; then
+if ! words="$(black "${pythonMode[@]}" device tests/device tools 2>&1)"; then
     echo "$words" >&2
     failed=yes
 fi

@@ -12,7 +12,6 @@
 namespace stage {
 namespace {
 
-constexpr std::string_view kProgram = "phone-simulator";
 constexpr std::string_view kHelp = "--help";
 constexpr std::string_view kVersion = "--version";
 constexpr size_t kHelpColumn = 24;

@@ -11,6 +11,9 @@
 
 namespace stage {
 
+/// The program's name, as its messages begin.
+inline constexpr std::string_view kProgram = "phone-simulator";
+
 /// One option of a command. Without a value it is a switch.
 struct OptionSpec {
     std::string_view name;   // "--ios"

@@ -27,7 +27,7 @@ constexpr auto kOwnWorld =
     "The titles and notes tell what the sample world has in these places; what is shown is a world "
     "or a call history of your own. ";
 
-std::string id(const Model &model) {
+std::string cssName(const Model &model) {
     std::string name = "d-" + model.slug();
     for (char &c : name) {
         c = c == '.' ? '-' : c;
@@ -39,8 +39,9 @@ std::string id(const Model &model) {
 std::string chooserStyle(std::span<const Model> models) {
     std::string style;
     for (const Model &model : models) {
-        style += "#" + id(model) + ":checked + label { background: #007aff; color: #fff; }\n";
-        style += "#" + id(model) + ":checked ~ section ." + id(model) + " { display: flex; }\n";
+        style += "#" + cssName(model) + ":checked + label { background: #007aff; color: #fff; }\n";
+        style += "#" + cssName(model) + ":checked ~ section ." + cssName(model) +
+                 " { display: flex; }\n";
     }
     return style;
 }
@@ -48,8 +49,8 @@ std::string chooserStyle(std::span<const Model> models) {
 std::string chooser(std::span<const Model> models) {
     std::string buttons;
     for (const Model &model : models) {
-        buttons += R"(<input type="radio" name="device" id=")" + id(model) + "\"" +
-                   (&model == models.data() ? " checked" : "") + "><label for=\"" + id(model) +
+        buttons += R"(<input type="radio" name="device" id=")" + cssName(model) + "\"" +
+                   (&model == models.data() ? " checked" : "") + "><label for=\"" + cssName(model) +
                    "\">" + escapedHtml(model.title()) + "</label>\n";
     }
     return buttons;
@@ -66,7 +67,7 @@ std::string section(const Scene &scene, std::span<const Exhibit> exhibits) {
                        escapedHtml(scene.title) + "</h3>\n<p>" + escapedHtml(scene.note) + "</p>\n";
     for (const Exhibit &exhibit : exhibits) {
         if (exhibit.scene == scene.name) {
-            html += "<div class=\"pair " + id(exhibit.model) + "\">\n" +
+            html += "<div class=\"pair " + cssName(exhibit.model) + "\">\n" +
                     figure(exhibit.pictureWithout, "Without the add-on", exhibit.captionWithout) +
                     figure(exhibit.pictureWith, "With it", exhibit.captionWith) + "</div>\n";
         }

@@ -18,11 +18,6 @@ Step second(const GivenOption &given) { return {Step::Kind::Second, given.value}
 
 Step end(const GivenOption &given) { return {Step::Kind::End, {}, readNumber(given, 1)}; }
 
-template <Step::Kind kind>
-Step plain(const GivenOption &) {
-    return {kind};
-}
-
 }  // namespace
 
 std::vector<StepOption> inCallSteps() {

@@ -13,10 +13,10 @@ namespace {
 
 /// Asked each time: the user may change it.
 size_t terminalColumns() {
-    constexpr size_t kUsual = 80;
+    constexpr size_t kUsualColumns = 80;
     winsize size{};
     const bool known = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return known ? size.ws_col : kUsual;
+    return known ? size.ws_col : kUsualColumns;
 }
 
 }  // namespace

@@ -34,11 +34,6 @@ Step named(const GivenOption &given) {
     return {kind, given.value};
 }
 
-template <Step::Kind kind>
-Step plain(const GivenOption &) {
-    return {kind};
-}
-
 }  // namespace
 
 std::vector<StepOption> recentsSteps() {

@@ -21,8 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kProgram = "phone-simulator";
-
 Settings settingsOf(const Request &request, std::ostream &err) {
     Settings settings;
     settings.model = request.model;

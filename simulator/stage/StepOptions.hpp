@@ -17,6 +17,12 @@ struct StepOption {
     void (*amend)(const GivenOption &given, Steps &before) = nullptr;
 };
 
+/// The step of an option without a value.
+template <Step::Kind kind>
+Step plain(const GivenOption &) {
+    return {kind};
+}
+
 std::vector<StepOption> dialerSteps();
 std::vector<StepOption> inCallSteps();
 std::vector<StepOption> recentsSteps();

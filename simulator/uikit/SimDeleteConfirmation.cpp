@@ -14,8 +14,8 @@ using objc::Owned;
 namespace {
 
 constexpr CGFloat kWidth = 82;
-constexpr CGFloat kMargin = 15;      // of the title
-constexpr CGFloat kSeparator = 0.5;  // the line below the row stays free
+constexpr CGFloat kTitleMargin = 15;  // of the title
+constexpr CGFloat kLineBelow = 0.5;   // the line below the row stays free
 
 }  // namespace
 
@@ -23,7 +23,7 @@ Owned<UIView> SimDeleteConfirmationView::make(CGSize cellSize, NSObject cell) {
     auto view = objc::make<SimDeleteConfirmationView>().as<UIView>();
     const auto button = objc::make<SimDeleteConfirmationButton>().as<UIView>();
     view->setFrame(rect(cellSize.width, 0, kWidth, cellSize.height));
-    button->setFrame(rect(0, 0, kWidth, cellSize.height - kSeparator));
+    button->setFrame(rect(0, 0, kWidth, cellSize.height - kLineBelow));
     button->setBackgroundColor(SimColor::make({1, 59 / 255.0, 48 / 255.0, 1}));
     auto *const self = sim::instance<SimDeleteConfirmationButton>(button.get());
     self->setAutoresizingMask(kFlexibleLeftMargin);
@@ -36,7 +36,7 @@ Owned<UIView> SimDeleteConfirmationView::make(CGSize cellSize, NSObject cell) {
 
 CGRect SimDeleteConfirmationButton::titleRectForContentRect(CGRect content) const {
     CGRect title = SimButton::titleRectForContentRect(content);
-    const CGFloat width = std::max(title.size.width, content.size.width - 2 * kMargin);
+    const CGFloat width = std::max(title.size.width, content.size.width - 2 * kTitleMargin);
     title.origin.x -= (width - title.size.width) / 2;
     title.size.width = width;
     return title;

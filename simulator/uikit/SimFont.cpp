@@ -15,8 +15,6 @@ using sim::instance;
 
 namespace {
 
-constexpr CGFloat kDefaultPoints = 17;
-
 struct KnownFont {
     std::string_view name;
     FontWeight weight;
@@ -59,7 +57,7 @@ UIFont SimFont::withName(NSString name, CGFloat points) {
 }
 
 sim::Font SimFont::of(UIFont font) {
-    return font != nullptr ? instance<SimFont>(font)->font_ : sim::Font{kDefaultPoints};
+    return font != nullptr ? instance<SimFont>(font)->font_ : sim::Font{SimFont::kDefaultPoints};
 }
 
 NSString SimFont::familyName() const {

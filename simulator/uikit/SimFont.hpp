@@ -9,6 +9,9 @@ class SimFont : public objc::Instance {
   public:
     static void define();
 
+    /// Of a label that was given no font.
+    static constexpr CGFloat kDefaultPoints = 17;
+
     static UIFont systemFontOfSize(CGFloat points);
     static UIFont boldSystemFontOfSize(CGFloat points);
     /// Nil for a name that the device does not have.

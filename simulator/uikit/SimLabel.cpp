@@ -16,8 +16,6 @@ using objc::Owned;
 
 namespace {
 
-constexpr CGFloat kDefaultPoints = 17;
-
 /// Up to the next whole pixel; sums of advances may lie above one by rounding.
 CGFloat wholePixels(CGFloat points) {
     const double scale = sim::Device::current().scale;
@@ -78,8 +76,8 @@ void SimLabel::setAttributedText(NSAttributedString text) {
 }
 
 void SimLabel::setFont(UIFont font) {
-    font_ =
-        Owned<UIFont>::share(font != nullptr ? font : SimFont::systemFontOfSize(kDefaultPoints));
+    font_ = Owned<UIFont>::share(
+        font != nullptr ? font : SimFont::systemFontOfSize(SimFont::kDefaultPoints));
 }
 
 void SimLabel::setTextColor(UIColor color) {

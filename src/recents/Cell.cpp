@@ -15,7 +15,7 @@
 namespace recents {
 namespace {
 
-enum Tag : NSInteger { kIconTag = 2533, kLineTag = 2534 };
+enum CellTag : NSInteger { kIconTag = 2533, kLineTag = 2534 };
 
 /// Of a contact with several numbers: which of them it was, and from where.
 NSString numberWithArea(NSString number) {

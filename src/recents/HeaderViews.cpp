@@ -6,7 +6,7 @@
 namespace recents {
 namespace {
 
-enum Tag : NSInteger {
+enum HeaderTag : NSInteger {
     kDescriptionTag = 1001,
     kLogoTag = 1002,
     kProductTag = 1004,
@@ -19,7 +19,7 @@ enum Tag : NSInteger {
 
 UIColor grey(double level) { return ZQUIUtil::getFormattedColor(level, level, level, 1); }
 
-UILabel addLabel(UIView header, CGRect frame, UIColor color, Tag tag) {
+UILabel addLabel(UIView header, CGRect frame, UIColor color, HeaderTag tag) {
     const UILabel label = withFrame<UILabel>(frame).autorelease();
     label.setBackgroundColor(UIColor::clearColor());
     label.setTextColor(color);
@@ -28,7 +28,7 @@ UILabel addLabel(UIView header, CGRect frame, UIColor color, Tag tag) {
     return label;
 }
 
-UILabel addHiddenLabel(UIView header, UIColor color, Tag tag) {
+UILabel addHiddenLabel(UIView header, UIColor color, HeaderTag tag) {
     const UILabel label = addLabel(header, {}, color, tag);
     label.setHidden(true);
     return label;

@@ -10,9 +10,9 @@
 namespace recents {
 namespace {
 
-enum Tag : NSInteger {
-    kCorrectTag = 1012,
-    kMarkTag = 1013,
+enum MenuTag : NSInteger {
+    kMenuCorrectTag = 1012,
+    kMenuMarkTag = 1013,
     // The confirmation view itself, once it was asked for. A new one at the same address has none.
     kAskedTag = 1014,
 };
@@ -41,7 +41,7 @@ UIView firstSubview(UIView view, Class cls) {
 CGFloat byte(int component) { return static_cast<CGFloat>(component) / 255; }
 
 /// In the first slot, and not shown yet.
-UIButton makeButton(NSString title, UIColor background, SEL action, Tag tag, CGFloat height) {
+UIButton makeButton(NSString title, UIColor background, SEL action, MenuTag tag, CGFloat height) {
     const UIButton button = UIButton::custom();
     button.setFrame(menuSlot(0, height));
     button.setTitle(title, kNormalState);
@@ -59,9 +59,9 @@ bool isUsable(NSString number) { return number.length() != 0 && !number.contains
 int32_t addButtons(UIView confirmation, OfferedActions offered, CGFloat height) {
     const UIButton correct =
         makeButton("纠错"_ns, UIColor::withRGB(byte(210), byte(210), byte(210), 1),
-                   "correctButtonPressed"_sel, kCorrectTag, height);
+                   "correctButtonPressed"_sel, kMenuCorrectTag, height);
     const UIButton mark = makeButton("标记"_ns, UIColor::withRGB(1, byte(161), 0, 1),
-                                     "markButtonPressed"_sel, kMarkTag, height);
+                                     "markButtonPressed"_sel, kMenuMarkTag, height);
     int32_t slots = 0;
     if (offered.correct) {
         confirmation.addSubview(correct);
@@ -85,7 +85,7 @@ int32_t addOfferedButtons(PHRecentsCell cell, RecentCall call, UIView confirmati
 }
 
 void removeButtons(UIView confirmation) {
-    for (const Tag tag : {kCorrectTag, kMarkTag}) {
+    for (const MenuTag tag : {kMenuCorrectTag, kMenuMarkTag}) {
         confirmation.viewWithTag(tag).removeFromSuperview();
     }
 }
@@ -104,7 +104,7 @@ void placeDeleteButton(UIView button, int32_t slots) {
 }
 
 bool isAdjusted(UIView confirmation, UIView deleteButton) {
-    return confirmation.viewWithTag(kCorrectTag) || confirmation.viewWithTag(kMarkTag) ||
+    return confirmation.viewWithTag(kMenuCorrectTag) || confirmation.viewWithTag(kMenuMarkTag) ||
            (deleteButton && deleteButton.frame().size.width == kSlotWidth);
 }
 

@@ -2,10 +2,14 @@
 // empty. Knows UTF-8 and dialling signs, nothing of countries or operators.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace companion {
+
+/// Digits of a mobile number of the mainland, without its country code.
+inline constexpr std::size_t kMobileLength = 11;
 
 /// What a text says before any numbering plan is applied.
 struct NumberText {

@@ -18,7 +18,6 @@ namespace {
 using i18n::phonenumbers::PhoneNumber;
 using i18n::phonenumbers::PhoneNumberUtil;
 
-constexpr std::size_t kMobileLength = 11;
 constexpr std::size_t kLongestDialled = 20;  // beyond it no text is a number that can be dialled
 
 bool isMobile(std::string_view digits) {

@@ -9,6 +9,8 @@
 #include <phonenumbers/phonenumber.pb.h>
 #include <phonenumbers/phonenumberutil.h>
 
+#include "companion/numbers/NumberText.hpp"
+
 namespace companion {
 
 namespace {
@@ -17,7 +19,6 @@ using i18n::phonenumbers::PhoneNumber;
 using i18n::phonenumbers::PhoneNumberOfflineGeocoder;
 using i18n::phonenumbers::PhoneNumberUtil;
 
-constexpr std::size_t kMobileLength = 11;
 constexpr std::size_t kMobileRegionLength = 7;
 constexpr std::size_t kLongestLandline = 12;  // area code of four digits, subscriber of eight
 constexpr std::size_t kShortestCountry = 4;   // country code and a first digit or two

@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <span>
 
 #include "companion/world/WorldReader.hpp"
@@ -11,7 +10,6 @@ namespace companion {
 
 namespace {
 
-constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 constexpr double kBestRating = 5;
 constexpr std::array<std::int32_t, 3> kCloudKinds{9, 10, 12};
 constexpr std::array<std::int32_t, 6> kMarkKinds{7, 8, 9, 10, 11, 12};
@@ -20,7 +18,7 @@ constexpr std::array<std::int32_t, 5> kLabelKinds{0, 1, 2, 5, 11};
 std::int32_t kindOf(const JsonPlace &entry, std::span<const std::int32_t> allowed,
                     std::int32_t fallback) {
     const JsonPlace place = entry["kind"];
-    const std::int32_t kind = place.integerOr(0, kMost, fallback);
+    const std::int32_t kind = place.integerOr(0, fallback);
     if (std::ranges::find(allowed, kind) == allowed.end()) {
         std::string expected = "a kind out of";
         for (std::int32_t known : allowed) {
@@ -74,7 +72,7 @@ void WorldReader::readPartnerNumbers(const JsonPlace &list) {
         entry.expectObject({"number", "partner", "label", "kind"});
         const std::int32_t kind = kindOf(entry, kCloudKinds, identity_kind::kCloudStored);
         Identity identity = identityAt(entry, IdentityOrigin::partner, kind);
-        identity.count = entry["partner"].integer(0, kMost);
+        identity.count = entry["partner"].integer(0);
         const auto partner = partnerNames_.find(identity.count);
         if (partner == partnerNames_.end()) {
             entry["partner"].fail("the id of an entry of /partners");
@@ -103,7 +101,7 @@ void WorldReader::readMarks(const JsonPlace &list) {
         const std::int32_t kind = kindOf(entry, kMarkKinds, identity_kind::kUserMark);
         Identity mark = identityAt(entry, IdentityOrigin::mark, kind);
         mark.label = entry["label"].nonEmptyText();
-        mark.count = entry["count"].integer(0, kMost);
+        mark.count = entry["count"].integer(0);
         if (entry["source"].isNull()) {
             mark.source = std::nullopt;
         } else {

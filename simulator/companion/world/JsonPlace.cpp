@@ -181,9 +181,8 @@ std::string JsonPlace::pictureOrNone() const {
     return value_ == nullptr ? std::string() : picture();
 }
 
-std::int32_t JsonPlace::integerOr(std::int32_t low, std::int32_t high,
-                                  std::int32_t fallback) const {
-    return value_ == nullptr ? fallback : integer(low, high);
+std::int32_t JsonPlace::integerOr(std::int32_t low, std::int32_t fallback) const {
+    return value_ == nullptr ? fallback : integer(low);
 }
 
 double JsonPlace::realOr(double low, double high, double fallback) const {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +16,8 @@ namespace companion {
 
 class JsonPlace {
   public:
+    static constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
+
     /// The whole document; `document` and `file` must outlive every place made from it.
     JsonPlace(const nlohmann::json &document, const std::string &file);
 
@@ -34,7 +37,7 @@ class JsonPlace {
     bool boolean() const;
     std::string text() const;          ///< may be empty
     std::string nonEmptyText() const;  ///< one character at least
-    std::int32_t integer(std::int32_t low, std::int32_t high) const;
+    std::int32_t integer(std::int32_t low, std::int32_t high = kLargest) const;
     double real(double low, double high) const;
     double date() const;              ///< seconds since 1970
     std::string picture() const;      ///< the name of a PNG file, without a folder
@@ -45,7 +48,7 @@ class JsonPlace {
     bool booleanOr(bool fallback) const { return value_ == nullptr ? fallback : boolean(); }
     std::string textOr(std::string_view fallback) const;
     std::string pictureOrNone() const;
-    std::int32_t integerOr(std::int32_t low, std::int32_t high, std::int32_t fallback) const;
+    std::int32_t integerOr(std::int32_t low, std::int32_t fallback) const;
     double realOr(double low, double high, double fallback) const;
 
     const std::string &place() const { return place_; }

@@ -1,7 +1,6 @@
 // People, calls, partners and answers; the sections that describe numbers are next door.
 #include "companion/world/WorldReader.hpp"
 
-#include <limits>
 #include <set>
 
 #include <nlohmann/json.hpp>
@@ -13,7 +12,6 @@ namespace companion {
 
 namespace {
 
-constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t kLowestPartnerId = 5001;  // smaller numbers are counts of marks
 constexpr double kLongestDelay = 3600;
 constexpr std::int32_t kHighestAction = 9;
@@ -22,8 +20,8 @@ void checkCloudAnswer(const JsonPlace &answer) {
     answer.expectObject({"hit", "Tag", "type", "Amount", "source", "partner"});
     answer["hit"].booleanOr(false);
     answer["Tag"].textOr("");
-    answer["type"].integerOr(0, kMost, 0);
-    answer["Amount"].integerOr(0, kMost, 0);
+    answer["type"].integerOr(0, 0);
+    answer["Amount"].integerOr(0, 0);
     answer["source"].textOr("");
     const JsonPlace partner = answer["partner"];
     if (!answer.has("partner")) {
@@ -31,7 +29,7 @@ void checkCloudAnswer(const JsonPlace &answer) {
     }
     partner.expectObject({"brand_type", "b_id", "b_n", "b_icon", "source", "ads", "rating"});
     partner["brand_type"].textOr("");
-    partner["b_id"].integerOr(kLowestPartnerId, kMost, kLowestPartnerId);
+    partner["b_id"].integerOr(kLowestPartnerId, kLowestPartnerId);
     partner["b_n"].textOr("");
     partner["source"].textOr("");
     partner["rating"].realOr(0, 5, 0);
@@ -88,7 +86,7 @@ void WorldReader::readContacts(const JsonPlace &list) {
     for (const JsonPlace &entry : list.items()) {
         entry.expectObject({"recordId", "name", "numbers", "avatar", "wallpaper"});
         Contact contact;
-        contact.recordId = entry["recordId"].integer(0, kMost);
+        contact.recordId = entry["recordId"].integer(0);
         if (!ids.insert(contact.recordId).second) {
             entry["recordId"].fail("a record id that no other contact has");
         }
@@ -111,7 +109,7 @@ void WorldReader::readPartners(const JsonPlace &list) {
     for (const JsonPlace &entry : list.items()) {
         entry.expectObject({"id", "name", "icon", "source", "ads"});
         Partner partner;
-        partner.id = entry["id"].integer(kLowestPartnerId, kMost);
+        partner.id = entry["id"].integer(kLowestPartnerId);
         partner.name = entry["name"].nonEmptyText();
         if (!partnerNames_.try_emplace(partner.id, partner.name).second) {
             entry["id"].fail("an id that no other partner has");
@@ -156,8 +154,8 @@ void WorldReader::readMicroblogs(const JsonPlace &list) {
         }
         blog.name = entry["name"].nonEmptyText();
         blog.content = entry["content"].textOr("");
-        blog.avatarKind = entry["avatarType"].integerOr(0, kMost, 0);
-        blog.boundKind = entry["boundType"].integerOr(0, kMost, 0);
+        blog.avatarKind = entry["avatarType"].integerOr(0, 0);
+        blog.boundKind = entry["boundType"].integerOr(0, 0);
         blog.avatar = pictureAt(entry["avatar"]);
         world_.microblogs.push_back(std::move(blog));
     }

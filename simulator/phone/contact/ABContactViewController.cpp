@@ -15,7 +15,7 @@ namespace {
 constexpr CGFloat kTabBarHeight = 49;
 constexpr CGFloat kSectionGap = 35;
 constexpr CGFloat kRowHeight = 44;
-constexpr CGFloat kLeft = 35;
+constexpr CGFloat kTextLeft = 35;
 
 constexpr std::array kContactActions = {"发送信息", "共享联系人"};
 constexpr std::array kStrangerActions = {"发送信息", "共享联系人", "创建新联系人",
@@ -54,12 +54,12 @@ UIColor tint() { return color(0, 122, 255); }
 SimTableViewCell *numberCell(NSObject number, CGFloat width) {
     SimTableViewCell *const cell = makeCell();
     constexpr CGFloat kIcon = 26;
-    const CGFloat textWidth = width - kLeft - 100;
+    const CGFloat textWidth = width - kTextLeft - 100;
     const auto value = objc::send<NSObject()>(number, "value"_sel);
-    addText(cell, objc::send<NSString()>(number, "label"_sel), rect(kLeft, 5, textWidth, 16), 13,
-            tint());
+    addText(cell, objc::send<NSString()>(number, "label"_sel), rect(kTextLeft, 5, textWidth, 16),
+            13, tint());
     addText(cell, objc::send<NSString()>(value, "formattedStringValue"_sel),
-            rect(kLeft, 21, textWidth, 20), 16, UIColor::blackColor());
+            rect(kTextLeft, 21, textWidth, 20), 16, UIColor::blackColor());
     CGFloat x = width - 2 * (kIcon + 15);
     for (const char *icon : {"detail_message", "detail_call"}) {
         asView(*cell->contentView()).addSubview(makePicture(icon, {x, (kRowHeight - kIcon) / 2}));
@@ -70,7 +70,8 @@ SimTableViewCell *numberCell(NSObject number, CGFloat width) {
 
 SimTableViewCell *actionCell(const char *title, CGFloat width, UIColor textColor) {
     SimTableViewCell *const cell = makeCell();
-    addText(cell, sim::string(title), rect(kLeft, 0, width - kLeft, kRowHeight), 16, textColor);
+    addText(cell, sim::string(title), rect(kTextLeft, 0, width - kTextLeft, kRowHeight), 16,
+            textColor);
     return cell;
 }
 
@@ -112,7 +113,7 @@ void ABContactViewController::loadView() {
     view->setBackgroundColor(UIColor::whiteColor());
     view->addSubview(contactView_);
     view->addSubview(bar_);
-    sim::instance<SimTableView>(contactView_)->setSeparatorInset({0, kLeft, 0, 0});
+    sim::instance<SimTableView>(contactView_)->setSeparatorInset({0, kTextLeft, 0, 0});
     setView(sim::instance<SimView>(view));
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 using Time = ListedCall::Time;
 
-struct Row {
+struct CallRow {
     DisplayRow texts;
     bool isHeld;
 };
@@ -33,8 +33,8 @@ std::string labelOf(const ListedCall &call, Time now) {
 }
 
 /// Merged calls stand where the first of them stood, and have lasted as long as the longest.
-std::vector<Row> allRows(const std::vector<ListedCall> &calls, Time now) {
-    std::vector<Row> rows;
+std::vector<CallRow> allRows(const std::vector<ListedCall> &calls, Time now) {
+    std::vector<CallRow> rows;
     const auto firstMerged = std::ranges::find(calls, true, &ListedCall::isMerged);
     for (auto call = calls.begin(); call != calls.end(); ++call) {
         const bool isHeld = call->status == CallStatus::Held;
@@ -55,13 +55,13 @@ std::vector<Row> allRows(const std::vector<ListedCall> &calls, Time now) {
 
 DisplayContent displayContent(const std::vector<ListedCall> &calls, Time now) {
     constexpr size_t kMostRows = 2;
-    std::vector<Row> rows = allRows(calls, now);
+    std::vector<CallRow> rows = allRows(calls, now);
     while (rows.size() > kMostRows) {
-        const auto held = std::ranges::find(rows, true, &Row::isHeld);
+        const auto held = std::ranges::find(rows, true, &CallRow::isHeld);
         rows.erase(held == rows.end() ? rows.begin() : held);
     }
     DisplayContent content;
-    for (Row &row : rows) {
+    for (CallRow &row : rows) {
         content.rows.push_back(std::move(row.texts));
     }
     content.hasOneCall = calls.size() == 1;

@@ -9,8 +9,8 @@
 namespace phone {
 namespace {
 
-constexpr CGFloat kLeft = 35;
-constexpr CGFloat kHeight = 84;
+constexpr CGFloat kTextLeft = 35;
+constexpr CGFloat kCallHeight = 84;
 
 const char *kindOf(const RecentCallFacts &facts) {
     if (!facts.incoming) {
@@ -29,7 +29,7 @@ void PHCallInfoView::define() {
 objc::Owned<UIView> PHCallInfoView::make(const PHRecentCall &call) {
     const CGFloat width = sim::Device::current().screen.width;
     const auto &date = call.facts().date;
-    auto view = makeView<PHCallInfoView>(rect(0, 0, width, kHeight));
+    auto view = makeView<PHCallInfoView>(rect(0, 0, width, kCallHeight));
     const auto addText = [&](const std::string &text, CGRect frame, UIFont font) {
         const auto label = makeLabel(frame, 14, sim::TextAlignment::Left);
         label->setText(sim::string(text));
@@ -41,13 +41,13 @@ objc::Owned<UIView> PHCallInfoView::make(const PHRecentCall &call) {
         line->setBackgroundColor(color(200, 199, 204));
         view->addSubview(line);
     };
-    addLine(kLeft, 0);
-    addText(date ? dayText(*date) : "", rect(kLeft, 16, width - kLeft, 20), boldFont(14));
-    addText(date ? timeText(*date) : "", rect(kLeft, 44, 80, 20), UIFont::systemFontOfSize(14));
-    const CGFloat kindLeft = kLeft + (date ? 80 : 0);
+    addLine(kTextLeft, 0);
+    addText(date ? dayText(*date) : "", rect(kTextLeft, 16, width - kTextLeft, 20), boldFont(14));
+    addText(date ? timeText(*date) : "", rect(kTextLeft, 44, 80, 20), UIFont::systemFontOfSize(14));
+    const CGFloat kindLeft = kTextLeft + (date ? 80 : 0);
     addText(kindOf(call.facts()), rect(kindLeft, 44, width - kindLeft, 20),
             UIFont::systemFontOfSize(14));
-    addLine(kLeft, kHeight - 0.5);
+    addLine(kTextLeft, kCallHeight - 0.5);
     return view;
 }
 

@@ -24,7 +24,7 @@ std::optional<Picture> decoded(const std::filesystem::path &file, double scale) 
 
 /// Files that were read once, with their time of writing. A screen asks for the same few in every
 /// layout pass; decoding takes longer than all the rest of a pass.
-class Decoded {
+class DecodedFiles {
   public:
     static std::optional<Picture> read(const std::filesystem::path &file, double scale) {
         std::error_code missing;
@@ -32,7 +32,7 @@ class Decoded {
         if (missing) {
             return std::nullopt;
         }
-        static Decoded g_files;
+        static DecodedFiles g_files;
         const auto known = g_files.pictures_.find(file);
         if (known != g_files.pictures_.end() && known->second.written == written) {
             return known->second.picture;
@@ -70,10 +70,10 @@ std::optional<Picture> Picture::load(const std::filesystem::path &file) {
         return std::nullopt;
     }
     if (hasDoubleScaleName(file)) {
-        return Decoded::read(file, 2);
+        return DecodedFiles::read(file, 2);
     }
-    auto picture = Decoded::read(doubleScale(file), 2);
-    return picture ? picture : Decoded::read(file, 1);
+    auto picture = DecodedFiles::read(doubleScale(file), 2);
+    return picture ? picture : DecodedFiles::read(file, 1);
 }
 
 Picture::Picture(cairo_surface_t *surface, double scale)
