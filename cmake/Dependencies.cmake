@@ -8,6 +8,7 @@ find_package(ICU REQUIRED COMPONENTS uc)   # ICU::uc
 find_package(GTest REQUIRED)               # GTest::gtest_main, GTest::gmock
 find_package(benchmark REQUIRED)           # benchmark::benchmark_main
 pkg_check_modules(sqlite3 REQUIRED IMPORTED_TARGET sqlite3)         # PkgConfig::sqlite3
+pkg_check_modules(glib REQUIRED IMPORTED_TARGET glib-2.0)           # PkgConfig::glib
 pkg_check_modules(cairo REQUIRED IMPORTED_TARGET cairo)             # PkgConfig::cairo
 pkg_check_modules(spng REQUIRED IMPORTED_TARGET spng)               # PkgConfig::spng
 pkg_check_modules(pangocairo REQUIRED IMPORTED_TARGET pangocairo)   # PkgConfig::pangocairo

@@ -2,6 +2,9 @@
 #include "stage/GalleryPage.hpp"
 
 #include <algorithm>
+#include <memory>
+
+#include <glib.h>
 
 namespace stage {
 namespace {
@@ -92,26 +95,9 @@ std::string heading(const SceneGroup &group) {
 }  // namespace
 
 std::string escapedHtml(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        default:
-            escaped += c;
-        }
-    }
-    return escaped;
+    const std::unique_ptr<char, decltype(&g_free)> escaped(
+        g_markup_escape_text(text.data(), static_cast<gssize>(text.size())), g_free);
+    return escaped.get();
 }
 
 std::string galleryPage(std::span<const SceneGroup> groups, std::span<const Model> models,

@@ -5,26 +5,16 @@
 #include <iostream>
 #include <utility>
 
-#include <sys/ioctl.h>
 #include <unistd.h>
 
+#include "stage/Terminal.hpp"
+
 namespace stage {
-namespace {
-
-/// Asked each time: the user may change it.
-size_t terminalColumns() {
-    constexpr size_t kUsualColumns = 80;
-    winsize size{};
-    const bool known = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return known ? size.ws_col : kUsualColumns;
-}
-
-}  // namespace
 
 std::string progressLine(const std::string &title, uintmax_t percent, size_t columns) {
     std::string number = std::to_string(percent) + " %";
     number.insert(0, 5 - std::min<size_t>(number.size(), 5), ' ');
-    const size_t taken = title.size() + 4 + number.size();  // with blanks and brackets
+    const size_t taken = terminalCells(title) + 4 + number.size();  // with blanks and brackets
     constexpr size_t kShortest = 4;
     if (columns < taken + kShortest + 1) {  // the last column stays free: some terminals wrap there
         return number.size() < columns ? number : "";

@@ -134,9 +134,10 @@ TEST(Dialer, WithoutTheAddOnOrFromIos8OnIsThePhoneApplicationsOwn) {
 }
 
 TEST(Dialer, ShowsNothingWhereTheUserDoesNotWantIt) {
-    const auto world = std::filesystem::path(testing::TempDir()) / "quiet-world.json";
-    std::ofstream(world) << R"({"preferences": {"showNumberArea": false},
-        "marks": [{"number": "17700000061", "label": "诈骗电话", "count": 37}]})";
+    const test::TemporaryFolder folder;
+    const auto world = folder / "quiet-world.json";
+    test::writeFile(world, R"({"preferences": {"showNumberArea": false},
+        "marks": [{"number": "17700000061", "label": "诈骗电话", "count": 37}]})");
     Dialer dialer({.model = {"7.0", "4"}, .world = world});
     dialer.type("17700000061");
     EXPECT_FALSE(dialer.hasRow());

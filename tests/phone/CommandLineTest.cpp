@@ -117,23 +117,24 @@ TEST(CommandLine, NamesTheChoicesInOneLine) {
     }
 }
 
-TEST(TextTable, AlignsChineseTextAndKeepsEachRowOnItsLine) {
+TEST(TextTable, AlignsAnyTextAndKeepsEachRowOnItsLine) {
     stage::TextTable table({"a", "b"});
     table.add({"快递", "1"});
     table.add({"x\ny", "\t2"});
-    EXPECT_EQ(table.str(), "a     b\n----  --\n快递  1\nx y    2\n");
+    table.add({"e\u0301🚕", "3"});
+    EXPECT_EQ(table.str(), "a     b\n----  --\n快递  1\nx y    2\ne\u0301🚕   3\n");
 }
 
 TEST(ProgressBar, FillsTheTerminal) {
     const std::tuple<uintmax_t, size_t, std::string> cases[] = {
-        {0, 25, "reading [        ]   0 %"},
-        {50, 25, "reading [####    ]  50 %"},
-        {100, 21, "reading [####] 100 %"},
-        {99, 20, " 99 %"},
+        {0, 22, "读 a [        ]   0 %"},
+        {50, 22, "读 a [####    ]  50 %"},
+        {100, 18, "读 a [####] 100 %"},
+        {99, 17, " 99 %"},
         {99, 5, ""},
     };
     for (const auto &[percent, columns, line] : cases) {
-        EXPECT_EQ(stage::progressLine("reading", percent, columns), line) << columns;
+        EXPECT_EQ(stage::progressLine("读 a", percent, columns), line) << columns;
     }
 }
 

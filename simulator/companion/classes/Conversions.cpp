@@ -1,37 +1,13 @@
 // Strings go by their UTF-16 units, which every string has, well formed or not.
 #include "companion/classes/Conversions.hpp"
 
+#include <unicode/unistr.h>
+
 #include "companion/numbers/Numbers.hpp"
 
 namespace companion {
 
 namespace {
-
-constexpr char32_t kReplacement = 0xFFFD;
-
-bool isHigh(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-bool isLow(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
-
-void append(std::string &out, char32_t point) {
-    const auto tail = [&](unsigned shift) {
-        out.push_back(static_cast<char>(0x80U | ((point >> shift) & 0x3FU)));
-    };
-    if (point < 0x80) {
-        out.push_back(static_cast<char>(point));
-    } else if (point < 0x800) {
-        out.push_back(static_cast<char>(0xC0U | (point >> 6U)));
-        tail(0);
-    } else if (point < 0x10000) {
-        out.push_back(static_cast<char>(0xE0U | (point >> 12U)));
-        tail(6);
-        tail(0);
-    } else {
-        out.push_back(static_cast<char>(0xF0U | (point >> 18U)));
-        tail(12);
-        tail(6);
-        tail(0);
-    }
-}
 
 class NSData : public NSObject {
   public:
@@ -55,17 +31,8 @@ std::string utf8(NSString string) {
     std::u16string units(string.length(), u'\0');
     string.getCharacters(units.data(), {0, units.size()});
     std::string result;
-    result.reserve(units.size());
-    for (size_t i = 0; i < units.size(); ++i) {
-        char32_t point = units[i];
-        if (isHigh(units[i]) && i + 1 < units.size() && isLow(units[i + 1])) {
-            point = 0x10000 + ((point - 0xD800) << 10U) + (units[++i] - char32_t{0xDC00});
-        } else if (isHigh(units[i]) || isLow(units[i])) {
-            point = kReplacement;
-        }
-        append(result, point);
-    }
-    return result;
+    return icu::UnicodeString(false, units.data(), static_cast<int32_t>(units.size()))
+        .toUTF8String(result);
 }
 
 NSString string(std::string_view utf8) {

@@ -1,45 +1,25 @@
-// Conversion between UTF-16 and UTF-8; unlike iconv or GLib it accepts every
-// sequence of units, because text typed into a phone may be cut in the middle
-// of a surrogate pair.
+// Conversion between UTF-16 and UTF-8 by ICU, which unlike iconv or GLib accepts every sequence of
+// units: text typed into a phone may be cut in the middle of a surrogate pair.
 #include "uikit/drawing/Utf16.hpp"
 
-#include <glib.h>
+#include <memory>
+
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
 
 namespace sim {
 namespace {
 
-constexpr char32_t kReplacement = 0xFFFD;
-
-struct Decoded {
-    char32_t character;
-    std::size_t units;
-};
-
-bool isHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
-
-Decoded decode(std::u16string_view text, std::size_t at) {
-    const char16_t first = text[at];
-    if (isHighSurrogate(first) && at + 1 < text.size() && isLowSurrogate(text[at + 1])) {
-        const char32_t high = first - 0xD800U;
-        const char32_t low = text[at + 1] - 0xDC00U;
-        return {0x10000U + (high << 10U) + low, 2};
-    }
-    if (isHighSurrogate(first) || isLowSurrogate(first)) {
-        return {kReplacement, 1};
-    }
-    return {first, 1};
+/// Copies nothing: the text has to outlive it.
+icu::UnicodeString unitsOf(std::u16string_view text) {
+    return {false, std::to_address(text.begin()), static_cast<int32_t>(text.size())};
 }
 
-void append(std::string &bytes, char32_t character) {
-    char buffer[6];
-    const int length = g_unichar_to_utf8(character, buffer);
-    bytes.append(buffer, static_cast<std::size_t>(length));
-}
-
-bool isControl(char32_t character) {
-    return character < 0x20 || (character >= 0x7F && character < 0xA0) || character == 0x2028 ||
-           character == 0x2029;
+bool isControl(UChar32 character) {
+    constexpr UChar32 kLineSeparator = 0x2028;
+    constexpr UChar32 kParagraphSeparator = 0x2029;
+    return u_isISOControl(character) != 0 || character == kLineSeparator ||
+           character == kParagraphSeparator;
 }
 
 }  // namespace
@@ -47,45 +27,26 @@ bool isControl(char32_t character) {
 DrawableText drawableText(std::u16string_view text) {
     DrawableText result;
     result.utf8.reserve(text.size() * 3);
-    for (std::size_t at = 0; at < text.size();) {
-        const Decoded decoded = decode(text, at);
-        append(result.utf8, isControl(decoded.character) ? U' ' : decoded.character);
-        result.unitOfByte.resize(result.utf8.size(), at);
-        result.unitOfChar.push_back(at);
-        at += decoded.units;
+    const icu::UnicodeString units = unitsOf(text);
+    for (int32_t at = 0; at < units.length(); at = units.moveIndex32(at, 1)) {
+        const UChar32 character = units.char32At(at);
+        icu::UnicodeString(isControl(character) ? UChar32{' '} : character)
+            .toUTF8String(result.utf8);
+        const auto unit = static_cast<std::size_t>(at);
+        result.unitOfByte.resize(result.utf8.size(), unit);
+        result.unitOfChar.push_back(unit);
     }
     return result;
 }
 
 std::string utf8(std::u16string_view text) {
     std::string result;
-    result.reserve(text.size() * 3);
-    for (std::size_t at = 0; at < text.size();) {
-        const Decoded decoded = decode(text, at);
-        append(result, decoded.character);
-        at += decoded.units;
-    }
-    return result;
+    return unitsOf(text).toUTF8String(result);
 }
 
 std::u16string utf16(std::string_view text) {
-    std::u16string result;
-    result.reserve(text.size());
-    const char *cursor = text.data();
-    const char *const end = cursor + text.size();
-    while (cursor < end) {
-        const gunichar read = g_utf8_get_char_validated(cursor, end - cursor);
-        const bool malformed = read >= 0x80000000U;
-        const char32_t character = malformed ? kReplacement : static_cast<char32_t>(read);
-        cursor = malformed ? cursor + 1 : g_utf8_next_char(cursor);
-        if (character < 0x10000) {
-            result.push_back(static_cast<char16_t>(character));
-        } else {
-            result.push_back(static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10U)));
-            result.push_back(static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FFU)));
-        }
-    }
-    return result;
+    const icu::UnicodeString units = icu::UnicodeString::fromUTF8(text);
+    return {units.getBuffer(), static_cast<std::size_t>(units.length())};
 }
 
 }  // namespace sim

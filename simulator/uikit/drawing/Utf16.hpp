@@ -25,8 +25,7 @@ DrawableText drawableText(std::u16string_view text);
 /// character.
 std::string utf8(std::u16string_view text);
 
-/// The UTF-16 of valid UTF-8; a malformed byte becomes the replacement
-/// character.
+/// The UTF-16 of UTF-8; what is malformed becomes the replacement character.
 std::u16string utf16(std::string_view text);
 
 }  // namespace sim
