@@ -9,7 +9,7 @@ if(PACKAGE)
     string(APPEND outcome ", the package to install ${PACKAGE}")
     list(APPEND commands
         COMMAND ${RUN_PYTHON} -m checker.check_package "${PACKAGE}" --library "${LIBRARY}"
-            --version ${PROJECT_VERSION} --root "${SOURCE_ROOT}")
+            --version ${PROJECT_VERSION})
 else()
     string(APPEND outcome " of ${SLICES} alone, without a package, which must serve every phone")
 endif()
