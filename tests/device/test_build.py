@@ -115,6 +115,7 @@ class BuildFaults(Scratch):
         broken = self.folder / "linked.dylib"
         for data, fault in faults:
             with self.subTest(fault):
+                self.assertNotEqual(data, linked)
                 broken.write_bytes(data)
                 self.refused(
                     [f"finish_dylib: {broken}: {fault}"],

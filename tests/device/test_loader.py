@@ -147,6 +147,7 @@ class LoaderFaults(Scratch):
         data = bytearray(self.library)
         for at, new in changes:
             start = self.slices[arch][0].offset + at
+            self.assertNotEqual(data[start : start + len(new)], new, "this change is none")
             data[start : start + len(new)] = new
         self.broken.write_bytes(data)
 
