@@ -76,15 +76,18 @@ Run &currentRun() {
 
 }  // namespace
 
-void open(const Settings &settings) {
+std::size_t open(const Settings &settings) {
+    constexpr double kRead = 0.6;  // writing to the disk is quicker than reading
     const World world =
-        World::read(settings.worldFile.empty() ? sampleWorldFile() : settings.worldFile);
+        World::read(settings.worldFile.empty() ? sampleWorldFile() : settings.worldFile,
+                    within(settings.progress, 0, kRead));
+    const Progress storing = within(settings.progress, kRead, 1);
     std::unique_ptr<Store> opened;
     if (settings.dataDir.empty()) {
         opened = std::make_unique<Store>();
-        opened->load(world);
+        opened->load(world, storing);
     } else {
-        opened = std::make_unique<Store>(settings.dataDir, world);
+        opened = std::make_unique<Store>(settings.dataDir, world, storing);
         forgetLogos(settings.dataDir);
     }
     // Absolute, since the paths are handed out and the process may change its folder.
@@ -99,6 +102,7 @@ void open(const Settings &settings) {
     run.worldFile = absolute(settings.worldFile);
     run.pictures = world.pictures;
     run.journal = {};
+    return world.entries();
 }
 
 Store &store() { return *currentRun().store; }

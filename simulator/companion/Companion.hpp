@@ -18,6 +18,7 @@ struct Settings {
     std::filesystem::path worldFile{};    ///< empty: the sample world
     std::filesystem::path dataDir{};      ///< empty: nothing is kept, no logo can be downloaded
     std::filesystem::path resourceDir{};  ///< empty: the pictures beside this library
+    Progress progress{};                  ///< told of the opening
 };
 
 /// One question for a number's identity, as it was asked.
@@ -46,9 +47,10 @@ struct Journal {
     int preferenceInitializations = 0;
 };
 
-/// Starts a run. Throws WorldError or StoreError, each with a message of one line; the companion is
-/// then as it was before. A companion that is never opened knows no world and keeps nothing.
-void open(const Settings &settings);
+/// Starts a run; returns how many entries its world has. Throws WorldError or StoreError, each with
+/// a message of one line; the companion is then as it was before. A companion that is never opened
+/// knows no world and keeps nothing.
+std::size_t open(const Settings &settings);
 
 /// The store of the run.
 Store &store();

@@ -193,7 +193,7 @@ void readRecords(std::istream &in, ProgressBar &progress, CallsByDate &calls, Mi
 
 }  // namespace
 
-std::vector<RecentCall> readCallsFile(const fs::path &file, const Warn &warn) {
+std::vector<RecentCall> readCallsFile(const fs::path &file, const Warn &warn, bool withProgress) {
     std::ifstream in = opened(file);
     std::error_code sizeless;
     const uintmax_t size = fs::file_size(file, sizeless);
@@ -201,7 +201,8 @@ std::vector<RecentCall> readCallsFile(const fs::path &file, const Warn &warn) {
     Mistakes mistakes(file);
     LostNames lost;
     {
-        ProgressBar progress("reading " + file.filename().string(), sizeless ? 0 : size);
+        ProgressBar progress("reading " + file.filename().string(),
+                             sizeless || !withProgress ? 0 : size);
         try {
             readRecords(in, progress, byDate, mistakes, lost);
         } catch (const CsvError &error) {
@@ -213,6 +214,7 @@ std::vector<RecentCall> readCallsFile(const fs::path &file, const Warn &warn) {
     }
     mistakes.throwIfAny();
     lost.tell(file, warn);
+    tellIfLong(warn, file, byDate.size());
     std::vector<RecentCall> calls;
     calls.reserve(byDate.size());
     for (auto &[date, call] : byDate) {

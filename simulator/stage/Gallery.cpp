@@ -118,6 +118,7 @@ Settings sideOf(const Settings &settings, const Model &model, bool withAddOn) {
     side.model = model;
     side.withAddOn = withAddOn;
     side.pace = kPace;
+    side.withProgress = false;  // the gallery has a bar of its own
     // Two runs at a time cannot share a store.
     side.data = (settings.data.empty() ? defaultDataFolder() : settings.data) / model.slug();
     return side;

@@ -25,6 +25,13 @@ std::string progressLine(const std::string &title, uintmax_t percent, size_t col
     return title + " [" + bar + "] " + number;
 }
 
+void tellIfLong(const Warn &told, const std::filesystem::path &file, size_t entries) {
+    constexpr size_t kLong = 100'000;
+    if (told && entries >= kLong) {
+        told(file.string() + ": " + std::to_string(entries) + " entries read");
+    }
+}
+
 ProgressBar::ProgressBar(std::string title, uintmax_t total)
     : title_(std::move(title)), total_(isatty(STDERR_FILENO) != 0 ? total : 0) {}
 

@@ -1,15 +1,22 @@
 // How far a long piece of work has come, on the terminal.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
+
+#include "stage/Errors.hpp"
 
 namespace stage {
 
 /// One line for a terminal of so many columns; the bar gives way to the number, and that to
 /// nothing.
 std::string progressLine(const std::string &title, uintmax_t percent, size_t columns);
+
+/// Where no bar is seen, a line tells that reading a long file is over.
+void tellIfLong(const Warn &told, const std::filesystem::path &file, size_t entries);
 
 class ProgressBar {
   public:

@@ -31,7 +31,7 @@ void printOpened(std::ostream &out, size_t known) {
 
 Session::Session(const Settings &settings) : settings_(settings) {
     if (!settings.calls.empty()) {
-        calls_ = readCallsFile(settings.calls, settings.warn);
+        calls_ = readCallsFile(settings.calls, settings.warn, settings.withProgress);
     }
     prepareProcess(settings);
     window_ = std::make_unique<PhoneWindow>(settings.model.screenSize());

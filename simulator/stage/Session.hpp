@@ -34,7 +34,8 @@ struct Settings {
     std::filesystem::path calls{};  // of the recents list; empty: the world's
     std::string bundleIdentifier = "com.apple.mobilephone";
     double pace = 1;  // real seconds that a simulated second takes
-    Warn warn{};      // told what of the user's files is passed over
+    Warn warn{};      // told what of the user's files is passed over, and that much was read
+    bool withProgress = true;  // of reading them, on a terminal
 };
 
 class Session {

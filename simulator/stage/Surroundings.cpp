@@ -14,6 +14,7 @@
 #include "stage/DelayedMessages.hpp"
 #include "stage/Errors.hpp"
 #include "stage/MainBundle.hpp"
+#include "stage/ProgressBar.hpp"
 #include "stage/Session.hpp"
 #include "stage/SystemLog.hpp"
 #include "substrate/HookLog.hpp"
@@ -83,6 +84,21 @@ void fillContactBook() {
     }
 }
 
+size_t openWith(const Settings &settings, const companion::Progress &progress) {
+    const size_t entries = companion::open({settings.world, dataFolder(settings), {}, progress});
+    fillContactBook();
+    return entries;
+}
+
+/// As openWorld() does, which brings it back later; a bar shows how far a world of the user's is.
+size_t openWorldVisibly(const Settings &settings) {
+    constexpr uintmax_t kTotal = 100;
+    ProgressBar bar("reading " + settings.world.filename().string(),
+                    settings.world.empty() || !settings.withProgress ? 0 : kTotal);
+    return openWith(settings,
+                    [&bar](double part) { bar.show(static_cast<uintmax_t>(part * kTotal)); });
+}
+
 void loadAddOn() {
     const fs::path folder = phone::installFolder() / "lib";
     if (!fs::exists(folder / "libZQDial.so")) {
@@ -96,10 +112,7 @@ void loadAddOn() {
 
 fs::path defaultDataFolder() { return phone::installFolder() / "demo" / "data"; }
 
-void openWorld(const Settings &settings) {
-    companion::open({settings.world, dataFolder(settings), {}});
-    fillContactBook();
-}
+void openWorld(const Settings &settings) { openWith(settings, {}); }
 
 void announceNewData() {
     objc::send<void(NSString, NSDictionary)>("ZQIPCService"_cls, "postMsg:withInfo:"_sel,
@@ -129,7 +142,8 @@ void prepareProcess(const Settings &settings) {
     time.setPace(settings.pace);
     time.letPass({});
     DelayedMessages::shared().forgetAll();
-    openWorld(settings);
+    const size_t entries = openWorldVisibly(settings);
+    tellIfLong(settings.warn, settings.world, entries);
     warnOfPictures(settings);
     if (settings.withAddOn) {
         loadAddOn();

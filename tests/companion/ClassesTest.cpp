@@ -145,6 +145,23 @@ TEST_F(Companion, ARunThatCannotBeOpenedLeavesTheOneBefore) {
     EXPECT_TRUE(logoFile(5012).empty());
 }
 
+TEST_F(Companion, TellsHowFarTheOpeningIs) {
+    std::string marks;
+    for (int i = 0; i < 20'000; ++i) {
+        marks += (i == 0 ? "" : ",") +
+                 (R"({"label": "a", "count": 1, "number": ")" + std::to_string(95000 + i) + "\"}");
+    }
+    test::writeFile(folder_ / "big.json", R"({"contacts": [], "marks": [)" + marks + "]}");
+    std::vector<double> parts;
+    const auto note = [&](double part) { parts.push_back(part); };
+    EXPECT_EQ(open({folder_ / "big.json", folder_ / "big", {}, note}), 20'000U);
+    EXPECT_TRUE(std::ranges::is_sorted(parts));
+    EXPECT_THAT(parts, testing::Each(testing::AllOf(testing::Gt(0), testing::Le(1))));
+    for (const double part : {0.1, 0.5, 0.9}) {
+        EXPECT_THAT(parts, testing::Contains(testing::DoubleNear(part, 0.1)));
+    }
+}
+
 TEST_F(Companion, IdentitiesCarryTheirRecord) {
     const NSObject mark = identityOf("+86 177 0000 0061"_ns);
     EXPECT_EQ(text(mark, "number"_ns), "17700000061");

@@ -104,6 +104,22 @@ sqlite3_stmt *Database::prepared(std::string_view sql) {
     return slot.get();
 }
 
+RowWatch::RowWatch(Database &database, std::function<void(std::int64_t)> told)
+    : connection_(database.connection_.get()),
+      before_(sqlite3_total_changes(connection_)),
+      told_(std::move(told)) {
+    constexpr int kInstructions = 50'000;  // between two calls
+    sqlite3_progress_handler(connection_, kInstructions, &RowWatch::tell, this);
+}
+
+RowWatch::~RowWatch() { sqlite3_progress_handler(connection_, 0, nullptr, nullptr); }
+
+int RowWatch::tell(void *self) {
+    const auto &watch = *static_cast<const RowWatch *>(self);
+    watch.told_(sqlite3_total_changes(watch.connection_) - watch.before_);
+    return 0;  // go on
+}
+
 Transaction::Transaction(Database &database) : open_(&database) {
     database.execute("BEGIN IMMEDIATE");
 }

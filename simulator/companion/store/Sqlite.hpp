@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -86,6 +87,7 @@ class Database {
     }
 
   private:
+    friend class RowWatch;
     struct Close {
         void operator()(sqlite3 *connection) const { sqlite3_close_v2(connection); }
     };
@@ -96,6 +98,22 @@ class Database {
 
     std::unique_ptr<sqlite3, Close> connection_;
     std::unordered_map<std::string_view, std::unique_ptr<sqlite3_stmt, Finalize>> prepared_;
+};
+
+/// As long as it lives, `told` hears now and then how many rows have been written since.
+class RowWatch {
+  public:
+    RowWatch(Database &database, std::function<void(std::int64_t)> told);
+    RowWatch(const RowWatch &) = delete;
+    RowWatch &operator=(const RowWatch &) = delete;
+    ~RowWatch();
+
+  private:
+    static int tell(void *self);
+
+    sqlite3 *connection_;
+    std::int64_t before_;
+    std::function<void(std::int64_t)> told_;
 };
 
 /// All or nothing: rolled back at scope end unless committed.

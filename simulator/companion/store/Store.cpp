@@ -1,6 +1,7 @@
 // Everything that writes; the lookups are in StoreLookups.cpp.
 #include "companion/store/Store.hpp"
 
+#include <algorithm>
 #include <string>
 
 #include "companion/numbers/Numbers.hpp"
@@ -119,9 +120,9 @@ void insertCalls(Database &database, const World &world) {
 
 Store::Store() : file_(":memory:"), database_(file_.string()) { load(World()); }
 
-Store::Store(const std::filesystem::path &dataDir, const World &world)
+Store::Store(const std::filesystem::path &dataDir, const World &world, const Progress &progress)
     : file_(storeFile(dataDir)), database_(openStoreFile(dataDir)) {
-    load(world);
+    load(world, progress);
 }
 
 template <class Work>
@@ -133,7 +134,12 @@ void Store::write(const Work &work) {
     }
 }
 
-void Store::load(const World &world) {
+void Store::load(const World &world, const Progress &progress) {
+    const RowWatch watch(database_, [&, most = world.entries()](std::int64_t rows) {
+        if (progress) {
+            progress(std::min(static_cast<double>(rows) / static_cast<double>(most), 1.0));
+        }
+    });
     write([&] {
         Transaction transaction(database_);
         database_.execute(kDropTables);

@@ -21,10 +21,10 @@ class Store {
     /// An empty store that lives in memory and ends with the object.
     Store();
     /// The store in a folder, loaded with the world; see openStoreFile() for its errors.
-    Store(const std::filesystem::path &dataDir, const World &world);
+    Store(const std::filesystem::path &dataDir, const World &world, const Progress &progress = {});
 
     /// Replaces everything by the world, in one transaction: after an error the old content stands.
-    void load(const World &world);
+    void load(const World &world, const Progress &progress = {});
 
     bool showNumberArea();
     void setShowNumberArea(bool shown);

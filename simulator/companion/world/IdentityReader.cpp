@@ -45,6 +45,10 @@ Identity WorldReader::identityAt(const JsonPlace &entry, IdentityOrigin origin, 
     if (!isNew) {
         entry["number"].fail("a number that " + known->second + " does not describe already");
     }
+    constexpr std::size_t kSeldom = 1024;
+    if (describedAt_.size() % kSeldom == 0 && progress_) {
+        progress_(static_cast<double>(describedAt_.size()) / static_cast<double>(entries_));
+    }
     return identity;
 }
 

@@ -67,7 +67,8 @@ std::string detail(std::string text) {
 /// as somebody watches it, and a list may be long.
 class Builder final : public json::json_sax_t {
   public:
-    explicit Builder(std::istream &in) : in_(in) {}
+    Builder(std::istream &in, std::size_t size, const Progress &progress)
+        : in_(in), size_(static_cast<double>(size)), progress_(progress) {}
 
     bool null() override { return add(nullptr); }
     bool boolean(bool value) override { return add(value); }
@@ -123,6 +124,10 @@ class Builder final : public json::json_sax_t {
         return place = std::move(value);
     }
     bool add(json value) {
+        constexpr std::size_t kSeldom = 4096;
+        if (++values_ % kSeldom == 0 && progress_) {
+            progress_(static_cast<double>(in_.tellg()) / size_);
+        }
         added(std::move(value));
         return true;
     }
@@ -147,6 +152,9 @@ class Builder final : public json::json_sax_t {
     }
 
     std::istream &in_;
+    double size_;  // in bytes
+    const Progress &progress_;
+    std::size_t values_ = 0;
     json document_;
     std::vector<Open> open_;  // from the outermost inwards
     std::optional<Repeated> repeated_;
@@ -155,10 +163,10 @@ class Builder final : public json::json_sax_t {
 
 }  // namespace
 
-json readJsonFile(const std::filesystem::path &file) {
+json readJsonFile(const std::filesystem::path &file, const Progress &progress) {
     const std::string text = readText(file);
     std::istringstream in(text);
-    Builder builder(in);
+    Builder builder(in, text.size(), progress);
     if (!json::sax_parse(in, &builder)) {
         const auto &[byte, reason] = builder.mistake();
         throw WorldError(file.string() + ": " + position(text, byte) + ": not JSON: " + reason);

@@ -5,11 +5,13 @@
 
 #include <nlohmann/json_fwd.hpp>
 
+#include "companion/world/World.hpp"
+
 namespace companion {
 
 /// The document in a file. Throws WorldError, one line naming the file, when it cannot be read,
 /// is no JSON (with line and column) or gives one key twice in the same object (with line and
 /// place).
-nlohmann::json readJsonFile(const std::filesystem::path &file);
+nlohmann::json readJsonFile(const std::filesystem::path &file, const Progress &progress = {});
 
 }  // namespace companion

@@ -89,6 +89,14 @@ JsonPlace JsonPlace::operator[](std::string_view key) const {
     return {member, file_, place_ + "/" + std::string(key)};
 }
 
+std::size_t JsonPlace::entries() const {
+    std::size_t count = 0;
+    for (const json &member : *value_) {
+        count += member.is_array() ? member.size() : 0;
+    }
+    return count;
+}
+
 std::vector<JsonPlace> JsonPlace::items() const {
     std::vector<JsonPlace> result;
     if (value_ == nullptr) {

@@ -31,6 +31,8 @@ class JsonPlace {
     bool isNull() const;
     /// The member of an object. A missing member is a place too; reading from it fails.
     JsonPlace operator[](std::string_view key) const;
+    /// Of all lists that are members of this object.
+    std::size_t entries() const;
     /// The elements of a list; a missing list is an empty one.
     std::vector<JsonPlace> items() const;
 

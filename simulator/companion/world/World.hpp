@@ -1,7 +1,9 @@
 // Everything that is known at the start of one run: people, numbers, calls, cloud answers.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <stdexcept>
 #include <vector>
 
@@ -16,6 +18,12 @@ class WorldError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
+
+/// Told now and then what part of a long piece of work is done, from 0 to 1; may be empty.
+using Progress = std::function<void(double)>;
+
+/// For a piece of that work, from one part of the whole to another.
+Progress within(const Progress &whole, double from, double to);
 
 struct World {
     bool showNumberArea = true;
@@ -35,7 +43,10 @@ struct World {
 
     /// Reads a JSON file in the format of docs/world.md. Nothing is read in part: a file with any
     /// mistake throws WorldError.
-    static World read(const std::filesystem::path &file);
+    static World read(const std::filesystem::path &file, const Progress &progress = {});
+
+    /// Of all the lists above.
+    std::size_t entries() const;
 };
 
 }  // namespace companion

@@ -37,10 +37,24 @@ void checkCloudAnswer(const JsonPlace &answer) {
 
 }  // namespace
 
-World World::read(const std::filesystem::path &file) {
-    const nlohmann::json document = readJsonFile(file);
+Progress within(const Progress &whole, double from, double to) {
+    if (!whole) {
+        return {};
+    }
+    return [whole, from, to](double part) { whole(from + part * (to - from)); };
+}
+
+World World::read(const std::filesystem::path &file, const Progress &progress) {
+    constexpr double kParsed = 0.6;  // checking is quicker than parsing
+    const nlohmann::json document = readJsonFile(file, within(progress, 0, kParsed));
     const std::string name = file.string();
-    return WorldReader().read(JsonPlace(document, name));
+    return WorldReader(within(progress, kParsed, 1)).read(JsonPlace(document, name));
+}
+
+std::size_t World::entries() const {
+    return contacts.size() + identities.size() + partners.size() + blackList.size() +
+           microblogs.size() + history.size() + storedCalls.size() + recents.size() +
+           cloudAnswers.size();
 }
 
 World WorldReader::read(const JsonPlace &root) {
@@ -50,6 +64,7 @@ World WorldReader::read(const JsonPlace &root) {
                        "labels",         "foreign",     "blackList",  "microblogs",
                        "history",        "storedCalls", "recents",    "cloudAnswers"});
     root["about"].textOr("");
+    entries_ = root.entries();
     if (root.has("preferences")) {
         root["preferences"].expectObject({"showNumberArea"});
         world_.showNumberArea = root["preferences"]["showNumberArea"].booleanOr(true);

@@ -13,6 +13,9 @@ namespace companion {
 /// Fills a world from a document, section by section; throws WorldError at the first mistake.
 class WorldReader {
   public:
+    /// `progress` is told of numbers, of which there are mostly far more than of anything else.
+    explicit WorldReader(Progress progress = {}) : progress_(std::move(progress)) {}
+
     World read(const JsonPlace &root);
 
   private:
@@ -38,6 +41,8 @@ class WorldReader {
     /// The name of a picture, noted among those of the world; empty when the member is missing.
     std::string pictureAt(const JsonPlace &place);
 
+    Progress progress_;
+    std::size_t entries_ = 0;  // of the document
     World world_;
     std::map<std::int32_t, std::string> partnerNames_;  // by their ids
     std::map<std::pair<IdentityOrigin, std::string>, std::string> describedAt_;
