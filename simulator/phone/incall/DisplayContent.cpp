@@ -66,6 +66,7 @@ DisplayContent displayContent(const std::vector<ListedCall> &calls, Time now) {
     }
     content.hasOneCall = calls.size() == 1;
     if (content.hasOneCall) {
+        content.isContact = !calls.front().caller.label.empty();
         content.picture = calls.front().caller.picture;
         content.wallpaper = calls.front().caller.wallpaper;
     }
@@ -74,6 +75,7 @@ DisplayContent displayContent(const std::vector<ListedCall> &calls, Time now) {
 
 DisplayContent endedContent(const ListedCall &call) {
     return {.rows = {{call.caller.name, "通话结束"}},
+            .isContact = !call.caller.label.empty(),
             .hasOneCall = true,
             .picture = call.caller.picture,
             .wallpaper = call.caller.wallpaper};

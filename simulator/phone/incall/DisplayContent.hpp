@@ -17,6 +17,7 @@ struct DisplayRow {
 
 struct DisplayContent {
     std::vector<DisplayRow> rows{};     // none, one or two
+    bool isContact = false;             // the only caller
     bool hasOneCall = false;            // one row is no sign of it: merged calls have one as well
     std::filesystem::path picture{};    // of the only caller; empty for none
     std::filesystem::path wallpaper{};  // likewise

@@ -42,10 +42,13 @@ struct DisplayPlan {
     CGFloat textPoints, smallTextPoints, labelPoints;
 };
 
+// No source tells a label's height. On 7.1 the add-on's icon stands in the middle of a contact's,
+// which makes it 21 or 15; a field's for anybody else ends where the add-on's line begins, 17 or 12
+// points below its top.
 constexpr DisplayPlan kTallView = {10, 40, 53, 21, 12, 74, 32, 20, 16};
 constexpr DisplayPlan kShortView = {8, 36, 46, 17, 5, 74, 28, 18, 14};
-constexpr DisplayPlan kTallField = {19, 30, 50, 19, 20, 74, 24, 18, 14};
-constexpr DisplayPlan kShortField = {13, 22, 39, 15, 15, 67, 18, 18, 12};
+constexpr DisplayPlan kTallField = {19, 30, 51, 17, 20, 74, 24, 18, 14};
+constexpr DisplayPlan kShortField = {13, 22, 40, 12, 15, 67, 18, 18, 12};
 
 const DisplayPlan &plan(const DisplayLook &look) {
     if (look.display == Display::View) {
@@ -122,12 +125,12 @@ DisplayFrames displayFrames(const DisplayLook &look) {
     }
     constexpr CGFloat kImageRight = 300;
     constexpr CGFloat kTextBesideImage = 190;
-    constexpr CGFloat kLabelBesideImage = 21;  // high, on every screen
+    const CGFloat contactsLabel = look.hasImage || look.isTall ? 21 : 15;
     const DisplayPlan &p = plan(look);
     const CGFloat width = look.hasImage ? kTextBesideImage : kWidth - 2 * kMargin;
     DisplayFrames frames{};
     frames.text = rect(kMargin, p.textY, width, p.textHeight);
-    const CGFloat labelHeight = look.hasImage ? kLabelBesideImage : p.labelHeight;
+    const CGFloat labelHeight = look.hasImage || look.isContact ? contactsLabel : p.labelHeight;
     frames.label = rect(kMargin, p.labelY + (p.labelHeight - labelHeight) / 2, width, labelHeight);
     frames.image = rect(kImageRight - p.imageSide, p.imageY, p.imageSide, p.imageSide);
     frames.textPoints = p.textPoints;

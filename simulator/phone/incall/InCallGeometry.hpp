@@ -46,6 +46,7 @@ struct DisplayLook {
     Display display = Display::View;
     bool isTall = true;
     bool hasImage = false;
+    bool isContact = false;  // whose label gets the add-on's icon
     bool hasTwoRows = false;
 };
 

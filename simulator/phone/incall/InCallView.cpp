@@ -98,6 +98,7 @@ void InCallView::show(const DisplayContent &content, InCallKeys keys) {
     objc::send<void(UIImage, bool)>(wallpaper_.get(), "setContactImage:animated:"_sel,
                                     load(content.wallpaper), true);
     objc::send<void(UIImage)>(display_.get(), "setImage:"_sel, image);
+    objc::send<void(bool)>(display_.get(), "setShowsContact:"_sel, content.isContact);
     objc::send<void(bool)>(display_.get(), "setCenterText:"_sel, content.hasOneCall && !image);
     showRows(content);
     showKeys(keys);

@@ -2,6 +2,7 @@
 #include "phone/incall/TPLCDView.hpp"
 
 #include "phone/incall/TPLCDTextView.hpp"
+#include "uikit/Device.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 
@@ -58,6 +59,7 @@ void TPLCDView::define() {
                                   .method("setSecondText:"_sel, member<&Self::setSecondText>)
                                   .method("setSecondLabel:"_sel, member<&Self::setSecondLabel>)
                                   .method("setImage:"_sel, member<&Self::setImage>)
+                                  .method("setShowsContact:"_sel, member<&Self::setShowsContact>)
                                   .method("setCenterText:"_sel, member<&Self::setCenterText>)
                                   .finish());
 }
@@ -120,6 +122,11 @@ void TPLCDView::setImage(UIImage image) {
     setNeedsLayout();
 }
 
+void TPLCDView::setShowsContact(bool isContact) {
+    isContact_ = isContact;
+    setNeedsLayout();
+}
+
 void TPLCDView::setCenterText(bool centred) {
     centred_ = centred;
     setNeedsLayout();
@@ -135,8 +142,11 @@ void TPLCDView::placeImage(CGRect frame) const {
 }
 
 void TPLCDView::layoutSubviews() {
-    const DisplayFrames frames = displayFrames(
-        {display_, currentInCallLook().isTall(), static_cast<bool>(imageView_), hasTwoRows_});
+    // Before 7.1 the add-on's line is below a contact's label, too.
+    const bool isContact = isContact_ && sim::Device::current().isAtLeast(7, 1);
+    const DisplayFrames frames =
+        displayFrames({display_, currentInCallLook().isTall(), static_cast<bool>(imageView_),
+                       isContact, hasTwoRows_});
     const bool centred = centred_ && !hasTwoRows_;
     contentView_->setFrame(asView(*this).bounds());
     place({textView_, labelView_}, frames.text, frames.label, frames, centred);

@@ -27,6 +27,8 @@ class TPLCDView : public TPLCDBar {
     void setSecondLabel(NSString label);
     /// The contact's picture; nil takes it away.
     void setImage(UIImage image);
+    /// Whether the only call is a contact's.
+    void setShowsContact(bool isContact);
     /// Whether a single call's name and label stand in the middle or at the left. Those of two
     /// calls always stand at the left.
     void setCenterText(bool centred);
@@ -51,6 +53,7 @@ class TPLCDView : public TPLCDBar {
     objc::Owned<UIView> contentView_;
     Display display_ = Display::View;
     bool hasTwoRows_ = false;
+    bool isContact_ = false;
     bool centred_ = true;
 };
 
