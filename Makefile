@@ -1,7 +1,7 @@
 # The everyday commands. Each installs the Debian packages it needs, if any are missing, and builds
 # what it works on; none needs an environment variable.
 .PHONY: help demo test build bench asan tsan clang format lint contract device device-test \
-	reproducible
+	reproducible packages-all
 
 # The slices of the library that "make device" builds, and the host that its web search asks; empty:
 # as in src/recents/Actions.cpp.
@@ -11,6 +11,7 @@ SEARCH_HOST =
 help:
 	@echo 'make demo          build, draw every scene into build/demo, describe some numbers'
 	@echo 'make test          build, run the tests'
+	@echo 'make build         build library, simulator, tests and benchmarks into build/'
 	@echo 'make bench         build, run the benchmarks'
 	@echo 'make asan          run the tests under the address, undefined-behaviour and leak checks'
 	@echo 'make tsan          run the tests under the thread checks'
@@ -18,9 +19,17 @@ help:
 	@echo 'make format        format the sources'
 	@echo 'make lint          check format and style of the sources'
 	@echo 'make contract      check what libZQDial.so shows and takes'
-	@echo 'make device        build the library for iOS and its package into build/device, check them'
+	@echo 'make device        build the library for iOS and its package into build/device, check them;'
+	@echo '                   SLICES=arm64 one slice alone, SEARCH_HOST=name where its search leads'
 	@echo 'make device-test   run it on emulated processors, and break it on purpose to see that noticed'
 	@echo 'make reproducible  build it a second time elsewhere, and compare'
+	@echo 'make packages-all  install the packages of all of these; packages-GROUP: one of packages.txt'
+	@echo '.ci/run            everything that has to pass before a change lands'
+	@echo
+	@echo 'CONTRIBUTING.md says how to run one test, one sanitizer, one benchmark.'
+
+packages-all: packages-build packages-lint packages-device packages-armv7 packages-qemu \
+	packages-qemu-armv7
 
 packages-%:
 	@tools/install-packages.sh $*
