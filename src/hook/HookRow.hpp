@@ -59,20 +59,20 @@ constexpr HookRow row(Group group, const char *className, objc::Selector<selecto
     };
 }
 
-/// No method is replaced twice on one system.
+/// The first row whose method another one before it replaces on the same system; `count` for none.
 template <size_t count>
-constexpr bool noDuplicates(const std::array<HookRow, count> &rows) {
+constexpr size_t firstRepeated(const std::array<HookRow, count> &rows) {
     for (size_t i = 0; i < count; ++i) {
-        for (size_t k = i + 1; k < count; ++k) {
+        for (size_t k = 0; k < i; ++k) {
             const bool sameMethod = std::string_view(rows[i].className) == rows[k].className &&
                                     std::string_view(rows[i].selectorName) == rows[k].selectorName;
             const bool apart = (rows[i].gate == Gate::From80) != (rows[k].gate == Gate::From80);
             if (sameMethod && !apart) {
-                return false;
+                return i;
             }
         }
     }
-    return true;
+    return count;
 }
 
 }  // namespace hook

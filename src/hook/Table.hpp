@@ -66,11 +66,20 @@ inline constexpr std::array kRows{
         with<&replace_UITableViewCellScrollView_setContentOffset_>),
 };
 
-static_assert(noDuplicates(kRows));
+inline constexpr size_t kRepeatedRow = firstRepeated(kRows);  // the compiler shows it
+static_assert(kRepeatedRow == kRows.size(),
+              "the row of this number, counted from 0, replaces what an earlier one does: mend or "
+              "merge them");
 #if defined(OBJC_LEDGER)
-static_assert(std::ranges::all_of(kRows, [](const HookRow &row) {
+inline constexpr auto kIsListed = [](const HookRow &row) {
     return members::isReplaceable(row.className, row.selectorName, row.encoding);
-}));
+};
+inline constexpr size_t kUnlistedRow =
+    static_cast<size_t>(std::ranges::find_if_not(kRows, kIsListed) - kRows.begin());
+static_assert(
+    kUnlistedRow == kRows.size(),
+    "the method of the row of this number, counted from 0, is not in src/members/Apple.hpp "
+    "with the replacement's types: list it there");
 #endif
 
 }  // namespace hook

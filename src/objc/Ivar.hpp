@@ -67,7 +67,7 @@ T read(id object, InstanceVariable<name>) {
     static_assert(std::is_arithmetic_v<Value> || std::is_same_v<Value, id>);
 #if defined(OBJC_LEDGER)
     static_assert(members::isListedVariable(name.chars, encoding<T>().chars),
-                  "no class is listed with this variable of this type");
+                  "no class is listed with this variable of this type: list it in src/members");
 #endif
     if (!object) {
         return T();

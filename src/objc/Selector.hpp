@@ -48,7 +48,8 @@ struct ClassName {
     /// remembered, so one that is registered later is found later.
     static Class get() {
 #if defined(OBJC_LEDGER)
-        static_assert(members::isListedClass(name.chars), "no class of this name is listed");
+        static_assert(members::isListedClass(name.chars),
+                      "no class of this name is listed: list it in src/members");
 #endif
         Class cls = g_cached.load(std::memory_order_relaxed);
         if (!cls) [[unlikely]] {

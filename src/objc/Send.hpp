@@ -75,7 +75,7 @@ constexpr void checkMessage() {
                   "the selector's colons and the signature's arguments disagree in number");
 #if defined(OBJC_LEDGER)
     static_assert(members::isListedMethod(name.chars, Message<Signature>::encoding()),
-                  "no class is listed with this method of these types");
+                  "no class is listed with this method of these types: list it in src/members");
 #endif
 }
 

@@ -105,14 +105,16 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(HookTable, IsInstalledInOrder) {
     const test::Dialer phone({.model = GetParam().model});
-    EXPECT_EQ(installed(), GetParam().rows);
+    EXPECT_EQ(installed(), GetParam().rows) << "the lists in " __FILE__ " are the table's rows";
     for (const substrate::HookEntry &entry : substrate::hookLog()) {
         if (entry.outcome != substrate::HookEntry::Outcome::MissingClass) {
             EXPECT_EQ(entry.replacement, exportedName(entry));
             EXPECT_TRUE(entry.saved);
             EXPECT_EQ(entry.outcome == substrate::HookEntry::Outcome::Added,
                       std::ranges::count(kInherited, entry.className + " " + entry.selector) > 0)
-                << entry.className << " " << entry.selector;
+                << entry.className << " " << entry.selector
+                << ": kInherited lists what the class in "
+                << "simulator/phone only inherits; is that so on a phone?";
         }
     }
 }

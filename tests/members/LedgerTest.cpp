@@ -11,7 +11,10 @@
 namespace {
 
 struct Failures final : members::Report {
-    void contradiction(const char *line) override { ADD_FAILURE() << line; }
+    void contradiction(const char *line) override {
+        ADD_FAILURE() << line
+                      << "; mend the class in simulator/companion or its line in src/members";
+    }
 };
 
 TEST(Ledger, ListsTheCompanionAsItIsSimulated) {
@@ -28,7 +31,7 @@ TEST(Ledger, ListsOnlyWhatTheAddOnUses) {
         for (const members::Member &member : members) {
             const std::string name(member.selector());
             EXPECT_NE(library.find(name + '\0'), std::string::npos)
-                << member.className << " " << name;
+                << member.className << " " << name << ": nothing uses it, take it off src/members";
         }
     };
     expectUsed(members::kAppleMembers);

@@ -6,7 +6,7 @@
 static void comparePlatform() {
     struct : members::Report {
         void contradiction(const char *line) override {
-            judge(false, "as listed", line, Place::current());
+            judge(false, "the class in tests/outside as src/members lists it", line, Place::current());
         }
     } report;
     const auto system = isRun(k70) ? members::kIos70 : isRun(k71) ? members::kIos71 : members::kIos80;

@@ -8,7 +8,9 @@
 namespace {
 
 struct Failures final : members::Report {
-    void contradiction(const char *line) override { ADD_FAILURE() << line; }
+    void contradiction(const char *line) override {
+        ADD_FAILURE() << line << "; mend the class in simulator, or its line in src/members";
+    }
 };
 
 class Platform : public testing::TestWithParam<members::Systems> {};
