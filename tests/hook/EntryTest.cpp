@@ -1,8 +1,11 @@
 // The entry routine against a companion and a Phone application whose every answer a test sets.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "dialer/ZQDialNumberInputUIHook.hpp"
 #include "hook/Installation.hpp"
+#include "hook/Table.hpp"
 #include "stage/MainBundle.hpp"
 #include "substrate/HookLog.hpp"
 #include "support/StubCompanion.hpp"
@@ -49,7 +52,8 @@ TEST_F(Entry, InstallsTheDialerAloneBelowIos7) {
     hook::initializeInCallHook();
     EXPECT_TRUE(substrate::hookLog().empty());
     hook::initializeDialerHook();
-    EXPECT_EQ(substrate::hookLog().size(), 6U);
+    EXPECT_EQ(std::ssize(substrate::hookLog()),
+              std::ranges::count(hook::kRows, hook::Group::Dialer, &hook::HookRow::group));
 }
 
 TEST_F(Entry, MakesTheDialersInstanceWhereNoneOfItsRowsBelong) {
