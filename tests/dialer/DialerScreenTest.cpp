@@ -1,7 +1,5 @@
 // The dialer as its user sees it: keys are pressed, and the display's frames, texts and hidden
 // flags looked at. Texts are measured by rule: 14 points a Chinese character, 7 any other.
-#include <fstream>
-
 #include <gtest/gtest.h>
 
 #include "platform/PhoneApp.hpp"

@@ -125,7 +125,7 @@ TEST(TextTable, AlignsAnyTextAndKeepsEachRowOnItsLine) {
     EXPECT_EQ(table.str(), "a     b\n----  --\n快递  1\nx y    2\ne\u0301🚕   3\n");
 }
 
-TEST(ProgressBar, FillsTheTerminal) {
+TEST(ProgressBar, FillsTheTerminalOrTellsTheEndOfLongReading) {
     const std::tuple<uintmax_t, size_t, std::string> cases[] = {
         {0, 22, "读 a [        ]   0 %"},
         {50, 22, "读 a [####    ]  50 %"},
@@ -136,6 +136,11 @@ TEST(ProgressBar, FillsTheTerminal) {
     for (const auto &[percent, columns, line] : cases) {
         EXPECT_EQ(stage::progressLine("读 a", percent, columns), line) << columns;
     }
+    std::vector<std::string> told;
+    for (const size_t entries : {99'999, 100'000}) {
+        stage::tellIfLong([&](const auto &text) { told.push_back(text); }, "a.csv", entries);
+    }
+    EXPECT_THAT(told, testing::ElementsAre("a.csv: 100000 entries read"));
 }
 
 TEST(GalleryPage, ShowsEachDeviceOfAScene) {
