@@ -1,7 +1,7 @@
 # The everyday commands. Each installs the Debian packages it needs, if any are missing, and builds
 # what it works on; none needs an environment variable.
 .PHONY: help demo test build bench asan tsan clang format lint contract device device-test \
-	reproducible packages-all
+	device-pictures reproducible packages-all
 
 # The slices of the library that "make device" builds, and the host that its web search asks; empty:
 # as in src/recents/Actions.cpp.
@@ -22,6 +22,7 @@ help:
 	@echo 'make device        build the library for iOS and its package into build/device, check them;'
 	@echo '                   SLICES=arm64 one slice alone, SEARCH_HOST=name where its search leads'
 	@echo 'make device-test   run it on emulated processors, and break it on purpose to see that noticed'
+	@echo 'make device-pictures  have it draw every scene there, and compare with the host'
 	@echo 'make reproducible  build it a second time elsewhere, and compare'
 	@echo 'make packages-all  install the packages of all of these; packages-GROUP: one of packages.txt'
 	@echo '.ci/run            everything that has to pass before a change lands'
@@ -81,7 +82,12 @@ device-test: device packages-qemu $(if $(filter armv7,$(SLICES)),packages-qemu-a
 	@cmake -S device -B build/device >/dev/null
 	@cmake --build build/device --target outside
 	@ctest --test-dir build/device --output-on-failure --no-tests=error --parallel "$$(nproc)" \
-		--exclude-regex '^reproducible$$'
+		--exclude-regex '^(reproducible|pictures)$$'
+
+device-pictures: build device packages-qemu
+	@cmake -S device -B build/device >/dev/null
+	@cmake --build build/device --target pictures
+	@ctest --test-dir build/device --output-on-failure --no-tests=error --tests-regex '^pictures$$'
 
 reproducible: device
 	@ctest --test-dir build/device --output-on-failure --no-tests=error --tests-regex '^reproducible$$'

@@ -5,8 +5,10 @@ find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 find_package(nlohmann_json 3.10 REQUIRED)  # nlohmann_json::nlohmann_json
 find_package(ICU REQUIRED COMPONENTS uc)   # ICU::uc
-find_package(GTest REQUIRED)               # GTest::gtest_main, GTest::gmock
-find_package(benchmark REQUIRED)           # benchmark::benchmark_main
+if(NOT CMAKE_CROSSCOMPILING)
+    find_package(GTest REQUIRED)           # GTest::gtest_main, GTest::gmock
+    find_package(benchmark REQUIRED)       # benchmark::benchmark_main
+endif()
 pkg_check_modules(sqlite3 REQUIRED IMPORTED_TARGET sqlite3)         # PkgConfig::sqlite3
 pkg_check_modules(glib REQUIRED IMPORTED_TARGET glib-2.0)           # PkgConfig::glib
 pkg_check_modules(cairo REQUIRED IMPORTED_TARGET cairo)             # PkgConfig::cairo

@@ -24,13 +24,15 @@ add_custom_target(check
 
 enable_testing()
 include(cmake/Outside.cmake)
+include(cmake/Pictures.cmake)
 add_test(NAME reproducible
     COMMAND "${SOURCE_ROOT}/tests/device/reproducible.sh" "${SOURCE_ROOT}"
         "${CMAKE_CURRENT_BINARY_DIR}")
-foreach(faults IN ITEMS build library package loader)
-    add_test(NAME faults.${faults}
-        COMMAND ${RUN_PYTHON} -m unittest -v test_${faults}
+foreach(test IN ITEMS faults.build faults.library faults.package faults.loader pictures)
+    string(REPLACE faults. "" module ${test})
+    add_test(NAME ${test}
+        COMMAND ${RUN_PYTHON} -m unittest -v test_${module}
         WORKING_DIRECTORY "${SOURCE_ROOT}/tests/device")
-    set_tests_properties(faults.${faults} PROPERTIES
+    set_tests_properties(${test} PROPERTIES
         ENVIRONMENT "ZQDIAL_DEVICE_BUILD=${CMAKE_CURRENT_BINARY_DIR}")
 endforeach()

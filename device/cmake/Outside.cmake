@@ -25,6 +25,26 @@ set(OUTSIDE_COMPILE -O1 -g0 -fPIC -Wno-psabi)
 set(LOADER_OPTIONS -std=c++20 -Wall -Wextra -Wshadow -Werror -I "${LOADER_SOURCES}"
     "-DZQDIAL_IMPORTS=\"${IMPORTS}\"" "-DZQDIAL_PROGRAM_IMPORTS=\"${checkImports}\"")
 
+# zqdial_unpack(<folder> <package architecture> <list of packages> <what they are>)
+# A command that makes "complete" in the folder.
+function(zqdial_unpack folder architecture list what)
+    set(script "${LOADER_SOURCES}/sysroot.sh")
+    add_custom_command(OUTPUT "${folder}/complete"
+        COMMAND "${script}" ${architecture} "${folder}" "${list}"
+        DEPENDS "${script}" "${list}"
+        COMMENT "${architecture}: unpacking ${what}"
+        VERBATIM)
+endfunction()
+
+# zqdial_unable(<target> <words>...)
+# A target that fails, and says why and what helps.
+function(zqdial_unable target)
+    add_custom_target(${target}
+        COMMAND ${CMAKE_COMMAND} -E echo ${ARGN}
+        COMMAND ${CMAKE_COMMAND} -E false
+        VERBATIM)
+endfunction()
+
 # zqdial_outside_object(<result variable> <slice> <source> <option>...)
 function(zqdial_outside_object result slice source)
     get_filename_component(name "${source}" NAME)
@@ -66,20 +86,13 @@ function(zqdial_outside_slice slice)
     find_program(COMPILER_${slice} ${triple}-g++-12)
     find_program(EMULATOR_${slice} ${emulator})
     if(NOT COMPILER_${slice} OR NOT EMULATOR_${slice})
-        set(remedy "run tools/install-packages.sh ${group_${slice}} and 'make device-test' again")
-        add_custom_target(outside-${slice}
-            COMMAND ${CMAKE_COMMAND} -E echo "no ${triple}-g++-12 or ${emulator}: ${remedy}"
-            COMMAND ${CMAKE_COMMAND} -E false
-            VERBATIM)
+        set(remedy "run tools/install-packages.sh ${group_${slice}} and try again")
+        zqdial_unable(outside-${slice} "no ${triple}-g++-12 or ${emulator}: ${remedy}")
         return()
     endif()
 
-    set(script "${LOADER_SOURCES}/sysroot.sh")
-    add_custom_command(OUTPUT "${sysroot}/complete"
-        COMMAND "${script}" ${packages_${slice}} "${sysroot}"
-        DEPENDS "${script}" "${LOADER_SOURCES}/sysroot.txt"
-        COMMENT "${slice}: unpacking Foundation and what it needs"
-        VERBATIM)
+    zqdial_unpack("${sysroot}" ${packages_${slice}} "${LOADER_SOURCES}/sysroot.txt"
+        "Foundation and what it needs")
     set(compile "${COMPILER_${slice}}" ${OUTSIDE_COMPILE})
     set(paths "${sysroot}/usr/lib" "${sysroot}/usr/lib/${triple}" "${sysroot}/lib/${triple}")
     list(JOIN paths ":" paths)

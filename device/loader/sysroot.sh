@@ -1,15 +1,14 @@
 #!/usr/bin/env bash
 # Unpacks this system's packages for another processor into a folder, from the package sources that
-# this machine has anyway: what the tests need to run there. Nothing is installed, and no foreign
-# architecture is added, since such packages would take the place of this machine's own.
+# this machine has anyway: those of a list, which says what they are for. Nothing is installed, and
+# no foreign architecture is added, since such packages would take the place of this machine's own.
 set -euo pipefail
 
-if [ $# -ne 2 ]; then
-    echo "usage: sysroot.sh ARCHITECTURE FOLDER" >&2
+if [ $# -ne 3 ]; then
+    echo "usage: sysroot.sh ARCHITECTURE FOLDER LIST" >&2
     exit 2
 fi
-readonly architecture="$1" folder="$2"
-list="$(dirname "$(readlink -f "$0")")/sysroot.txt"
+readonly architecture="$1" folder="$2" list="$3"
 fail() {
     echo "sysroot: $*" >&2
     exit 1
@@ -17,7 +16,7 @@ fail() {
 
 rmdir "$folder" 2>/dev/null || true # ninja makes it beforehand
 if [ -e "$folder" ] && [ ! -e "$folder/complete" ]; then
-    fail "$folder is half unpacked: remove it and run 'make device-test' again"
+    fail "$folder is half unpacked: remove it and try again"
 fi
 mapfile -t packages < <(sed 's/#.*//' "$list" | xargs -n 1)
 
@@ -43,11 +42,15 @@ fetch() {
 if ! fetch update || ! fetch download "${packages[@]}"; then
     reason="$(grep -m 1 -E '^(W: Failed|E:)' "$work/log" || tail -n 1 "$work/log")"
     fail "cannot fetch the $architecture packages: ${reason#?: }: see that this machine reaches" \
-        "its package sources, and run 'make device-test' again"
+        "its package sources, and try again"
 fi
 for package in "$work"/packages/*.deb; do
     dpkg-deb --extract "$package" "$work/root" ||
-        fail "cannot unpack $(basename "$package"): make room, and run 'make device-test' again"
+        fail "cannot unpack $(basename "$package"): make room, and try again"
+done
+# Linkers ask for libraries without their versions, by names that development packages bring.
+for library in "$work"/root/{usr/,}lib/*-linux-gnu*/lib*.so.*; do
+    [ -e "${library%%.so.*}.so" ] || ln -sf "$(basename "$library")" "${library%%.so.*}.so"
 done
 
 # Only what is whole gets its name.

@@ -11,6 +11,7 @@ from scratch import BUILD, ROOT, Scratch, run
 EMULATORS = {"arm64": ("qemu-aarch64", "arm64"), "armv7": ("qemu-arm", "armel")}
 PHONE = "com.apple.MobilePhone"
 SYSROOT = ROOT / "device/loader/sysroot.sh"
+PACKAGES = SYSROOT.with_suffix(".txt")
 
 # A place in a slice and the bytes put there.
 Change = Callable[[Slice], tuple[int, bytes]]
@@ -232,8 +233,8 @@ class LoaderFaults(Scratch):
         nowhere = "http_proxy=http://127.0.0.1:1", "https_proxy=http://127.0.0.1:1"
         self.refused(
             ["sysroot: cannot fetch the arm64 packages: ", "reaches its package sources"],
-            *("env", *nowhere, SYSROOT, "arm64", folder),
+            *("env", *nowhere, SYSROOT, "arm64", folder, PACKAGES),
         )
         self.assertEqual(list(self.folder.iterdir()), [])
         (folder / "usr").mkdir(parents=True)
-        self.refused(["is half unpacked: remove it and run"], SYSROOT, "arm64", folder)
+        self.refused(["is half unpacked: remove it and"], SYSROOT, "arm64", folder, PACKAGES)
