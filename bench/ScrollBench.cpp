@@ -50,7 +50,7 @@ class Telephone {
         const auto steps = static_cast<int>(list.table()->contentSize().height / kStep);
         for (int step = 1; step <= steps; ++step) {
             const objc::AutoreleasePool pool;
-            list.scrollTo(kStep * step);
+            scrollTo(list, kStep * step);
         }
         return (bench::processorSeconds() - start) / kCalls;
     }
@@ -59,6 +59,12 @@ class Telephone {
     static id hook() { return send<id()>("ZQSystemCallHistoryViewHook"_cls, "currentHook"_sel); }
     static IMP layout() {
         return class_getMethodImplementation("PHRecentsCell"_cls, "layoutSubviews"_sel);
+    }
+    static void scrollTo(phone::PHRecentsViewController &list, CGFloat points) {
+        SimTableView *const table = list.table();
+        send<void()>(*list.view(), "layoutIfNeeded"_sel);
+        send<void(CGPoint)>(*table, "setContentOffset:"_sel, table->nearestRest({0, points}));
+        send<void()>(*list.view(), "layoutIfNeeded"_sel);
     }
     phone::PHRecentsViewController &open(NumberOf numberOf) {
         const objc::AutoreleasePool pool;
@@ -71,7 +77,7 @@ class Telephone {
         }
         phone::PHRecentsViewController &list = *session_.recents();
         list.setCalls(sim::array(calls));
-        list.scrollTo(0);
+        scrollTo(list, 0);
         return list;
     }
 

@@ -41,6 +41,12 @@ class SimulatedTime {
         since_ = Clock::now();
     }
 
+    /// Lets so much pass at once; then it stands still.
+    void leap(Duration time) {
+        passed_ = now() + time;
+        end_ = passed_;
+    }
+
   private:
     using Clock = std::chrono::steady_clock;
 
@@ -49,9 +55,5 @@ class SimulatedTime {
     Duration end_ = Duration::max();
     Clock::time_point since_ = Clock::now();
 };
-
-/// Real seconds that a simulated second takes, for whoever counts with a timer of Foundation's: the
-/// ticks of a running call.
-inline double pace() { return SimulatedTime::shared().pace(); }
 
 }  // namespace companion

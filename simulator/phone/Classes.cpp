@@ -11,6 +11,8 @@
 #include "phone/favourites/PHFavoritesViewController.hpp"
 #include "phone/frame/PhoneStatusBar.hpp"
 #include "phone/frame/PhoneTabBarController.hpp"
+#include "phone/frame/PhoneViewController.hpp"
+#include "phone/frame/PlainListController.hpp"
 #include "phone/incall/InCallButton.hpp"
 #include "phone/incall/InCallController.hpp"
 #include "phone/incall/InCallLCDField.hpp"
@@ -33,10 +35,12 @@ void defineHeaders(ABContactHeaderView::Labels labels) {
 __attribute__((constructor)) void defineClasses() {
     const objc::AutoreleasePool pool;
     PhoneStatusBar::define();
+    PhoneTabBarButton::define();
     PhoneTabBar::define();
     PhoneNavigationBar::define();
     PhoneTabBarController::define();
     PhoneViewController::define();
+    PlainListController::define();
 
     PHHandsetDialerNameLabelView::define();
     PHHandsetDialerLCDView::define();

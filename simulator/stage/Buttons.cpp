@@ -5,7 +5,6 @@
 
 #include "uikit/Foundation.hpp"
 #include "uikit/SimButton.hpp"
-#include "uikit/SimWindow.hpp"
 
 namespace stage {
 namespace {
@@ -32,13 +31,6 @@ SimView *visibleButton(SimView *root, std::string_view title) {
         }
     }
     return nullptr;
-}
-
-CGPoint middleOf(SimView *view) {
-    const CGRect bounds = view->bounds();
-    return view->convertPointToView(
-        {bounds.origin.x + bounds.size.width / 2, bounds.origin.y + bounds.size.height / 2},
-        view->window());
 }
 
 }  // namespace stage

@@ -10,7 +10,4 @@ namespace stage {
 /// The frontmost visible button under `root` with the title; null when there is none.
 SimView *visibleButton(SimView *root, std::string_view title);
 
-/// In points of the view's window.
-CGPoint middleOf(SimView *view);
-
 }  // namespace stage

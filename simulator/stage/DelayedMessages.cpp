@@ -19,6 +19,10 @@ DelayedMessages::DelayedMessages() {
         const Method method = class_getInstanceMethod(holder, kDelayed);
         method_setImplementation(method, reinterpret_cast<IMP>(&DelayedMessages::take));
     }
+    method_setImplementation(
+        class_getInstanceMethod(object_getClass(objc::asObject(root)),
+                                "cancelPreviousPerformRequestsWithTarget:"_sel),
+        reinterpret_cast<IMP>(&DelayedMessages::takeBack));
 }
 
 DelayedMessages &DelayedMessages::shared() {
@@ -34,14 +38,19 @@ void DelayedMessages::take(id target, SEL, SEL selector, id argument, double sec
                                            objc::Owned<NSObject>::share(NSObject(argument))});
 }
 
+void DelayedMessages::takeBack(id, SEL, id target) {
+    std::erase_if(shared().waiting_,
+                  [target](const auto &entry) { return entry.second.target.get() == target; });
+}
+
 std::optional<DelayedMessages::Moment> DelayedMessages::next() const {
-    return waiting_.empty() || SimScrollView::isAnyDragging()
+    return waiting_.empty() || SimScrollView::isAnyTracking()
                ? std::nullopt
                : std::optional(waiting_.begin()->first);
 }
 
 void DelayedMessages::sendDue(Moment now) {
-    if (SimScrollView::isAnyDragging()) {
+    if (SimScrollView::isAnyTracking()) {
         return;
     }
     // Taken out first: what a message asks for in turn is not sent before the next call.

@@ -14,7 +14,8 @@
 
 namespace stage {
 
-/// For the main thread alone. A request cannot be taken back.
+/// For the main thread alone. Requests are taken back for a whole target at a time, by
+/// cancelPreviousPerformRequestsWithTarget: of NSObject.
 class DelayedMessages {
   public:
     using Moment = companion::SimulatedTime::Duration;
@@ -36,6 +37,7 @@ class DelayedMessages {
     };
 
     DelayedMessages();
+    static void takeBack(id cls, SEL command, id target);
     static void take(id target, SEL command, SEL selector, id argument, double seconds);
 
     std::multimap<Moment, Message> waiting_;

@@ -9,9 +9,7 @@
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
 #include "stage/Errors.hpp"
 #include "stage/VisibleTexts.hpp"
-#include "uikit/Finger.hpp"
 #include "uikit/Foundation.hpp"
-#include "uikit/SimEvent.hpp"
 
 namespace stage {
 namespace {
@@ -32,37 +30,30 @@ std::vector<std::string> characters(const std::string &text) {
     return all;
 }
 
-/// The middle of the line under the typed number, in points of the window.
-sim::Point middleOfLine(phone::DialerController *dialer) {
-    const UIView line = dialer->dialerView()->display()->nameAndLabelView();
-    const CGRect frame = line.frame();
-    const CGPoint middle = {frame.origin.x + frame.size.width / 2,
-                            frame.origin.y + frame.size.height / 2};
-    return objc::send<CGPoint(CGPoint, UIView)>(line.superview(), "convertPoint:toView:"_sel,
-                                                middle, UIView());
-}
+SimView *viewOf(UIView view) { return objc::Wire<SimView *>::from(view.get()); }
 
 }  // namespace
 
-DialerScreen::DialerScreen(PhoneWindow &window) : window_(window) {
-    const auto controller = objc::make<phone::DialerController>().as<NSObject>();
-    window_.showTab(phone::Tab::Keypad, controller);
+DialerScreen::DialerScreen(PhoneWindow &window)
+    : window_(window), controller_(objc::make<phone::DialerController>().as<NSObject>()) {
+    window_.showTab(phone::Tab::Keypad, controller_);
 }
 
-DialerScreen::~DialerScreen() = default;
-
 phone::DialerController *DialerScreen::controller() const {
-    return static_cast<phone::DialerController *>(window_.tabController());
+    return objc::Wire<phone::DialerController *>::from(controller_.get().get());
 }
 
 void DialerScreen::perform(const Step &step) {
+    if (window_.shownTab() != phone::Tab::Keypad) {
+        throw Failure("another tab than the keypad is shown");
+    }
     switch (step.kind) {
     case Step::Kind::Type:
         type(step.text);
         break;
     case Step::Kind::Delete:
         for (int i = 0; i < step.count; ++i) {
-            sim::tap(objc::Wire<SimView *>::from(controller()->dialerView()->deleteKey().get()));
+            window_.hand().tap(viewOf(controller()->dialerView()->deleteKey()));
         }
         break;
     case Step::Kind::Touch:
@@ -91,27 +82,32 @@ void DialerScreen::type(const std::string &text) const {
 void DialerScreen::press(const std::string &character) const {
     const objc::AutoreleasePool pool;
     if (const UIView key = controller()->dialerView()->keyWithSign(character)) {
-        sim::tap(objc::Wire<SimView *>::from(key.get()));
+        window_.hand().tap(viewOf(key));
     } else {
         controller()->insertText(sim::string(character));
     }
 }
 
-void DialerScreen::touch(Step::Kind kind) {
-    if (!finger_) {
-        if (!controller()->dialerView()->display()->offersToAdd()) {
+void DialerScreen::touch(Step::Kind kind) const {
+    Hand &hand = window_.hand();
+    const phone::PHHandsetDialerLCDView &display = *controller()->dialerView()->display();
+    if (!hand.isDown()) {
+        if (!display.offersToAdd()) {
             throw Failure(
                 "--touch: no add-to-contacts line is shown; "
                 "--type a number that is no contact's first");
         }
-        finger_ = std::make_unique<sim::Finger>(window_.window(), middleOfLine(controller()));
+        // There, whatever stands in its place.
+        const CGRect line = display.nameAndLabelView().frame();
+        hand.press(viewOf(UIView(display))
+                       ->convertPointToView({line.origin.x + line.size.width / 2,
+                                             line.origin.y + line.size.height / 2},
+                                            window_.window()));
     }
     if (kind == Step::Kind::Touch) {
-        finger_->lift();
-        finger_.reset();
+        hand.lift();
     } else if (kind == Step::Kind::Cancel) {
-        finger_->cancel();
-        finger_.reset();
+        hand.cancel();
     }
 }
 

@@ -20,6 +20,8 @@ void require(bool done, const std::string &step, const std::string &otherwise) {
     }
 }
 
+SimView *viewOf(UIView view) { return objc::Wire<SimView *>::from(view.get()); }
+
 bool isTalking(const phone::InCallController &controller) {
     for (size_t number = 1; number <= controller.callCount(); ++number) {
         if (controller.call(number)->status() == phone::CallStatus::Active) {
@@ -54,17 +56,16 @@ void InCallScreen::perform(const Step &step) {
         controller()->beginIncoming(sim::string(step.text));
         break;
     case Step::Kind::Answer:
-        require(controller()->answer(), "--answer",
-                std::string("no call is ringing or being dialled; ") + kBeginOne);
+        answer();
         break;
     case Step::Kind::Second:
         beginSecond(step.text);
         break;
     case Step::Kind::Swap:
-        require(controller()->swap(), "--swap", kNeedsTwo);
+        press("--swap", controller()->inCallView()->swapButton());
         break;
     case Step::Kind::Merge:
-        require(controller()->merge(), "--merge", kNeedsTwo);
+        press("--merge", controller()->inCallView()->mergeButton());
         break;
     case Step::Kind::End:
         end(step.count);
@@ -77,18 +78,38 @@ void InCallScreen::perform(const Step &step) {
     }
 }
 
+/// A ringing call is taken with the green key; what is being dialled is taken at the other end.
+void InCallScreen::answer() const {
+    const bool taken = window_.hand().tap(viewOf(controller()->inCallView()->answerKey())) ||
+                       controller()->answer();
+    require(taken, "--answer", std::string("no call is ringing or being dialled; ") + kBeginOne);
+}
+
+void InCallScreen::press(const std::string &step, UIView button) const {
+    require(controller()->canSwap(), step, kNeedsTwo);
+    require(window_.hand().tap(viewOf(button)), step,
+            "a call rings, and the button is not shown; --answer it first");
+}
+
 void InCallScreen::beginSecond(const std::string &number) const {
     require(isTalking(*controller()), "--second",
             std::string("no call is talked on; ") +
                 (controller()->callCount() > 0 ? "--answer the first one" : kBeginOne));
     controller()->beginIncoming(sim::string(number));
-    require(controller()->answer(), "--second", "the call was not taken");
+    answer();
 }
 
 void InCallScreen::end(int call) const {
     const size_t count = controller()->callCount();
     const std::string step = "--end " + std::to_string(call);
     require(count > 0, step, std::string("there is no call; ") + kBeginOne);
+    const phone::InCallView &view = *controller()->inCallView();
+    if (count == 1 && call == 1) {
+        static_cast<void>(window_.hand().tap(viewOf(view.endKey())) ||
+                          window_.hand().tap(viewOf(view.declineKey())));
+        return;
+    }
+    // One of several, as if it hung up at its own end.
     require(controller()->end(static_cast<size_t>(call)), step,
             count == 1 ? "there is one call; end call 1"
                        : "there are " + std::to_string(count) + " calls; end one from 1 to " +

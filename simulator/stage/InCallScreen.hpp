@@ -4,6 +4,7 @@
 #include <string>
 
 #include "objc/Owned.hpp"
+#include "platform/UIKit.hpp"
 #include "stage/PhoneWindow.hpp"
 #include "stage/Screen.hpp"
 
@@ -28,6 +29,8 @@ class InCallScreen : public Screen {
     phone::InCallController *controller() const;
 
   private:
+    void answer() const;
+    void press(const std::string &step, UIView button) const;
     void beginSecond(const std::string &number) const;
     void end(int call) const;
     void layOutDisplay() const;

@@ -1,8 +1,18 @@
 // Controllers hear what a window's owner tells them on the device: who appears, who disappears.
 #include "stage/PhoneWindow.hpp"
 
+#include <utility>
+#include <vector>
+
 #include "phone/Parts.hpp"
+#include "phone/PlaceCall.hpp"
+#include "phone/dialer/ContactBook.hpp"
+#include "phone/dialer/DialerController.hpp"
+#include "phone/favourites/PHFavoritesViewController.hpp"
 #include "phone/frame/PhoneTabBarController.hpp"
+#include "phone/frame/PlainListController.hpp"
+#include "phone/incall/InCallController.hpp"
+#include "phone/recents/PHRecentsViewController.hpp"
 #include "uikit/Renderer.hpp"
 #include "uikit/ViewTree.hpp"
 
@@ -19,10 +29,14 @@ void tell(NSObject controller, auto selector) {
 
 }  // namespace
 
-PhoneWindow::PhoneWindow(CGSize screen)
-    : window_(objc::Owned<NSObject>::adopt(NSObject(
+PhoneWindow::PhoneWindow(CGSize screen, RecentCalls recentCalls)
+    : recentCalls_(std::move(recentCalls)),
+      window_(objc::Owned<NSObject>::adopt(NSObject(
           phone::makeView<SimWindow>(rect(0, 0, screen.width, screen.height)).leak().get()))),
-      tabs_(objc::make<phone::PhoneTabBarController>().as<NSObject>()) {
+      tabs_(objc::make<phone::PhoneTabBarController>().as<NSObject>()),
+      hand_(window()) {
+    tabs()->setMaker([this](phone::Tab tab) { return makeTab(tab); });
+    phone::setCallPlacer([this](NSString number) { dial(number); });
     window()->setRootViewController(controllerOf(tabs_));
     window()->makeKeyAndVisible();
     tell(tabs_, "viewWillAppear:"_sel);
@@ -31,19 +45,76 @@ PhoneWindow::PhoneWindow(CGSize screen)
 
 PhoneWindow::~PhoneWindow() {
     const objc::AutoreleasePool pool;
+    hand_.cancel();
+    phone::setCallPlacer({});
     dismiss();
     tell(tabs_, "viewWillDisappear:"_sel);
     tell(tabs_, "viewDidDisappear:"_sel);
 }
 
-void PhoneWindow::showTab(phone::Tab tab, NSObject controller) {
-    objc::Wire<phone::PhoneTabBarController *>::from(tabs_.get().get())
-        ->showTab(tab, controllerOf(controller));
+phone::PhoneTabBarController *PhoneWindow::tabs() const {
+    return objc::Wire<phone::PhoneTabBarController *>::from(tabs_.get().get());
 }
 
-SimViewController *PhoneWindow::tabController() const {
-    return objc::Wire<phone::PhoneTabBarController *>::from(tabs_.get().get())->shownController();
+objc::Owned<NSObject> PhoneWindow::makeTab(phone::Tab tab) const {
+    switch (tab) {
+    case phone::Tab::Favourites:
+        return objc::make<phone::PHFavoritesViewController>().as<NSObject>();
+    case phone::Tab::Recents: {
+        auto recents = objc::make<phone::PHRecentsViewController>();
+        recents->setCalls(recentCalls_());
+        return std::move(recents).as<NSObject>();
+    }
+    case phone::Tab::Contacts: {
+        std::vector<std::string> names;
+        for (const phone::Contact &contact : phone::ContactBook::shared().all()) {
+            names.push_back(contact.name);
+        }
+        return phone::PlainListController::create("所有联系人"_ns, std::move(names));
+    }
+    case phone::Tab::Keypad:
+        return objc::make<phone::DialerController>().as<NSObject>();
+    case phone::Tab::Voicemail:
+        break;
+    }
+    return phone::PlainListController::create("语音留言"_ns, {});
 }
+
+void PhoneWindow::showTab(phone::Tab tab, NSObject controller) {
+    tabs()->setTab(tab, controller);
+    tabs()->showTab(tab);
+}
+
+phone::Tab PhoneWindow::shownTab() const { return tabs()->shownTab(); }
+
+SimView *PhoneWindow::tabButton(phone::Tab tab) const {
+    return objc::Wire<SimView *>::from(tabs()->tabBar()->button(tab).get());
+}
+
+SimViewController *PhoneWindow::tabController() const { return tabs()->shownController(); }
+
+phone::InCallController *PhoneWindow::inCall() const {
+    return cover_ && cover_->isKindOfClass("InCallController"_cls)
+               ? objc::Wire<phone::InCallController *>::from(cover_.get().get())
+               : nullptr;
+}
+
+phone::InCallController &PhoneWindow::inCallForCalls() {
+    if (inCall() == nullptr) {
+        const auto made = phone::InCallController::create(phone::usualDisplay());
+        present(made);
+        inCall()->setWhenOver([this, controller = made.get()] {
+            if (cover_ && cover_.get().get() == controller.get()) {
+                dismiss();
+            }
+        });
+    }
+    return *inCall();
+}
+
+void PhoneWindow::dial(NSString number) { inCallForCalls().beginOutgoing(number); }
+
+void PhoneWindow::ring(NSString number) { inCallForCalls().beginIncoming(number); }
 
 void PhoneWindow::replaceRoot(NSObject from, NSObject by) {
     tell(from, "viewWillDisappear:"_sel);
@@ -61,8 +132,9 @@ void PhoneWindow::present(NSObject controller) {
 
 void PhoneWindow::dismiss() {
     if (cover_) {
-        replaceRoot(cover_, tabs_);
-        cover_ = {};
+        // What is told of it may still be at work in the cover.
+        const NSObject gone = cover_.autorelease();
+        replaceRoot(gone, tabs_);
     }
 }
 

@@ -1,7 +1,6 @@
 // The recents list and the detail of one of its calls: scrolled, swiped, edited, opened.
 #pragma once
 
-#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,12 +11,9 @@
 #include "stage/Screen.hpp"
 
 namespace phone {
+class PHRecentsCell;
 class PHRecentsViewController;
 }  // namespace phone
-namespace sim {
-class Finger;
-}  // namespace sim
-
 namespace stage {
 
 class RecentsScreen : public Screen {
@@ -35,23 +31,26 @@ class RecentsScreen : public Screen {
     phone::PHRecentsViewController *controller() const;
 
   private:
+    bool isAway() const { return window_.shownTab() != phone::Tab::Recents; }
     void require(bool possible, std::string_view step, std::string_view remedy) const;
     void requireList(const std::string &step) const;
     void requireRow(const std::string &step, int row) const;
+    phone::PHRecentsCell *swipedCell() const;
+    bool holdsRow(int row) const;
+    void closeOpenRow() const;
+    void dragListTo(CGFloat points) const;
     void scrollToRow(int row) const;
     void swipe(const Step &step) const;
-    void release();
+    void dragRowTo(phone::PHRecentsCell &cell, CGFloat points) const;
+    void release() const;
     void edit(bool on) const;
-    void setEditing(bool on) const;
     void open(int row) const;
-    void touchButton(const std::string &step, const std::string &action, bool lift);
-    void switchTab(const std::string &how);
+    void back() const;
+    void touchButton(const std::string &step, const std::string &action, bool lift) const;
+    void switchTab(const std::string &how) const;
 
     PhoneWindow &window_;
     objc::Owned<NSObject> controller_;
-    objc::Owned<NSObject> favourites_;     // once they have been shown
-    std::unique_ptr<sim::Finger> finger_;  // on a button
-    bool away_ = false;                    // another tab is shown
 };
 
 }  // namespace stage

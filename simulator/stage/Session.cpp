@@ -9,10 +9,12 @@
 #include "stage/DelayedMessages.hpp"
 #include "stage/DialerScreen.hpp"
 #include "stage/InCallScreen.hpp"
+#include "stage/RecentCallObjects.hpp"
 #include "stage/RecentsScreen.hpp"
 #include "stage/Surroundings.hpp"
 #include "stage/Waiting.hpp"
 #include "uikit/Foundation.hpp"
+#include "uikit/Motion.hpp"
 
 namespace stage {
 namespace {
@@ -34,7 +36,8 @@ Session::Session(const Settings &settings) : settings_(settings) {
         calls_ = readCallsFile(settings.calls, settings.warn, settings.withProgress);
     }
     prepareProcess(settings);
-    window_ = std::make_unique<PhoneWindow>(settings.model.screenSize());
+    window_ = std::make_unique<PhoneWindow>(settings.model.screenSize(),
+                                            [this] { return recentCallObjects(recentCalls()); });
     openDialer();
 }
 
@@ -48,10 +51,13 @@ std::unique_ptr<Screen> Session::makeScreen(const Opening &opening) {
         return std::make_unique<InCallScreen>(*window_,
                                               opening.display.value_or(phone::usualDisplay()));
     case ScreenKind::Recents:
-        return std::make_unique<RecentsScreen>(
-            *window_, settings_.calls.empty() ? companion::store().recents() : calls_);
+        return std::make_unique<RecentsScreen>(*window_, recentCalls());
     }
     return std::make_unique<DialerScreen>(*window_);
+}
+
+std::vector<companion::RecentCall> Session::recentCalls() const {
+    return settings_.calls.empty() ? companion::store().recents() : calls_;
 }
 
 void Session::open(const Opening &opening) {
@@ -67,10 +73,7 @@ phone::DialerController *Session::dialer() const {
                : nullptr;
 }
 
-phone::InCallController *Session::inCall() const {
-    const auto *const screen = dynamic_cast<InCallScreen *>(screen_.get());
-    return screen != nullptr ? screen->controller() : nullptr;
-}
+phone::InCallController *Session::inCall() const { return window_->inCall(); }
 
 phone::PHRecentsViewController *Session::recents() const {
     const auto *const screen = dynamic_cast<RecentsScreen *>(screen_.get());
@@ -91,6 +94,9 @@ void Session::perform(const Step &step, std::ostream &out) {
         out << tree();
         break;
     default:
+        if (window_->isCovered() && dynamic_cast<InCallScreen *>(screen_.get()) == nullptr) {
+            throw Failure("a call covers the screen; end it and let its end be shown first");
+        }
         screen_->perform(step);
     }
     printOpened(out, opened);
@@ -99,10 +105,21 @@ void Session::perform(const Step &step, std::ostream &out) {
 void Session::wait(std::chrono::milliseconds time) {
     window_->layout();  // as it would have been when the last step was over
     letTimePass(time, [this] {
+        window_->hand().timeHasPassed();
         window_->layout();
         return false;
     });
     screen_->timeHasPassed();
+}
+
+void Session::leap(std::chrono::milliseconds time) {
+    const objc::AutoreleasePool pool;
+    window_->layout();
+    leapTime(time, [this](std::chrono::milliseconds passed) {
+        window_->hand().timeHasPassed();
+        sim::Motion::shared().advance(passed);
+        window_->layout();
+    });
 }
 
 void Session::startOver() {

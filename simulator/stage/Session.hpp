@@ -54,7 +54,7 @@ class Session {
 
     /// The keypad's controller, also while a call covers it; null while another tab is shown.
     phone::DialerController *dialer() const;
-    /// The in-call screen's controller; null while another screen is shown.
+    /// The in-call screen's controller; null while it is not shown.
     phone::InCallController *inCall() const;
 
     /// The recents' controller; null while another screen is shown.
@@ -65,10 +65,14 @@ class Session {
     void perform(const Step &step, std::ostream &out);
     /// Lets simulated time pass; it stands still otherwise.
     void wait(std::chrono::milliseconds time);
+    /// Lets it pass at once, for whoever watches (see Watching).
+    void leap(std::chrono::milliseconds time);
     /// Brings the world back as it was at the start, and opens a keypad. Whatever the companion
     /// still owes an answer is waited for, for some seconds of the simulation.
     void startOver();
 
+    /// The telephone: its screen and the hand that touches it.
+    PhoneWindow &window() { return *window_; }
     /// The screen's view tree, laid out.
     std::string tree() const { return window_->tree(); }
     /// The screen as it is seen.
@@ -81,6 +85,7 @@ class Session {
 
   private:
     std::unique_ptr<Screen> makeScreen(const Opening &opening);
+    std::vector<companion::RecentCall> recentCalls() const;
 
     Settings settings_;
     std::vector<companion::RecentCall> calls_;  // of the user's own file

@@ -52,4 +52,21 @@ void letTimePass(std::chrono::milliseconds time, const std::function<bool()> &af
     afterTurn();
 }
 
+void leapTime(std::chrono::milliseconds time,
+              const std::function<void(std::chrono::milliseconds)> &afterEach) {
+    constexpr std::chrono::milliseconds kShortest{1};
+    auto &clock = companion::SimulatedTime::shared();
+    auto &delayed = DelayedMessages::shared();
+    const auto end = clock.now() + time;
+    do {
+        const objc::AutoreleasePool pool;
+        const auto before = clock.now();
+        const auto due = std::max(delayed.next().value_or(end), before + kShortest);
+        clock.leap(std::min(due, end) - before);
+        turn(dateIn(0));
+        delayed.sendDue(clock.now());
+        afterEach(clock.now() - before);
+    } while (clock.now() < end);
+}
+
 }  // namespace stage

@@ -1,6 +1,8 @@
 // A finger builds the touch and its event as the system would and hands them to the window.
 #include "uikit/Finger.hpp"
 
+#include <cmath>
+
 #include "uikit/Foundation.hpp"
 
 namespace sim {
@@ -20,14 +22,30 @@ Finger::Finger(SimWindow *window, Point at)
 
 Finger::~Finger() { cancel(); }
 
-void Finger::proceed(TouchPhase phase, Point at) {
+void Finger::proceed(TouchPhase phase, Point at, Milliseconds after) {
     if (!down_) {
         return;
     }
-    down_ = phase == TouchPhase::Moved;
+    const objc::AutoreleasePool pool;
+    down_ = phase == TouchPhase::Moved || phase == TouchPhase::Stationary;
     at_ = at;
-    touch_->move(phase, at);
+    touch_->move(phase, at, touch_->time() + after);
     objc::send<void(SimEvent *)>(window_.get(), "sendEvent:"_sel, event_);
+    objc::send<void()>(window_.get(), "layoutIfNeeded"_sel);
+}
+
+void Finger::slideTo(Point at, CGFloat step) {
+    const Point from = at_;
+    const CGFloat way = std::hypot(at.x - from.x, at.y - from.y);
+    for (CGFloat gone = step; gone < way; gone += step) {
+        moveTo({from.x + (at.x - from.x) / way * gone, from.y + (at.y - from.y) / way * gone});
+    }
+    moveTo(at);
+}
+
+void Finger::hold() {
+    constexpr Milliseconds kPress{200};
+    rest(kPress);
 }
 
 void tap(SimWindow *window, Point at) { Finger(window, at).lift(); }

@@ -58,36 +58,54 @@ void SimControl::sendAction(SEL action, NSObject target, SimEvent *event) {
         sim::handle<NSObject>(this), event);
 }
 
-/// A touch without an event, sent by hand, counts as inside.
-bool SimControl::isInside(SimEvent *event) {
+/// A finger is thick, so a touch stays inside for a good way beyond the edges: some 70 points, as
+/// people have found on telephones. A touch without an event, sent by hand, counts as inside.
+bool SimControl::isNear(SimEvent *event) const {
+    constexpr CGFloat kMargin = 70;
+    const CGSize size = bounds().size;
     return event == nullptr ||
-           objc::send<bool(CGPoint, SimEvent *)>(id(*this), "pointInside:withEvent:"_sel,
-                                                 event->touch()->locationInView(this), event);
+           sim::contains(
+               rect(-kMargin, -kMargin, size.width + 2 * kMargin, size.height + 2 * kMargin),
+               event->touch()->locationInView(const_cast<SimControl *>(this)));
+}
+
+void SimControl::track(bool tracking, bool inside) {
+    tracking_ = tracking;
+    inside_ = inside;
+    objc::send<void(bool)>(id(*this), "setHighlighted:"_sel, tracking && inside);
 }
 
 void SimControl::touchesBegan(NSObject, SimEvent *event) {
     if (enabled_) {
-        objc::send<void(bool)>(id(*this), "setHighlighted:"_sel, true);
+        track(true, true);
         send(kTouchDown, event);
     }
 }
 
 void SimControl::touchesMoved(NSObject, SimEvent *event) {
-    if (enabled_) {
-        objc::send<void(bool)>(id(*this), "setHighlighted:"_sel, isInside(event));
+    if (!tracking_) {
+        return;
     }
+    const bool was = inside_;
+    const bool is = isNear(event);
+    track(true, is);
+    if (was != is) {
+        send(is ? kTouchDragEnter : kTouchDragExit, event);
+    }
+    send(is ? kTouchDragInside : kTouchDragOutside, event);
 }
 
 void SimControl::touchesEnded(NSObject, SimEvent *event) {
-    if (enabled_) {
-        objc::send<void(bool)>(id(*this), "setHighlighted:"_sel, false);
-        send(isInside(event) ? kTouchUpInside : kTouchUpOutside, event);
+    if (tracking_) {
+        const bool inside = isNear(event);
+        track(false, false);
+        send(inside ? kTouchUpInside : kTouchUpOutside, event);
     }
 }
 
 void SimControl::touchesCancelled(NSObject, SimEvent *event) {
-    if (enabled_) {
-        objc::send<void(bool)>(id(*this), "setHighlighted:"_sel, false);
+    if (tracking_) {
+        track(false, false);
         send(kTouchCancel, event);
     }
 }
@@ -104,6 +122,8 @@ void SimControl::define() {
             .method("isHighlighted"_sel, member<&SimControl::isHighlighted>)
             .method("setHighlighted:"_sel, member<&SimControl::setHighlighted>)
             .method("state"_sel, member<&SimControl::state>)
+            .method("isTracking"_sel, member<&SimControl::isTracking>)
+            .method("isTouchInside"_sel, member<&SimControl::isTouchInside>)
             .method("addTarget:action:forControlEvents:"_sel, member<&SimControl::addTarget>)
             .method("removeTarget:action:forControlEvents:"_sel, member<&SimControl::removeTarget>)
             .method("sendActionsForControlEvents:"_sel,

@@ -7,6 +7,10 @@ class SimTouch;
 
 /// UIControlEvents and UIControlState, as far as they occur and the add-on does not know them too.
 inline constexpr NSUInteger kTouchDown = 1U << 0U;
+inline constexpr NSUInteger kTouchDragInside = 1U << 2U;
+inline constexpr NSUInteger kTouchDragOutside = 1U << 3U;
+inline constexpr NSUInteger kTouchDragEnter = 1U << 4U;
+inline constexpr NSUInteger kTouchDragExit = 1U << 5U;
 inline constexpr NSUInteger kTouchUpOutside = 1U << 7U;
 inline constexpr NSUInteger kTouchCancel = 1U << 8U;
 inline constexpr NSUInteger kValueChanged = 1U << 12U;
@@ -26,6 +30,9 @@ class SimControl : public SimView {
     bool isHighlighted() const { return highlighted_; }
     void setHighlighted(bool highlighted) { change(highlighted_, highlighted); }
     NSUInteger state() const;
+    /// A finger that came down on the control is still there; and not too far away.
+    bool isTracking() const { return tracking_; }
+    bool isTouchInside() const { return inside_; }
 
     /// Targets are not retained; a nil target means the first responder that knows the action.
     void addTarget(NSObject target, SEL action, NSUInteger events);
@@ -49,10 +56,13 @@ class SimControl : public SimView {
 
     void change(bool &flag, bool value);
     void send(NSUInteger events, SimEvent *event);
-    bool isInside(SimEvent *event);
+    bool isNear(SimEvent *event) const;
+    void track(bool tracking, bool inside);
 
     std::vector<Action> actions_;
     bool enabled_ = true;
     bool selected_ = false;
     bool highlighted_ = false;
+    bool tracking_ = false;
+    bool inside_ = false;
 };

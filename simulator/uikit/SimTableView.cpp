@@ -30,6 +30,7 @@ auto ask(NSObject delegate, objc::Selector<name> selector,
 id SimTableView::initWithFrame(CGRect frame) {
     objc::sendSuper<SimTableView, id(CGRect)>(this, "initWithFrame:"_sel, frame);
     setBackgroundColor(SimColor::make(sim::kWhite));
+    setAlwaysBounceVertical(true);
     return *this;
 }
 
@@ -66,9 +67,12 @@ void SimTableView::setTableHeaderView(UIView view) {
     reloadData();
 }
 
-/// What is out of sight is neither swiped open nor looked at.
+/// What is out of sight is neither swiped open nor looked at nor touched.
 void SimTableView::recycle(Owned<UIView> cell) {
-    instance<SimTableViewCell>(cell.get())->closeSwipe();
+    auto *const gone = instance<SimTableViewCell>(cell.get());
+    gone->closeSwipe();
+    gone->setHighlightedAnimated(false, false);
+    gone->setSelectedAnimated(false, false);
     cell->removeFromSuperview();
     reusable_.push_back(std::move(cell));
 }
@@ -83,6 +87,8 @@ void SimTableView::reloadData() {
         section.headerView->removeFromSuperview();
     }
     sections_.clear();
+    touched_ = {};
+    selected_ = {};
     loaded_ = false;
     setNeedsLayout();
 }
@@ -99,6 +105,9 @@ void SimTableView::loadIfNeeded() {
         y = measureSection(section, y);
     }
     setContentSize({bounds().size.width, y});
+    if (!isDragging() && contentOffset() != nearestRest(contentOffset())) {
+        setContentOffsetAnimated(nearestRest(contentOffset()), false);
+    }
 }
 
 /// Returns the y below the section.
@@ -155,6 +164,15 @@ SimTableViewCell *SimTableView::cellForRowAtIndexPath(NSObject indexPath) const 
     return found != cells_.end() ? instance<SimTableViewCell>(found->second.get()) : nullptr;
 }
 
+NSObject SimTableView::indexPathForRowAtPoint(CGPoint point) const {
+    for (const auto &[place, cell] : cells_) {
+        if (sim::contains(cell->frame(), point)) {
+            return sim::indexPath(place.section, place.row);
+        }
+    }
+    return nullptr;
+}
+
 NSObject SimTableView::indexPathForCell(SimTableViewCell *cell) const {
     for (const auto &[place, known] : cells_) {
         if (instance<SimTableViewCell>(known.get()) == cell) {
@@ -188,17 +206,18 @@ SimTableViewCell *SimTableView::dequeueReusableCellWithIdentifier(NSString ident
     return instance<SimTableViewCell>(cell);
 }
 
-void SimTableView::scrollToRow(NSObject indexPath, NSInteger position, bool animated) {
-    constexpr NSInteger kTop = 1;
+CGPoint SimTableView::offsetShowing(NSObject indexPath) {
     const CGRect row = rectForRowAtIndexPath(indexPath);
     const CGRect seen = bounds();
-    CGFloat y = std::min(seen.origin.y, row.origin.y);
-    if (position == kTop) {
-        y = row.origin.y;
-    } else if (row.origin.y + row.size.height > seen.origin.y + seen.size.height) {
-        y = row.origin.y + row.size.height - seen.size.height;
-    }
-    setContentOffsetAnimated(nearestRest({seen.origin.x, y}), animated);
+    const CGFloat bottom = row.origin.y + row.size.height - seen.size.height;
+    return nearestRest({seen.origin.x, std::max(std::min(seen.origin.y, row.origin.y), bottom)});
+}
+
+void SimTableView::scrollToRow(NSObject indexPath, NSInteger position, bool animated) {
+    constexpr NSInteger kTop = 1;
+    const CGPoint top{contentOffset().x, rectForRowAtIndexPath(indexPath).origin.y};
+    setContentOffsetAnimated(position == kTop ? nearestRest(top) : offsetShowing(indexPath),
+                             animated);
 }
 
 void SimTableView::setEditing(bool editing) {
@@ -310,6 +329,7 @@ void SimTableView::define() {
                      .method("numberOfRowsInSection:"_sel, member<&T::numberOfRowsInSection>)
                      .method("rectForRowAtIndexPath:"_sel, member<&T::rectForRowAtIndexPath>)
                      .method("cellForRowAtIndexPath:"_sel, member<&T::cellForRowAtIndexPath>)
+                     .method("indexPathForRowAtPoint:"_sel, member<&T::indexPathForRowAtPoint>)
                      .method("indexPathForCell:"_sel, member<&T::indexPathForCell>)
                      .method("visibleCells"_sel, member<&T::visibleCells>)
                      .method("dequeueReusableCellWithIdentifier:"_sel,
@@ -320,5 +340,10 @@ void SimTableView::define() {
                      .method("setEditing:"_sel, member<&T::setEditing>)
                      .method("setEditing:animated:"_sel, member<&T::setEditingAnimated>)
                      .method("layoutSubviews"_sel, member<&T::layoutSubviews>)
+                     .method("indexPathForSelectedRow"_sel, member<&T::indexPathForSelectedRow>)
+                     .method("deselectRowAtIndexPath:animated:"_sel, member<&T::deselectRow>)
+                     .method("touchesBegan:withEvent:"_sel, member<&T::touchesBegan>)
+                     .method("touchesEnded:withEvent:"_sel, member<&T::touchesEnded>)
+                     .method("touchesCancelled:withEvent:"_sel, member<&T::touchesCancelled>)
                      .finish());
 }

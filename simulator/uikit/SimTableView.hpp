@@ -38,11 +38,15 @@ class SimTableView : public SimScrollView {
     NSInteger numberOfRowsInSection(NSInteger section);
     /// In the table's coordinates; a zero rectangle for a row that there is not.
     CGRect rectForRowAtIndexPath(NSObject indexPath);
+    /// The row on screen at that point of the table; nil where there is none.
+    NSObject indexPathForRowAtPoint(CGPoint point) const;
     /// Nil for a row that is not on screen.
     SimTableViewCell *cellForRowAtIndexPath(NSObject indexPath) const;
     NSObject indexPathForCell(SimTableViewCell *cell) const;
     NSArray visibleCells() const;
     SimTableViewCell *dequeueReusableCellWithIdentifier(NSString identifier);
+    /// The offset nearest to the present one that shows the whole row.
+    CGPoint offsetShowing(NSObject indexPath);
     /// Position 0: as little as is needed to show the whole row; 1: the row comes to the top.
     void scrollToRow(NSObject indexPath, NSInteger position, bool animated);
     bool isEditing() const { return editing_; }
@@ -50,6 +54,19 @@ class SimTableView : public SimScrollView {
     /// Passed on to every visible cell, and later to those that come into sight.
     void setEditingAnimated(bool editing, bool animated);
     void layoutSubviews();
+
+    /// The row that a finger tapped last; nil when none is selected any more.
+    NSObject indexPathForSelectedRow() const { return selected_; }
+    void deselectRow(NSObject indexPath, bool animated);
+    // A touch on a row highlights it; lifted there the finger selects it, which the delegate hears.
+    void touchesBegan(NSObject touches, SimEvent *event);
+    void touchesEnded(NSObject touches, SimEvent *event);
+    void touchesCancelled(NSObject touches, SimEvent *event);
+
+    /// The row that is swiped open, or under a finger; null when none is.
+    SimTableViewCell *swipedCell() const;
+    /// A finger that comes down anywhere else than on an open row closes it and does nothing more.
+    bool closesRowInstead(SimView *touched);
 
   private:
     struct RowFrame {
@@ -75,11 +92,16 @@ class SimTableView : public SimScrollView {
     void addCell(Place place, CGRect frame);
     void addHeader(NSInteger index, CGRect visible);
     CGRect rectAt(RowFrame row) const;
+    NSObject rowUnder(SimEvent *event);
+    SimTableViewCell *endTouch();
+    void select(NSObject indexPath);
 
     id dataSource_ = nullptr;
     std::vector<Section> sections_;
     std::map<Place, objc::Owned<UIView>> cells_;
     std::vector<objc::Owned<UIView>> reusable_;
+    objc::Owned<NSObject> touched_;  // index paths
+    objc::Owned<NSObject> selected_;
     objc::Owned<UIView> tableHeaderView_;
     objc::Owned<UIColor> separatorColor_;
     UIEdgeInsets separatorInset_{0, 15, 0, 0};

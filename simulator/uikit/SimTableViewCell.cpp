@@ -26,7 +26,10 @@ constexpr CGFloat kDetailPoints = 12;
 constexpr NSInteger kValueAtTheRight = 1;
 constexpr NSInteger kSubtitle = 3;
 constexpr CGFloat kEditRoom = 38;  // points that the content makes way while its table is edited
+constexpr NSInteger kNoSelection = 0;
+constexpr CGFloat kThickness = 0.5;  // of the line below
 constexpr sim::Color kSeparator{200 / 255.0, 199 / 255.0, 204 / 255.0, 1};
+constexpr sim::Color kTouched{217 / 255.0, 217 / 255.0, 217 / 255.0, 1};
 
 }  // namespace
 
@@ -126,12 +129,28 @@ SimTableView *SimTableViewCell::table() const {
     return parent.isKindOfClass("UITableView"_cls) ? instance<SimTableView>(parent) : nullptr;
 }
 
+void SimTableViewCell::setSelected(bool selected) {
+    objc::send<void(bool, bool)>(id(*this), "setSelected:animated:"_sel, selected, false);
+}
+
+void SimTableViewCell::setSelectedAnimated(bool selected, bool) { selected_ = selected; }
+
+void SimTableViewCell::setHighlighted(bool highlighted) {
+    objc::send<void(bool, bool)>(id(*this), "setHighlighted:animated:"_sel, highlighted, false);
+}
+
+void SimTableViewCell::setHighlightedAnimated(bool highlighted, bool) {
+    highlighted_ = highlighted;
+}
+
 void SimTableViewCell::drawRect(CGRect) {
-    constexpr CGFloat kThickness = 0.5;
-    const SimTableView *const owner = table();
     auto *const context = sim::GraphicsContext::current();
+    const SimTableView *const owner = table();
     if (owner == nullptr || context == nullptr) {
         return;
+    }
+    if ((highlighted_ || selected_) && selectionStyle_ != kNoSelection) {
+        context->canvas.fill(bounds(), kTouched);
     }
     const UIEdgeInsets inset = owner->separatorInset();
     const CGSize size = bounds().size;
@@ -171,31 +190,36 @@ void SimTableViewCell::placeParts(CGSize room) {
 void SimTableViewCell::define() {
     using objc::member;
     using C = SimTableViewCell;
-    sim::defined("UITableViewCell",
-                 objc::ClassBuilder<C>("UITableViewCell", "UIView")
-                     .method("initWithFrame:"_sel, member<&C::initWithFrame>)
-                     .method("initWithStyle:reuseIdentifier:"_sel, member<&C::initWithStyle>)
-                     .method("reuseIdentifier"_sel, member<&C::reuseIdentifier>)
-                     .method("contentView"_sel, member<&C::contentView>)
-                     .method("textLabel"_sel, member<&C::textLabel>)
-                     .method("detailTextLabel"_sel, member<&C::detailTextLabel>)
-                     .method("imageView"_sel, member<&C::imageView>)
-                     .method("isEditing"_sel, member<&C::isEditing>)
-                     .method("setEditing:"_sel, member<&C::setEditing>)
-                     .method("setEditing:animated:"_sel, member<&C::setEditingAnimated>)
-                     .method("isSelected"_sel, member<&C::isSelected>)
-                     .method("setSelected:"_sel, member<&C::setSelected>)
-                     .method("isHighlighted"_sel, member<&C::isHighlighted>)
-                     .method("setHighlighted:"_sel, member<&C::setHighlighted>)
-                     .method("accessoryType"_sel, member<&C::accessoryType>)
-                     .method("setAccessoryType:"_sel, member<&C::setAccessoryType>)
-                     .method("selectionStyle"_sel, member<&C::selectionStyle>)
-                     .method("setSelectionStyle:"_sel, member<&C::setSelectionStyle>)
-                     .method("prepareForReuse"_sel, member<&C::prepareForReuse>)
-                     .method("layoutSubviews"_sel, member<&C::layoutSubviews>)
-                     .method("drawRect:"_sel, member<&C::drawRect>)
-                     .method("deletePressed:"_sel, member<&C::deletePressed>)
-                     .method("scrollViewWillEndDragging:withVelocity:targetContentOffset:"_sel,
-                             member<&C::scrollViewWillEndDragging>)
-                     .finish());
+    sim::defined(
+        "UITableViewCell",
+        objc::ClassBuilder<C>("UITableViewCell", "UIView")
+            .method("initWithFrame:"_sel, member<&C::initWithFrame>)
+            .method("initWithStyle:reuseIdentifier:"_sel, member<&C::initWithStyle>)
+            .method("reuseIdentifier"_sel, member<&C::reuseIdentifier>)
+            .method("contentView"_sel, member<&C::contentView>)
+            .method("textLabel"_sel, member<&C::textLabel>)
+            .method("detailTextLabel"_sel, member<&C::detailTextLabel>)
+            .method("imageView"_sel, member<&C::imageView>)
+            .method("isEditing"_sel, member<&C::isEditing>)
+            .method("setEditing:"_sel, member<&C::setEditing>)
+            .method("setEditing:animated:"_sel, member<&C::setEditingAnimated>)
+            .method("isSelected"_sel, member<&C::isSelected>)
+            .method("setSelected:"_sel, member<&C::setSelected>)
+            .method("setSelected:animated:"_sel, member<&C::setSelectedAnimated>)
+            .method("isHighlighted"_sel, member<&C::isHighlighted>)
+            .method("setHighlighted:"_sel, member<&C::setHighlighted>)
+            .method("setHighlighted:animated:"_sel, member<&C::setHighlightedAnimated>)
+            .method("accessoryType"_sel, member<&C::accessoryType>)
+            .method("setAccessoryType:"_sel, member<&C::setAccessoryType>)
+            .method("selectionStyle"_sel, member<&C::selectionStyle>)
+            .method("setSelectionStyle:"_sel, member<&C::setSelectionStyle>)
+            .method("prepareForReuse"_sel, member<&C::prepareForReuse>)
+            .method("layoutSubviews"_sel, member<&C::layoutSubviews>)
+            .method("drawRect:"_sel, member<&C::drawRect>)
+            .method("deletePressed:"_sel, member<&C::deletePressed>)
+            .method("scrollViewWillBeginDragging:"_sel, member<&C::scrollViewWillBeginDragging>)
+            .method("scrollViewDidEndDecelerating:"_sel, member<&C::scrollViewDidEndDecelerating>)
+            .method("scrollViewWillEndDragging:withVelocity:targetContentOffset:"_sel,
+                    member<&C::scrollViewWillEndDragging>)
+            .finish());
 }

@@ -29,32 +29,37 @@ class SimTableViewCell : public SimView {
     bool isEditing() const { return editing_; }
     void setEditing(bool editing);
     void setEditingAnimated(bool editing, bool animated);
+    /// Highlighted under a finger, selected when it has been tapped: grey either way.
     bool isSelected() const { return selected_; }
-    void setSelected(bool selected) { selected_ = selected; }
+    void setSelected(bool selected);
+    void setSelectedAnimated(bool selected, bool animated);
     bool isHighlighted() const { return highlighted_; }
-    void setHighlighted(bool highlighted) { highlighted_ = highlighted; }
+    void setHighlighted(bool highlighted);
+    void setHighlightedAnimated(bool highlighted, bool animated);
     NSInteger accessoryType() const { return accessoryType_; }
     void setAccessoryType(NSInteger type) { accessoryType_ = type; }
     NSInteger selectionStyle() const { return selectionStyle_; }
     void setSelectionStyle(NSInteger style) { selectionStyle_ = style; }
     void prepareForReuse() {}
     void layoutSubviews();
-    /// The line below the cell, in the way its table wants it.
+    /// The grey of a touched cell, and the line below in the way its table wants it.
     void drawRect(CGRect rect);
 
     /// Whether a delete button stands beside the content, under a finger's swipe or left open.
     bool isSwiped() const { return static_cast<bool>(confirmation_); }
-    /// A finger begins to swipe: the delete button is there and the cell is being edited. False,
-    /// and nothing is changed, from iOS 8 on and in a cell that is edited together with its table.
-    bool beginSwipe();
-    /// The finger moves, a few points at a time, until the content lies that far to the left.
-    void dragSwipeTo(CGFloat points);
-    /// The finger is lifted, at a velocity in points a millisecond, positive to the left.
-    void endSwipe(CGFloat velocity);
+    /// Before iOS 8, where the table's data source deletes rows, and not in a cell that is edited
+    /// together with its table.
+    bool canBeSwiped() const;
+    /// A finger begins to swipe: the delete button is there, and the cell is being edited.
+    void scrollViewWillBeginDragging(SimScrollView *scrollView);
     /// The system's choice, whatever `target` was before: a cell that moves goes on as it does, one
     /// that stands opens when it shows half of what it has to reveal; open is wholly open.
     void scrollViewWillEndDragging(SimScrollView *scrollView, CGPoint velocity, CGPoint *target);
-    /// Back to the plain cell, however far it was swiped.
+    /// A cell that has come back to its place is a plain one again.
+    void scrollViewDidEndDecelerating(SimScrollView *scrollView);
+    /// Runs back to its place.
+    void foldSwipe();
+    /// A plain cell at once, however far it was swiped.
     void closeSwipe();
     /// What a swipe reveals, in points; 0 in a cell that is not swiped.
     CGFloat swipeWidth() const { return confirmation_->frame().size.width; }

@@ -1,6 +1,6 @@
 // UITableViewCell under a finger that swipes it, as iOS 7 has it: the content and, right of it, the
 // delete confirmation lie in the cell's scroll view and move with its offset.
-#include <algorithm>
+#include <utility>
 
 #include "uikit/Foundation.hpp"
 #include "uikit/SimDeleteConfirmation.hpp"
@@ -12,6 +12,7 @@ using sim::handle;
 namespace {
 
 constexpr NSInteger kDeleteStyle = 1;
+constexpr auto kCommit = "tableView:commitEditingStyle:forRowAtIndexPath:"_sel;
 
 void setRightInset(SimScrollView *view, CGFloat points) {
     UIEdgeInsets inset = view->contentInset();
@@ -21,37 +22,24 @@ void setRightInset(SimScrollView *view, CGFloat points) {
 
 }  // namespace
 
-bool SimTableViewCell::beginSwipe() {
-    if (!scrollView_ || (editing_ && !isSwiped())) {
-        return false;
-    }
-    scrollView()->beginDragging();
+bool SimTableViewCell::canBeSwiped() const {
+    const SimTableView *const owner = table();
+    const NSObject source = owner != nullptr ? owner->dataSource() : NSObject();
+    return scrollView_ && (isSwiped() || !editing_) && source != nullptr &&
+           source.respondsToSelector(kCommit);
+}
+
+void SimTableViewCell::scrollViewWillBeginDragging(SimScrollView *) {
     if (isSwiped()) {
-        return true;
+        return;
     }
     confirmation_ = SimDeleteConfirmationView::make(bounds().size, handle<NSObject>(this));
     scrollView_->addSubview(confirmation_);
     objc::send<void(bool, bool)>(id(*this), "setEditing:animated:"_sel, true, true);
-    return true;
 }
 
-void SimTableViewCell::dragSwipeTo(CGFloat points) {
-    constexpr CGFloat kStep = 8;
-    const CGFloat end = isSwiped() ? std::max<CGFloat>(points, 0) : 0;
-    CGFloat x = isSwiped() ? scrollView()->contentOffset().x : 0;
-    while (x != end) {
-        x = end > x ? std::min(end, x + kStep) : std::max(end, x - kStep);
-        objc::send<void(CGPoint)>(scrollView_, "setContentOffset:"_sel, CGPoint{x, 0});
-        objc::send<void()>(id(*this), "layoutIfNeeded"_sel);
-    }
-}
-
-void SimTableViewCell::endSwipe(CGFloat velocity) {
-    if (!isSwiped()) {
-        return;
-    }
-    scrollView()->endDragging({velocity, 0});
-    if (scrollView()->contentOffset().x <= 0) {
+void SimTableViewCell::scrollViewDidEndDecelerating(SimScrollView *scrollView) {
+    if (scrollView->contentOffset().x <= 0) {
         closeSwipe();
     }
 }
@@ -65,11 +53,18 @@ void SimTableViewCell::scrollViewWillEndDragging(SimScrollView *scrollView, CGPo
     *target = {staysOpen ? width : 0, 0};
 }
 
+void SimTableViewCell::foldSwipe() {
+    if (isSwiped()) {
+        setRightInset(scrollView(), 0);
+        scrollView()->runTo({});
+    }
+}
+
 void SimTableViewCell::closeSwipe() {
     if (!isSwiped()) {
         return;
     }
-    scrollView()->cancelDragging();
+    scrollView()->standStill();
     setRightInset(scrollView(), 0);
     objc::send<void(CGPoint)>(scrollView_, "setContentOffset:"_sel, CGPoint{});
     const auto confirmation = std::exchange(confirmation_, {});
@@ -78,7 +73,6 @@ void SimTableViewCell::closeSwipe() {
 }
 
 void SimTableViewCell::deletePressed(NSObject) {
-    constexpr auto kCommit = "tableView:commitEditingStyle:forRowAtIndexPath:"_sel;
     SimTableView *const owner = table();
     const NSObject source = owner != nullptr ? owner->dataSource() : NSObject();
     if (source != nullptr && source.respondsToSelector(kCommit)) {

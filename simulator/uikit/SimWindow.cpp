@@ -41,29 +41,7 @@ bool SimWindow::isKeyWindow() const { return SimApplication::shared()->keyWindow
 
 SimResponder *SimWindow::nextResponder() { return SimApplication::shared(); }
 
-void SimWindow::sendEvent(SimEvent *event) {
-    const UIView view = event->touch()->view();
-    const NSObject touches = event->allTouches();
-    const auto tell = [&](auto message) {
-        objc::send<void(NSObject, SimEvent *)>(view, message, touches, event);
-    };
-    switch (event->touch()->phase()) {
-    case TouchPhase::Began:
-        tell("touchesBegan:withEvent:"_sel);
-        break;
-    case TouchPhase::Moved:
-        tell("touchesMoved:withEvent:"_sel);
-        break;
-    case TouchPhase::Ended:
-        tell("touchesEnded:withEvent:"_sel);
-        break;
-    case TouchPhase::Cancelled:
-        tell("touchesCancelled:withEvent:"_sel);
-        break;
-    case TouchPhase::Stationary:
-        break;
-    }
-}
+void SimWindow::sendEvent(SimEvent *event) { event->touch()->delivery().handle(event); }
 
 void SimWindow::define() {
     using objc::member;

@@ -16,7 +16,7 @@ class SimWindow : public SimView {
     void makeKeyAndVisible();
     bool isKeyWindow() const;
     SimResponder *nextResponder();
-    /// Sends each touch of the event to its view in the touch's phase.
+    /// Takes the event's touch on its way (see TouchDelivery).
     void sendEvent(SimEvent *event);
 
   private:

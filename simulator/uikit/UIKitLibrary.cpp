@@ -12,6 +12,7 @@
 #include "uikit/SimImageView.hpp"
 #include "uikit/SimLabel.hpp"
 #include "uikit/SimScreen.hpp"
+#include "uikit/SimSegmentedControl.hpp"
 #include "uikit/SimTableView.hpp"
 #include "uikit/SimTableViewCell.hpp"
 #include "uikit/SimTableViewCellScrollView.hpp"
@@ -42,6 +43,7 @@ namespace {
     SimImageView::define();
     SimControl::define();
     SimButton::define();
+    SimSegmentedControl::define();
     SimScrollView::define();
     SimTableViewCellScrollView::define();
     SimDeleteConfirmationButton::define();

@@ -1,10 +1,14 @@
 // A telephone with one controller on its screen, without any add-on.
 #pragma once
 
+#include <cmath>
+#include <optional>
+
 #include <gmock/gmock.h>
 
 #include "phone/Parts.hpp"
 #include "phone/dialer/ContactBook.hpp"
+#include "stage/Hand.hpp"
 #include "stage/VisibleTexts.hpp"
 #include "uikit/Device.hpp"
 #include "uikit/Finger.hpp"
@@ -31,11 +35,18 @@ class PhoneRun : public testing::Test {
         window_ = sim::instance<SimWindow>(windowOwner_);
         auto *const shown = sim::instance<Controller>(controller);
         window_->setRootViewController(shown);
+        hand_.emplace(window_);
         return shown;
     }
 
     void layOut() const { objc::send<void()>(windowOwner_.get(), "layoutIfNeeded"_sel); }
     static void tap(UIView view) { sim::tap(sim::instance<SimView>(view)); }
+    /// A finger that stays on the screen has gone that way from there, slowly.
+    void drag(sim::Point from, sim::Point way) {
+        const CGFloat length = std::hypot(way.x, way.y);
+        hand_->beginDrag(from, {way.x / length, way.y / length});
+        hand_->dragOn(way, 8);
+    }
     std::string says(UIView view, UIView except = {}) const {
         layOut();
         return stage::joinedTexts(view, except);
@@ -44,6 +55,7 @@ class PhoneRun : public testing::Test {
     objc::AutoreleasePool pool_;
     objc::Owned<UIView> windowOwner_;
     SimWindow *window_ = nullptr;
+    std::optional<stage::Hand> hand_;
 };
 
 }  // namespace test

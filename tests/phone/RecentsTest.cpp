@@ -4,6 +4,7 @@
 #include "PhoneRun.hpp"
 #include "objc/Ivar.hpp"
 #include "phone/Classes.hpp"
+#include "phone/PlaceCall.hpp"
 #include "phone/contact/ABContactViewController.hpp"
 #include "phone/recents/PHRecentCall.hpp"
 #include "phone/recents/PHRecentsCell.hpp"
@@ -59,10 +60,10 @@ TEST_F(Recents, ManyRowsShareAFewCells) {
     EXPECT_FALSE(list_->scrollToRow(kRows));
 }
 
-TEST_F(Recents, SwipesOpenOrShutByHalf) {
+TEST_F(Recents, SwipesOpenOrShutByHalfOrAsTheFingerLeaves) {
     start({{.number = "13000000001", .date = kNoon}, {.number = "13000000002", .date = kNoon}});
-    ASSERT_TRUE(list_->swipe(0, 20));
-    layOut();
+    const sim::Point first{300, 64 + 24};
+    drag(first, {-20, 0});
     const auto confirmation =
         list_->cell(0)->scrollView()->subviews().objectAtIndex(1).as<UIView>();
     const auto button = confirmation.subviews().objectAtIndex(0).as<UIView>();
@@ -71,25 +72,64 @@ TEST_F(Recents, SwipesOpenOrShutByHalf) {
     EXPECT_EQ(button.subviews().objectAtIndex(0).as<UIView>().frame(), rect(15, 12.75, 52, 22));
     confirmation.setFrame(rect(320, 0, 144, 48));
     EXPECT_EQ(button.frame(), rect(62, 0, 82, 47.5)) << "it keeps to the right";
-    list_->closeSwipe();
+    hand_->release();
     const struct {
-        CGFloat points, velocity, rest;
-    } rows[] = {{40, 0, 0}, {41, 0, 82}, {10, 1, 82}, {80, -1, 0}};
-    for (const auto &[points, velocity, rest] : rows) {
-        ASSERT_TRUE(list_->swipe(0, points));
-        ASSERT_TRUE(list_->releaseSwipe(velocity));
-        EXPECT_EQ(list_->cell(0)->scrollView()->contentOffset().x, rest) << points;
-        EXPECT_EQ(list_->swipedRow(), rest > 0 ? 0 : -1);
-        list_->closeSwipe();
+        CGFloat points, last, rest;
+    } rows[] = {{40, 0, 0}, {41, 0, 82}, {9, -1, 82}, {81, 1, 0}};
+    for (const auto &[points, last, rest] : rows) {
         EXPECT_EQ(list_->cell(0)->scrollView()->children().size(), 1U) << "the content alone";
+        drag(first, {-points, 0});
+        EXPECT_EQ(list_->cell(0)->scrollView()->contentOffset().x, points);
+        hand_->leave({last, 0});
+        EXPECT_EQ(list_->cell(0)->scrollView()->contentOffset().x, rest) << points;
+        EXPECT_EQ(list_->swipedCell(), rest > 0 ? list_->cell(0) : nullptr);
+        hand_->tap({160, 500});
     }
-    EXPECT_FALSE(list_->releaseSwipe());
-    ASSERT_TRUE(list_->swipeOpen(0));
-    ASSERT_TRUE(list_->swipeOpen(1));
-    EXPECT_EQ(list_->swipedRow(), 1) << "one at a time";
-    sim::tap(window_, {300, 64 + 48 + 24});
+    drag(first, {-50, 0});
+    hand_->release();
+    const sim::Point second{300, 64 + 48 + 24};
+    drag(second, {-50, 0});
+    EXPECT_EQ(list_->swipedCell(), nullptr) << "the touch closes the other one";
+    drag(second, {-50, 0});
+    hand_->release();
+    hand_->tap(second);
     EXPECT_EQ(list_->rowCount(), 1);
     EXPECT_EQ(says(UIView(*list_->cell(0))), "130 0000 0001 | 未知 | 12:00");
+}
+
+TEST_F(Recents, RowsCallWhenTheyAreTappedAndScrollWhenTheyAreDragged) {
+    std::string called;
+    phone::setCallPlacer([&](NSString number) { called += sim::utf8(number) + ' '; });
+    std::vector<phone::RecentCallFacts> calls(99, {.number = "1", .answered = false});
+    calls[1] = {.number = "22"};
+    calls[2] = {.number = "luna@example.org"};
+    start(calls);
+    const auto isGrey = [&](NSInteger row) { return list_->cell(row)->isHighlighted(); };
+    const auto at = [](int row) { return sim::Point{160, 64 + 48.0 * row + 24}; };
+    for (const int row : {1, 2, 0}) {
+        hand_->tap(at(row));
+    }
+    EXPECT_EQ(called, "22 1 ");
+    hand_->press(at(1));
+    EXPECT_TRUE(isGrey(1));
+    hand_->dragOn({0, -59}, 10);
+    EXPECT_FALSE(isGrey(1)) << "the list has the touch";
+    EXPECT_EQ(list_->table()->contentOffset(), (CGPoint{0, 49}));
+    hand_->dragOn({-90, 109}, 10);
+    EXPECT_EQ(list_->swipedCell(), nullptr);
+    EXPECT_NEAR(list_->table()->contentOffset().y, -30, 5) << "half of it, beyond the top";
+    EXPECT_FALSE(hand_->tap(list_->cell(9)));
+    hand_->release();
+    EXPECT_EQ(list_->table()->contentOffset().y, 0);
+    drag(at(5), {0, -100});
+    hand_->leave({0, -16});
+    EXPECT_NEAR(list_->table()->contentOffset().y, 116 + 499, 1);
+    hand_->tap({200, 42});
+    EXPECT_EQ(list_->rowCount(), 97) << "the missed ones";
+    hand_->tap({120, 42});
+    EXPECT_EQ(list_->rowCount(), 99);
+    EXPECT_EQ(called, "22 1 ");
+    phone::setCallPlacer({});
 }
 
 TEST_F(Recents, DetailsAreOfTheCallsContactOrStranger) {
@@ -111,7 +151,7 @@ TEST_F(Recents, DetailsAreOfTheCallsContactOrStranger) {
                     reinterpret_cast<IMP>(&willAppear), reinterpret_cast<IMP *>(&g_willAppear));
     NSInteger row = 0;
     for (const auto &[head, recordId, numbers] : rows) {
-        ASSERT_TRUE(list_->openDetail(row++));
+        tap(list_->cell(row++)->infoButton());
         const NSObject contact = list_->detail()->contact();
         phone::ABContactHeaderView *const header = list_->detail()->headerView();
         EXPECT_EQ(says(UIView(*header)), head);
@@ -120,12 +160,10 @@ TEST_F(Recents, DetailsAreOfTheCallsContactOrStranger) {
         header->nameLabel().setFrame({});
         send<void(id)>(*header, "layoutSublayersOfLayer:"_sel, nullptr);
         EXPECT_NE(header->nameLabel().frame(), CGRect{}) << "laid out by way of its layer";
-        EXPECT_FALSE(list_->swipe(0, 50));
         tap(list_->detail()->backButton());
         EXPECT_EQ(list_->detail(), nullptr);
         EXPECT_EQ(g_appearances, row);
     }
-    EXPECT_FALSE(list_->back());
 }
 
 TEST_F(Recents, CallsKnowWhatTheirSystemKnows) {

@@ -10,6 +10,7 @@
 namespace {
 
 using namespace std::chrono_literals;
+using Kind = stage::Step::Kind;
 
 class RecentsSession : public test::StageRun, public testing::WithParamInterface<const char *> {
   protected:
@@ -34,6 +35,12 @@ class RecentsSession : public test::StageRun, public testing::WithParamInterface
         list().setCalls(sim::array(calls));
     }
     static bool isBefore8() { return std::string_view(GetParam()) < "8"; }
+    /// False from iOS 8 on, where there is no swipe.
+    bool swipe(int row, std::optional<double> points = {}) {
+        const stage::Step step{Kind::Swipe, {}, row, {}, points};
+        expectEach(session_, {{step, isBefore8() ? "done" : "rows can be swiped before iOS 8"}});
+        return isBefore8();
+    }
     phone::PHRecentsViewController &list() { return *session_.recents(); }
 
     /// Does it `count` times, and twice: what the first round leaves is the cache.
@@ -44,6 +51,7 @@ class RecentsSession : public test::StageRun, public testing::WithParamInterface
                 const objc::AutoreleasePool pool;
                 round(i);
             }
+            perform(session_, {{Kind::ScrollToRow, {}, 1}});
             return test::liveObjects();
         };
         test::liveObjects();
@@ -63,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(Systems, RecentsSession, testing::Values("7.0", "7.1", 
 
 TEST_P(RecentsSession, EveryTabWithATableIsReadAnewWhenItAppears) {
     const auto showTab = [&](const char *how) {
-        perform(session_, {{stage::Step::Kind::Tab, how}});
+        perform(session_, {{Kind::Tab, how}});
         return session_.tree();
     };
     showTab("favourites");
@@ -83,23 +91,22 @@ TEST_P(RecentsSession, TenThousandRowsThereAndBackLeaveNoObjectBehind) {
 TEST_P(RecentsSession, TwoHundredDetailsLeaveNoObjectBehind) {
     show(200);
     expectTheSameAgain(200, [&](int row) {
-        ASSERT_TRUE(list().scrollToRow(row) && list().openDetail(row));
-        session_.tree();
-        ASSERT_TRUE(list().back());
+        perform(session_, {{Kind::ScrollToRow, {}, row + 1}, {Kind::Open, {}, row + 1}});
+        perform(session_, {{Kind::Back}});
     });
 }
 
 TEST_P(RecentsSession, AReleasedRowIsWhollyOpenOrShutAsTheSystemDecides) {
     show(3);
-    ASSERT_EQ(list().swipe(0, 1), isBefore8());
     const struct {
-        CGFloat points, velocity, rest;
-    } rows[] = {{71, 0, 0}, {72, 0, 144}, {80, 0, 144}, {20, 1, 144}, {100, -1, 0}};
-    for (const auto &[points, velocity, rest] : rows) {
-        ASSERT_EQ(list().swipe(0, points) && list().releaseSwipe(velocity), isBefore8());
-        if (!isBefore8()) {
+        double points;
+        CGFloat last, rest;
+    } rows[] = {{71, 0, 0}, {72, 0, 144}, {80, 0, 144}, {20, -1, 144}, {100, 1, 0}};
+    for (const auto &[points, last, rest] : rows) {
+        if (!swipe(1, points)) {
             return;
         }
+        session_.window().hand().leave({last, 0});
         EXPECT_EQ(list().cell(0)->scrollView()->contentOffset().x, rest) << points;
         list().closeSwipe();
     }
@@ -107,29 +114,28 @@ TEST_P(RecentsSession, AReleasedRowIsWhollyOpenOrShutAsTheSystemDecides) {
 
 TEST_P(RecentsSession, TheEndOfEditModeIsHeardOfOnceNoFingerDrags) {
     show(3);
-    const auto swiped = [&](CGFloat points) {
-        EXPECT_EQ(list().swipe(0, points), isBefore8());
-        return list().cell(0)->swipeWidth();
-    };
-    objc::send<void(bool, bool)>(list(), "setEditing:animated:"_sel, true, true);
+    perform(session_, {{Kind::Edit, "on"}, {Kind::Wait, {}, 1, 1s}, {Kind::Edit, "off"}});
+    const auto width = [&] { return list().cell(0)->swipeWidth(); };
+    if (!swipe(1, 20)) {
+        return;
+    }
+    EXPECT_EQ(width(), 82) << "the row counts as edited with its list";
     session_.wait(1s);
-    objc::send<void(bool, bool)>(list(), "setEditing:animated:"_sel, false, true);
-    EXPECT_EQ(swiped(20), isBefore8() ? 82 : 0) << "the row counts as edited with its list";
+    swipe(1, 40);
+    EXPECT_EQ(width(), 82) << "the finger still drags";
+    session_.window().hand().leave({9, 0});
     session_.wait(1s);
-    EXPECT_EQ(swiped(40), isBefore8() ? 82 : 0) << "the finger still drags";
-    list().releaseSwipe(-1);
-    session_.wait(1s);
-    EXPECT_EQ(swiped(20), isBefore8() ? 144 : 0);
-    list().releaseSwipe(-1);
+    swipe(1, 20);
+    EXPECT_EQ(width(), 144);
 }
 
 TEST_P(RecentsSession, TwoHundredSwipesLeaveNoObjectBehind) {
     show(200);
     expectTheSameAgain(200, [&](int row) {
-        ASSERT_TRUE(list().scrollToRow(row));
-        ASSERT_EQ(list().swipeOpen(row), isBefore8());
-        ASSERT_EQ(list().releaseSwipe(), isBefore8());
-        list().closeSwipe();
+        perform(session_, {{Kind::ScrollToRow, {}, row + 1}});
+        if (swipe(row + 1)) {
+            perform(session_, {{Kind::Release}});
+        }
     });
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "phone/PlaceCall.hpp"
 #include "uikit/Device.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/IndexPath.hpp"
@@ -25,6 +26,11 @@ constexpr NSInteger kActions = 1;
 constexpr NSInteger kBlocking = 2;
 
 NSArray numbersOf(NSObject contact) { return objc::send<NSArray()>(contact, "phoneNumbers"_sel); }
+
+NSString textOf(NSObject number) {
+    return objc::send<NSString()>(objc::send<NSObject()>(number, "value"_sel),
+                                  "formattedStringValue"_sel);
+}
 
 std::span<const char *const> actionsFor(NSObject contact) {
     if (objc::send<int32_t()>(contact, "recordID"_sel) < 0) {
@@ -55,11 +61,9 @@ SimTableViewCell *numberCell(NSObject number, CGFloat width) {
     SimTableViewCell *const cell = makeCell();
     constexpr CGFloat kIcon = 26;
     const CGFloat textWidth = width - kTextLeft - 100;
-    const auto value = objc::send<NSObject()>(number, "value"_sel);
-    addText(cell, objc::send<NSString()>(number, "label"_sel), rect(kTextLeft, 5, textWidth, 16),
-            13, tint());
-    addText(cell, objc::send<NSString()>(value, "formattedStringValue"_sel),
-            rect(kTextLeft, 21, textWidth, 20), 16, UIColor::blackColor());
+    addText(cell, objc::send<NSString()>(number, "label"_sel), rect(kTextLeft, 5, textWidth, 16), 13,
+            tint());
+    addText(cell, textOf(number), rect(kTextLeft, 21, textWidth, 20), 16, UIColor::blackColor());
     CGFloat x = width - 2 * (kIcon + 15);
     for (const char *icon : {"detail_message", "detail_call"}) {
         asView(*cell->contentView()).addSubview(makePicture(icon, {x, (kRowHeight - kIcon) / 2}));
@@ -93,6 +97,7 @@ void ABContactViewController::define() {
             .method("tableView:cellForRowAtIndexPath:"_sel, member<&Self::cellForRow>)
             .method("tableView:heightForHeaderInSection:"_sel, member<&Self::heightForHeader>)
             .method("tableView:viewForHeaderInSection:"_sel, member<&Self::viewForHeader>)
+            .method("tableView:didSelectRowAtIndexPath:"_sel, member<&Self::didSelectRow>)
             .finish());
 }
 
@@ -182,6 +187,14 @@ SimTableViewCell *ABContactViewController::cellForRow(SimTableView *table,
 
 CGFloat ABContactViewController::heightForHeader(SimTableView *, NSInteger section) const {
     return section == kNumbers ? 0 : kSectionGap;
+}
+
+void ABContactViewController::didSelectRow(SimTableView *table, NSObject indexPath) const {
+    table->deselectRow(indexPath, true);
+    if (sim::sectionOf(indexPath) == kNumbers) {
+        placeCall(textOf(
+            numbersOf(contact_).objectAtIndex(static_cast<NSUInteger>(sim::rowOf(indexPath)))));
+    }
 }
 
 }  // namespace phone

@@ -40,6 +40,8 @@ class ABContactViewController : public SimViewController {
     CGFloat heightForHeader(SimTableView *table, NSInteger section) const;
     /// The headers are empty: none has a view.
     UIView viewForHeader(SimTableView *, NSInteger) { return {}; }
+    /// A tap on a number calls it.
+    void didSelectRow(SimTableView *table, NSObject indexPath) const;
 
   private:
     PhoneNavigationBar *bar();

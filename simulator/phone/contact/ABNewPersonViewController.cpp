@@ -4,12 +4,14 @@
 #include "uikit/Device.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
+#include "uikit/SimControl.hpp"
 
 namespace phone {
 namespace {
 
 constexpr CGFloat kBarBottom = 64;
 constexpr CGFloat kMargin = 15;
+constexpr CGFloat kCancelWidth = 80;
 
 NSArray one(NSString text) {
     const id object = text;
@@ -57,6 +59,9 @@ void ABNewPersonViewController::loadView() {
     const auto line = makeView<SimView>(rect(0, kBarBottom, screen.width, 0.5));
     line->setBackgroundColor(color(178, 178, 178));
     view->addSubview(line);
+    const auto cancel = makeView<SimControl>(rect(0, 20, kCancelWidth, kBarBottom - 20));
+    onTouch(cancel, NSObject(*this), "cancel"_sel, kTouchUpInside);
+    view->addSubview(cancel);
     setView(objc::Wire<SimView *>::from(view->get()));
 }
 

@@ -2,6 +2,7 @@
 #include "phone/dialer/DialerController.hpp"
 
 #include "addressbook/AddressBook.hpp"
+#include "phone/PlaceCall.hpp"
 #include "phone/contact/ABNewPersonViewController.hpp"
 #include "phone/dialer/ContactBook.hpp"
 #include "phone/dialer/DialerView.hpp"
@@ -95,6 +96,7 @@ void DialerController::callPressed(NSObject) {
         number_ = lastCalled_;
     } else {
         lastCalled_ = number_;
+        placeCall(typedNumber());
     }
     showNumber();
 }

@@ -25,7 +25,7 @@ class DialerController : public PhoneViewController {
 
     void dialerKeyPressed(NSObject key);
     void deletePressed(NSObject sender);
-    /// Without a number it brings back the one that was called last.
+    /// Calls the number; without one it brings back the one that was called last.
     void callPressed(NSObject sender);
 
     void dialerLCDViewDidTapAddToContacts(NSObject display);

@@ -1,6 +1,7 @@
 // The favourites.
 #include "phone/favourites/PHFavoritesViewController.hpp"
 
+#include "phone/PlaceCall.hpp"
 #include "phone/dialer/ContactBook.hpp"
 #include "phone/frame/ListScreen.hpp"
 #include "phone/frame/PhoneNavigationBar.hpp"
@@ -21,11 +22,13 @@ void PHFavoritesViewController::define() {
                      .method("loadView"_sel, member<&Self::loadView>)
                      .method("tableView:numberOfRowsInSection:"_sel, member<&Self::numberOfRows>)
                      .method("tableView:cellForRowAtIndexPath:"_sel, member<&Self::cellForRow>)
+                     .method("tableView:didSelectRowAtIndexPath:"_sel, member<&Self::didSelectRow>)
                      .finish());
 }
 
 PHFavoritesViewController::~PHFavoritesViewController() {
     objc::send<void(NSObject)>(table_.get(), "setDataSource:"_sel, NSObject());
+    objc::send<void(NSObject)>(table_.get(), "setDelegate:"_sel, NSObject());
 }
 
 void PHFavoritesViewController::loadView() {
@@ -33,6 +36,7 @@ void PHFavoritesViewController::loadView() {
     ListScreen parts = makeListScreen(NSObject(*this), kRowHeight);
     sim::instance<PhoneNavigationBar>(parts.bar)->setTitle("个人收藏"_ns);
     table_ = std::move(parts.table);
+    objc::send<void(NSObject)>(table_, "setDelegate:"_sel, NSObject(*this));
     setView(sim::instance<SimView>(parts.view));
 }
 
@@ -43,20 +47,22 @@ NSInteger PHFavoritesViewController::numberOfRows(SimTableView *, NSInteger) con
 SimTableViewCell *PHFavoritesViewController::cellForRow(SimTableView *table,
                                                         NSObject indexPath) const {
     constexpr NSInteger kValueAtTheRight = 1;
-    const NSString kIdentifier = "PHFavoritesCell"_ns;
     const auto row = static_cast<size_t>(sim::rowOf(indexPath));
     const Contact &contact = ContactBook::shared().all()[row];
-    auto *cell = table->dequeueReusableCellWithIdentifier(kIdentifier);
-    if (cell == nullptr) {
-        const id memory = objc::send<id()>("UITableViewCell"_cls, "alloc"_sel);
-        const id made = objc::send<id(NSInteger, NSString)>(
-            memory, "initWithStyle:reuseIdentifier:"_sel, kValueAtTheRight, kIdentifier);
-        cell = sim::instance<SimTableViewCell>(objc::send<id()>(made, "autorelease"_sel));
-    }
+    SimTableViewCell *const cell = reusableCell(table, "PHFavoritesCell"_ns, kValueAtTheRight);
     cell->textLabel()->setText(sim::string(contact.name));
     cell->detailTextLabel()->setText(
         sim::string(contact.numbers.empty() ? "" : contact.numbers.front().label));
     return cell;
+}
+
+void PHFavoritesViewController::didSelectRow(SimTableView *table, NSObject indexPath) const {
+    table->deselectRow(indexPath, true);
+    const Contact &contact =
+        ContactBook::shared().all()[static_cast<size_t>(sim::rowOf(indexPath))];
+    if (!contact.numbers.empty()) {
+        placeCall(sim::string(contact.numbers.front().number));
+    }
 }
 
 }  // namespace phone

@@ -20,6 +20,8 @@ class PHFavoritesViewController : public PhoneViewController {
     NSInteger numberOfRows(SimTableView *table, NSInteger section) const;
     /// The name, and at the right the label of the person's first number.
     SimTableViewCell *cellForRow(SimTableView *table, NSObject indexPath) const;
+    /// Calls the person's first number.
+    void didSelectRow(SimTableView *table, NSObject indexPath) const;
 
   private:
     objc::Owned<UIView> table_;

@@ -5,6 +5,7 @@
 #include "uikit/Device.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/SimTableView.hpp"
+#include "uikit/SimTableViewCell.hpp"
 
 namespace phone {
 
@@ -22,6 +23,16 @@ ListScreen makeListScreen(NSObject dataSource, CGFloat rowHeight) {
     parts.view->addSubview(parts.table);
     parts.view->addSubview(parts.bar);
     return parts;
+}
+
+SimTableViewCell *reusableCell(SimTableView *table, NSString identifier, NSInteger style) {
+    if (SimTableViewCell *const free = table->dequeueReusableCellWithIdentifier(identifier)) {
+        return free;
+    }
+    const id memory = objc::send<id()>("UITableViewCell"_cls, "alloc"_sel);
+    const id made = objc::send<id(NSInteger, NSString)>(
+        memory, "initWithStyle:reuseIdentifier:"_sel, style, identifier);
+    return sim::instance<SimTableViewCell>(objc::send<id()>(made, "autorelease"_sel));
 }
 
 }  // namespace phone

@@ -3,6 +3,9 @@
 
 #include "phone/Parts.hpp"
 
+class SimTableView;
+class SimTableViewCell;
+
 namespace phone {
 
 struct ListScreen {
@@ -11,5 +14,8 @@ struct ListScreen {
 
 /// As large as the screen; rows are `rowHeight` points high. The data source is not retained.
 ListScreen makeListScreen(NSObject dataSource, CGFloat rowHeight);
+
+/// A plain cell of the table, one that is free or else a new one.
+SimTableViewCell *reusableCell(SimTableView *table, NSString identifier, NSInteger style);
 
 }  // namespace phone

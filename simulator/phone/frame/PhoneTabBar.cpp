@@ -24,6 +24,32 @@ constexpr CGFloat kTitleTop = 34;
 
 }  // namespace
 
+void PhoneTabBarButton::define() {
+    sim::defined("PhoneTabBarButton",
+                 objc::ClassBuilder<PhoneTabBarButton>("PhoneTabBarButton", "UIControl").finish());
+}
+
+objc::Owned<UIView> PhoneTabBarButton::make(CGRect frame, Tab tab) {
+    auto button = makeView<PhoneTabBarButton>(frame);
+    auto *const self = sim::instance<PhoneTabBarButton>(button);
+    const Face &face = kFaces[static_cast<size_t>(tab)];
+    const CGFloat width = frame.size.width;
+    self->tab_ = tab;
+    self->icon_ = makePicture(face.icon, {(width - kIconSize) / 2, 3});
+    self->title_ = makeLabel(rect(0, kTitleTop, width, 13), 10);
+    self->title_->setText(sim::string(face.title));
+    button->addSubview(self->icon_);
+    button->addSubview(self->title_);
+    return button;
+}
+
+void PhoneTabBarButton::setChosen(bool chosen) const {
+    const std::string icon =
+        std::string(kFaces[static_cast<size_t>(tab_)].icon) + (chosen ? "_selected" : "");
+    icon_->setImage(picture(icon.c_str()));
+    title_->setTextColor(chosen ? color(0, 122, 255) : color(146, 146, 146));
+}
+
 void PhoneTabBar::define() {
     using objc::member;
     sim::defined("PhoneTabBar",
@@ -40,22 +66,25 @@ id PhoneTabBar::initWithFrame(CGRect frame) {
     asView(*this).addSubview(line);
     const CGFloat width = frame.size.width / kTabCount;
     for (size_t i = 0; i < kTabCount; ++i) {
-        const CGFloat x = width * static_cast<CGFloat>(i);
-        items_[i].icon = makePicture(kFaces[i].icon, {x + (width - kIconSize) / 2, 3});
-        items_[i].title = makeLabel(rect(x, kTitleTop, width, 13), 10);
-        items_[i].title->setText(sim::string(kFaces[i].title));
-        asView(*this).addSubview(items_[i].icon);
-        asView(*this).addSubview(items_[i].title);
+        buttons_[i] = PhoneTabBarButton::make(
+            rect(width * static_cast<CGFloat>(i), 0, width, frame.size.height),
+            static_cast<Tab>(i));
+        asView(*this).addSubview(buttons_[i]);
     }
     return *this;
 }
 
-void PhoneTabBar::select(Tab tab) {
-    for (size_t i = 0; i < kTabCount; ++i) {
-        const bool selected = i == static_cast<size_t>(tab);
-        const std::string icon = std::string(kFaces[i].icon) + (selected ? "_selected" : "");
-        items_[i].icon->setImage(picture(icon.c_str()));
-        items_[i].title->setTextColor(selected ? color(0, 122, 255) : color(146, 146, 146));
+/// Assumed: a tab is shown when the finger is lifted.
+void PhoneTabBar::setTarget(NSObject target) const {
+    for (const auto &button : buttons_) {
+        onTouch(button, target, "tabPressed:"_sel, kTouchUpInside);
+    }
+}
+
+void PhoneTabBar::select(Tab tab) const {
+    for (const auto &button : buttons_) {
+        auto *const shown = sim::instance<PhoneTabBarButton>(button.get());
+        shown->setChosen(shown->tab() == tab);
     }
 }
 

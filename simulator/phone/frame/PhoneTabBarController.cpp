@@ -3,6 +3,7 @@
 
 #include "phone/frame/PhoneStatusBar.hpp"
 #include "uikit/Device.hpp"
+#include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 
 namespace phone {
@@ -23,6 +24,7 @@ void PhoneTabBarController::define() {
                      .method("viewDidAppear:"_sel, member<&Self::viewDidAppear>)
                      .method("viewWillDisappear:"_sel, member<&Self::viewWillDisappear>)
                      .method("viewDidDisappear:"_sel, member<&Self::viewDidDisappear>)
+                     .method("tabPressed:"_sel, member<&Self::tabPressed>)
                      .finish());
 }
 
@@ -34,6 +36,7 @@ void PhoneTabBarController::loadView() {
         makeView<PhoneTabBar>(rect(0, screen.height - kTabBarHeight, screen.width, kTabBarHeight));
     view->addSubview(makeView<PhoneStatusBar>(rect(0, 0, screen.width, kStatusBarHeight)));
     view->addSubview(tabBar_);
+    sim::instance<PhoneTabBar>(tabBar_)->setTarget(NSObject(*this));
     setView(objc::Wire<SimView *>::from(view->get()));
 }
 
@@ -45,8 +48,29 @@ SimViewController *PhoneTabBarController::shownController() const {
     return objc::Wire<SimViewController *>::from(shown_.get());
 }
 
-void PhoneTabBarController::showTab(Tab tab, SimViewController *controller) {
+PhoneTabBar *PhoneTabBarController::tabBar() {
+    view();
+    return sim::instance<PhoneTabBar>(tabBar_);
+}
+
+void PhoneTabBarController::setTab(Tab tab, NSObject controller) {
+    controllers_[static_cast<size_t>(tab)] = objc::Owned<NSObject>::share(controller);
+}
+
+void PhoneTabBarController::tabPressed(NSObject button) {
+    const Tab tab = sim::instance<PhoneTabBarButton>(button)->tab();
+    if (tab != tab_) {
+        showTab(tab);
+    }
+}
+
+void PhoneTabBarController::showTab(Tab tab) {
     SimView *const root = view();
+    objc::Owned<NSObject> &controller = controllers_[static_cast<size_t>(tab)];
+    if (!controller) {
+        controller = make_(tab);
+    }
+    tab_ = tab;
     if (shown_) {
         if (onScreen_) {
             tell("viewWillDisappear:"_sel, false);
@@ -56,13 +80,13 @@ void PhoneTabBarController::showTab(Tab tab, SimViewController *controller) {
             tell("viewDidDisappear:"_sel, false);
         }
     }
-    shown_ = objc::Owned<NSObject>::share(NSObject(*controller));
+    shown_ = objc::Owned<NSObject>::share(controller.get());
     if (onScreen_) {
         tell("viewWillAppear:"_sel, false);
     }
     // Below the bars, which are never covered.
-    root->insertSubviewAtIndex(controller->view(), 0);
-    objc::Wire<PhoneTabBar *>::from(tabBar_.get())->select(tab);
+    root->insertSubviewAtIndex(shownController()->view(), 0);
+    tabBar()->select(tab);
     if (onScreen_) {
         tell("viewDidAppear:"_sel, false);
     }

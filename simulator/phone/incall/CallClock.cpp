@@ -1,7 +1,9 @@
-// A repeating NSTimer and its target.
+// Each tick asks for the next.
 #include "phone/incall/CallClock.hpp"
 
-#include "companion/SimulatedTime.hpp"
+#include <utility>
+
+#include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 
 namespace phone {
@@ -9,7 +11,16 @@ namespace {
 
 class CallTick : public objc::Instance {
   public:
-    void fire(NSObject) const { onTick_(); }
+    void wait() const {
+        objc::send<void(SEL, NSObject, double)>(*this, "performSelector:withObject:afterDelay:"_sel,
+                                                "fire"_sel, nullptr, 1);
+    }
+    void fire() const {
+        if (const auto onTick = onTick_) {  // which may stop the clock
+            wait();
+            onTick();
+        }
+    }
 
     std::function<void()> onTick_;
 };
@@ -18,22 +29,25 @@ class CallTick : public objc::Instance {
 
 void CallClock::define() {
     sim::defined("CallTick", objc::ClassBuilder<CallTick>("CallTick", "NSObject")
-                                 .method("fire:"_sel, objc::member<&CallTick::fire>)
+                                 .method("fire"_sel, objc::member<&CallTick::fire>)
                                  .finish());
 }
 
 void CallClock::start(std::function<void()> onTick) {
     stop();
-    const auto tick = objc::make<CallTick>();
+    auto tick = objc::make<CallTick>();
     tick->onTick_ = std::move(onTick);
-    timer_ = objc::Owned<NSObject>::share(objc::send<NSObject(double, CallTick *, SEL, id, bool)>(
-        "NSTimer"_cls, "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:"_sel,
-        companion::pace(), tick.get(), "fire:"_sel, nullptr, true));
+    tick->wait();
+    tick_ = std::move(tick).as<NSObject>();
 }
 
 void CallClock::stop() {
-    objc::send<void()>(timer_.get(), "invalidate"_sel);
-    timer_ = {};
+    if (tick_) {
+        objc::send<void(NSObject)>("NSObject"_cls, "cancelPreviousPerformRequestsWithTarget:"_sel,
+                                   tick_.get());
+        sim::instance<CallTick>(tick_)->onTick_ = nullptr;
+        tick_ = {};
+    }
 }
 
 }  // namespace phone

@@ -1,4 +1,4 @@
-// What makes a call's running time move: a timer of the run loop, once every simulated second.
+// What makes a call's running time move, once every second.
 #pragma once
 
 #include <functional>
@@ -9,7 +9,8 @@
 
 namespace phone {
 
-/// The run loop retains the target of a timer, so that is an object of its own: whoever owns the
+/// The next tick is asked for with performSelector:withObject:afterDelay:, which counts the seconds
+/// of the simulation and retains its target, so that is an object of its own: whoever owns the
 /// clock may go at any time, and the ticking ends with it.
 class CallClock {
   public:
@@ -20,12 +21,12 @@ class CallClock {
     CallClock &operator=(const CallClock &) = delete;
     ~CallClock() { stop(); }
 
-    /// Calls `onTick` every simulated second from now on; what ran before is stopped.
+    /// Calls `onTick` every second from now on; what ran before is stopped.
     void start(std::function<void()> onTick);
     void stop();
 
   private:
-    objc::Owned<NSObject> timer_;
+    objc::Owned<NSObject> tick_;
 };
 
 }  // namespace phone

@@ -16,6 +16,7 @@ void InCallButton::define() {
     sim::defined("InCallButton",
                  objc::ClassBuilder<InCallButton>("InCallButton", "UIControl")
                      .method("setHighlighted:"_sel, member<&InCallButton::setHighlighted>)
+                     .method("setSelected:"_sel, member<&InCallButton::setSelected>)
                      .finish());
 }
 
@@ -50,7 +51,17 @@ void InCallButton::setFace(const InCallFace &face) const {
 
 void InCallButton::setHighlighted(bool highlighted) {
     objc::sendSuper<InCallButton, void(bool)>(this, "setHighlighted:"_sel, highlighted);
-    asView(*this).setBackgroundColor(UIColor::withWhite(1, highlighted ? 0.3 : 0));
+    showState();
+}
+
+void InCallButton::setSelected(bool selected) {
+    objc::sendSuper<InCallButton, void(bool)>(this, "setSelected:"_sel, selected);
+    showState();
+}
+
+void InCallButton::showState() const {
+    const CGFloat veil = isHighlighted() ? 0.3 : isSelected() ? 0.5 : 0;
+    asView(*this).setBackgroundColor(UIColor::withWhite(1, veil));
 }
 
 }  // namespace phone

@@ -19,10 +19,13 @@ class InCallButton : public SimControl {
     static objc::Owned<UIView> make(CGRect circle, const InCallFace &face);
 
     void setFace(const InCallFace &face) const;
-    /// A pressed button is filled with a veil.
+    /// A pressed button is filled with a veil, one that is switched on with a thicker one.
     void setHighlighted(bool highlighted);
+    void setSelected(bool selected);
 
   private:
+    void showState() const;
+
     objc::Owned<UIImageView> icon_;
     objc::Owned<UILabel> title_;
 };

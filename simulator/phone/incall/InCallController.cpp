@@ -1,12 +1,15 @@
 // Listening to the telephony layer and showing what it says.
 #include "phone/incall/InCallController.hpp"
 
+#include "phone/incall/InCallButton.hpp"
 #include "uikit/Device.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/Registration.hpp"
 
 namespace phone {
 namespace {
+
+constexpr double kEndIsShown = 1.5;  // seconds; assumed
 
 id center() { return objc::send<id()>("NSNotificationCenter"_cls, "defaultCenter"_sel); }
 
@@ -27,6 +30,8 @@ void InCallController::define() {
             .method("answerPressed:"_sel, member<&Self::answerPressed>)
             .method("swapPressed:"_sel, member<&Self::swapPressed>)
             .method("mergePressed:"_sel, member<&Self::mergePressed>)
+            .method("togglePressed:"_sel, member<&Self::togglePressed>)
+            .method("leaveIfOver"_sel, member<&Self::leaveIfOver>)
             .finish());
 }
 
@@ -79,6 +84,11 @@ void InCallController::callStatusChanged(NSNotification notification) {
         ended_.reset();
     } else if (ended) {
         ended_ = endedContent(*ended);
+        if (leave_) {
+            objc::send<void(SEL, NSObject, double)>(*this,
+                                                    "performSelector:withObject:afterDelay:"_sel,
+                                                    "leaveIfOver"_sel, nullptr, kEndIsShown);
+        }
     }
     if (calls_.has(CallStatus::Active)) {
         clock_.start([this] { tick(); });
@@ -115,6 +125,17 @@ void InCallController::tick() {
         const objc::AutoreleasePool pool;
         inCallView()->showRows(content());
     }
+}
+
+void InCallController::leaveIfOver() {
+    if (calls_.count() == 0 && leave_) {
+        leave_();
+    }
+}
+
+void InCallController::togglePressed(NSObject button) {
+    auto *const toggle = sim::instance<InCallButton>(button);
+    toggle->setSelected(!toggle->isSelected());
 }
 
 void InCallController::endPressed(NSObject) { calls_.endCurrent(); }

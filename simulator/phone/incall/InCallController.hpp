@@ -2,7 +2,9 @@
 // stand. What became of a call it hears from the telephony layer's notification.
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "phone/incall/CallClock.hpp"
 #include "phone/incall/CallList.hpp"
@@ -35,6 +37,7 @@ class InCallController : public SimViewController {
     bool answer() { return calls_.answer(); }
     /// The call that is talked on and the one held last change places.
     bool swap() { return calls_.swap(); }
+    bool canSwap() const { return calls_.canSwap(); }
     /// Joins the held calls with the one that is talked on.
     bool merge() { return calls_.merge(); }
     /// Ends one call. When nobody is left to talk to, the call held last is talked on again. After
@@ -46,8 +49,11 @@ class InCallController : public SimViewController {
     /// Null when there is no such call.
     TUTelephonyCall *call(size_t number) const { return calls_.object(number); }
 
-    /// Brings the running time up to date, as every second of a call does by itself where the run
-    /// loop runs.
+    /// Called some time after the last call has ended, unless another one has begun; whoever shows
+    /// the screen may take it away then. Without it the screen stays.
+    void setWhenOver(std::function<void()> leave) { leave_ = std::move(leave); }
+
+    /// Brings the running time up to date, as every second of a call does by itself.
     void tick();
 
     InCallView *inCallView();
@@ -66,6 +72,9 @@ class InCallController : public SimViewController {
     void answerPressed(NSObject sender);
     void swapPressed(NSObject sender);
     void mergePressed(NSObject sender);
+    void togglePressed(NSObject button);
+    /// The end of the last call has been shown for long enough.
+    void leaveIfOver();
 
   private:
     DisplayContent content() const;
@@ -77,6 +86,7 @@ class InCallController : public SimViewController {
     Display display_ = Display::View;
     std::optional<DisplayContent> ended_;
     CallClock clock_;
+    std::function<void()> leave_;
 };
 
 }  // namespace phone

@@ -19,9 +19,7 @@ constexpr std::array<InCallFace, 6> kFaces = {{{"incall_mute", "静音"},
                                                {"incall_add", "添加通话"},
                                                {"incall_video", "视频通话"},
                                                {"incall_contacts", "通讯录"}}};
-// With two calls two of the buttons change their face.
-constexpr size_t kMergeButton = 3;
-constexpr size_t kSwapButton = 4;
+constexpr std::array<size_t, 3> kToggles = {0, 1, 2};  // the first row: they stay switched on
 constexpr InCallFace kMergeFace = {"incall_merge", "合并通话"};
 constexpr InCallFace kSwapFace = {"incall_swap", "切换"};
 
@@ -72,6 +70,9 @@ void InCallView::buildButtons(const InCallLook &look, CGRect frame) {
     for (size_t i = 0; i < buttons_.size(); ++i) {
         buttons_[i] = InCallButton::make(inCallButtonFrame(look, static_cast<int>(i)), kFaces[i]);
         buttonArea_->addSubview(buttons_[i]);
+    }
+    for (const size_t toggle : kToggles) {
+        onTouch(buttons_[toggle], NSObject(target_), "togglePressed:"_sel, kTouchUpInside);
     }
     asView(*this).addSubview(buttonArea_);
 }

@@ -24,7 +24,7 @@ class InCallView : public SimView {
     static void define();
 
     /// Builds all parts for the current device; they tell `target`: endPressed:, answerPressed:,
-    /// swapPressed: and mergePressed:.
+    /// swapPressed:, mergePressed: and togglePressed: with a button that is switched on or off.
     void build(Display display, NSObject target);
 
     void show(const DisplayContent &content, InCallKeys keys);
@@ -35,11 +35,17 @@ class InCallView : public SimView {
     UIView wallpaper() const { return wallpaper_; }
     /// The six, row by row.
     UIView button(size_t index) const { return buttons_[index]; }
+    UIView mergeButton() const { return buttons_[kMergeButton]; }
+    UIView swapButton() const { return buttons_[kSwapButton]; }
     UIView endKey() const { return endKey_; }
     UIView declineKey() const { return declineKey_; }
     UIView answerKey() const { return answerKey_; }
 
   private:
+    // With two calls these two of the buttons change their face.
+    static constexpr size_t kMergeButton = 3;
+    static constexpr size_t kSwapButton = 4;
+
     void buildButtons(const InCallLook &look, CGRect frame);
     void buildKeys(const InCallLook &look, const InCallFrames &frames);
     void showKeys(InCallKeys keys);

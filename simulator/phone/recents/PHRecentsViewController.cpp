@@ -1,9 +1,10 @@
 // The recents list.
 #include "phone/recents/PHRecentsViewController.hpp"
 
-#include <algorithm>
-#include <array>
+#include <span>
+#include <vector>
 
+#include "phone/PlaceCall.hpp"
 #include "phone/contact/ABContactViewController.hpp"
 #include "phone/frame/ListScreen.hpp"
 #include "phone/recents/CallContact.hpp"
@@ -12,7 +13,7 @@
 #include "uikit/Foundation.hpp"
 #include "uikit/IndexPath.hpp"
 #include "uikit/Registration.hpp"
-#include "uikit/SimControl.hpp"
+#include "uikit/SimSegmentedControl.hpp"
 #include "uikit/SimTableView.hpp"
 
 namespace phone {
@@ -23,29 +24,6 @@ constexpr CGFloat kRowHeight = 48;
 NSString cellIdentifier() { return "PHRecentsCell"_ns; }
 
 NSObject indexPathOf(NSInteger row) { return sim::indexPath(0, row); }
-
-/// The choice between all calls and the missed ones; all are shown.
-objc::Owned<UIView> makeSegments() {
-    constexpr CGFloat kWidth = 80;
-    constexpr CGFloat kHeight = 29;
-    const UIColor tint = color(0, 122, 255);
-    auto box = makeView<SimView>(rect(0, 0, 2 * kWidth, kHeight));
-    auto *const layer = sim::instance<SimView>(box)->layer();
-    layer->setCornerRadius(4);
-    layer->setBorderWidth(1);
-    layer->setBorderColor(tint);
-    layer->setMasksToBounds(true);
-    constexpr std::array kTitles = {"所有通话", "未接来电"};
-    for (size_t i = 0; i < kTitles.size(); ++i) {
-        const auto label =
-            makeLabel(rect(kWidth * static_cast<CGFloat>(i), 0, kWidth, kHeight), 13);
-        label->setText(sim::string(kTitles[i]));
-        label->setTextColor(i == 0 ? UIColor::whiteColor() : tint);
-        label->setBackgroundColor(i == 0 ? tint : UIColor::clearColor());
-        box->addSubview(label);
-    }
-    return box;
-}
 
 }  // namespace
 
@@ -64,30 +42,45 @@ void PHRecentsViewController::define() {
                      .method("setEditing:animated:"_sel, member<&Self::setEditingAnimated>)
                      .method("editPressed:"_sel, member<&Self::editPressed>)
                      .method("backPressed:"_sel, member<&Self::backPressed>)
+                     .method("filterChanged:"_sel, member<&Self::filterChanged>)
                      .method("infoPressed:"_sel, member<&Self::infoPressed>)
                      .method("tableView:numberOfRowsInSection:"_sel, member<&Self::numberOfRows>)
                      .method("tableView:cellForRowAtIndexPath:"_sel, member<&Self::cellForRow>)
                      .method("tableView:commitEditingStyle:forRowAtIndexPath:"_sel,
                              member<&Self::commitEditing>)
+                     .method("tableView:didSelectRowAtIndexPath:"_sel, member<&Self::didSelectRow>)
                      .finish());
 }
 
 PHRecentsViewController::~PHRecentsViewController() {
     objc::send<void(NSObject)>(table_.get(), "setDataSource:"_sel, NSObject());
+    objc::send<void(NSObject)>(table_.get(), "setDelegate:"_sel, NSObject());
 }
 
 void PHRecentsViewController::loadView() {
     ListScreen parts = makeListScreen(NSObject(*this), kRowHeight);
     table_ = std::move(parts.table);
+    objc::send<void(NSObject)>(table_, "setDelegate:"_sel, NSObject(*this));
     bar_ = std::move(parts.bar);
-    sim::instance<PhoneNavigationBar>(bar_)->setTitleView(makeSegments());
+    filter_ = SimSegmentedControl::make({160, 29}, {"所有通话"_ns, "未接来电"_ns});
+    onTouch(filter_, NSObject(*this), "filterChanged:"_sel, kValueChanged);
+    bar()->setTitleView(filter_);
     setView(sim::instance<SimView>(parts.view));
     showEditButton();
 }
 
+PhoneNavigationBar *PHRecentsViewController::bar() {
+    return sim::instance<PhoneNavigationBar>(bar_);
+}
+
 void PHRecentsViewController::showEditButton() {
-    sim::instance<PhoneNavigationBar>(bar_)->setRightButton(
+    bar()->setRightButton(
         {isEditing() ? "完成"_ns : "编辑"_ns, NSObject(*this), "editPressed:"_sel});
+}
+
+UIView PHRecentsViewController::editButton() {
+    view();
+    return bar()->rightButton();
 }
 
 void PHRecentsViewController::setCalls(NSArray calls) {
@@ -96,7 +89,30 @@ void PHRecentsViewController::setCalls(NSArray calls) {
     for (NSUInteger i = 0; i < calls_->count() && !today_; ++i) {
         today_ = sim::instance<PHRecentCall>(calls_->objectAtIndex(i))->facts().date;
     }
+    showCalls();
+}
+
+void PHRecentsViewController::filterChanged(NSObject) { showCalls(); }
+
+void PHRecentsViewController::showCalls() {
+    constexpr NSInteger kMissed = 1;
+    const auto *const filter = sim::instance<SimSegmentedControl>(filter_);
+    shown_ = objc::Owned<NSArray>::share(calls_.get());
+    if (filter != nullptr && filter->selectedSegmentIndex() == kMissed) {
+        std::vector<id> missed;
+        for (NSUInteger i = 0; i < calls_->count(); ++i) {
+            const NSObject call = calls_->objectAtIndex(i);
+            if (sim::instance<PHRecentCall>(call)->isMissed()) {
+                missed.push_back(call);
+            }
+        }
+        shown_ = objc::Owned<NSArray>::share(sim::array(std::span<const id>(missed)));
+    }
     objc::send<void()>(table_.get(), "reloadData"_sel);
+}
+
+NSObject PHRecentsViewController::callAt(NSObject indexPath) const {
+    return shown_->objectAtIndex(static_cast<NSUInteger>(sim::rowOf(indexPath)));
 }
 
 SimTableView *PHRecentsViewController::table() {
@@ -105,13 +121,6 @@ SimTableView *PHRecentsViewController::table() {
 }
 
 void PHRecentsViewController::layOut() { objc::send<void()>(id(*view()), "layoutIfNeeded"_sel); }
-
-void PHRecentsViewController::scrollTo(CGFloat points) {
-    closeSwipe();
-    layOut();
-    table()->setContentOffset(table()->nearestRest({0, points}));
-    layOut();
-}
 
 bool PHRecentsViewController::scrollToRow(NSInteger row) {
     if (row < 0 || row >= rowCount()) {
@@ -129,66 +138,14 @@ PHRecentsCell *PHRecentsViewController::cell(NSInteger row) {
     return static_cast<PHRecentsCell *>(table()->cellForRowAtIndexPath(indexPathOf(row)));
 }
 
-NSInteger PHRecentsViewController::swipedRow() {
-    const NSArray cells = table()->visibleCells();
-    for (NSUInteger i = 0; i < cells.count(); ++i) {
-        auto *const shown = sim::instance<PHRecentsCell>(cells.objectAtIndex(i));
-        if (shown->isSwiped()) {
-            return sim::rowOf(table()->indexPathForCell(shown));
-        }
-    }
-    return -1;
-}
-
-bool PHRecentsViewController::beginSwipe(NSInteger row) {
-    if (row < 0 || row >= rowCount() || detail_ || isEditing()) {
-        return false;
-    }
-    if (swipedRow() != row) {
-        closeSwipe();
-    }
-    PHRecentsCell *const swiped = cell(row);
-    return swiped != nullptr && swiped->beginSwipe();
-}
-
-bool PHRecentsViewController::swipe(NSInteger row, CGFloat points) {
-    const bool begun = beginSwipe(row);
-    if (begun) {
-        cell(row)->dragSwipeTo(points);
-    }
-    return begun;
-}
-
-bool PHRecentsViewController::swipeOpen(NSInteger row) {
-    // How wide it is shows only when something of it is seen.
-    constexpr CGFloat kGlimpse = 8;
-    return swipe(row, kGlimpse) && swipe(row, cell(row)->swipeWidth());
-}
-
-bool PHRecentsViewController::releaseSwipe(CGFloat velocity) {
-    const NSInteger row = swipedRow();
-    if (row < 0) {
-        return false;
-    }
-    cell(row)->endSwipe(velocity);
-    return true;
+PHRecentsCell *PHRecentsViewController::swipedCell() {
+    return static_cast<PHRecentsCell *>(table()->swipedCell());
 }
 
 void PHRecentsViewController::closeSwipe() {
-    const NSInteger row = swipedRow();
-    if (row >= 0) {
-        cell(row)->closeSwipe();
+    if (PHRecentsCell *const open = swipedCell()) {
+        open->closeSwipe();
     }
-}
-
-bool PHRecentsViewController::openDetail(NSInteger row) {
-    const PHRecentsCell *const shown = detail_ ? nullptr : cell(row);
-    if (shown == nullptr) {
-        return false;
-    }
-    closeSwipe();
-    sim::instance<SimControl>(shown->infoButton())->sendActionsForControlEvents(kTouchUpInside);
-    return true;
 }
 
 ABContactViewController *PHRecentsViewController::detail() const {
@@ -201,7 +158,7 @@ void PHRecentsViewController::tell(NSObject controller, auto selector) {
 
 void PHRecentsViewController::showCallDetail(NSObject call, bool) {
     closeSwipe();
-    back();
+    leaveDetail();
     detail_ = objc::make<ABContactViewController>().as<NSObject>();
     const auto &recent = *sim::instance<PHRecentCall>(call);
     detail()->show(contactOf(recent), PHCallInfoView::make(recent));
@@ -214,9 +171,11 @@ void PHRecentsViewController::showCallDetail(NSObject call, bool) {
     tell(detail_, "viewDidAppear:"_sel);
 }
 
-bool PHRecentsViewController::back() {
+void PHRecentsViewController::backPressed(NSObject) { leaveDetail(); }
+
+void PHRecentsViewController::leaveDetail() {
     if (!detail_) {
-        return false;
+        return;
     }
     // The button that brought us here is still at work in the detail's view.
     const NSObject gone = detail_.autorelease();
@@ -226,7 +185,6 @@ bool PHRecentsViewController::back() {
     objc::send<UIView()>(gone, "view"_sel).removeFromSuperview();
     tell(gone, "viewDidDisappear:"_sel);
     tell(self, "viewDidAppear:"_sel);
-    return true;
 }
 
 void PHRecentsViewController::viewWillAppear(bool animated) {
@@ -249,8 +207,6 @@ void PHRecentsViewController::setEditingAnimated(bool editing, bool animated) {
 void PHRecentsViewController::editPressed(NSObject) {
     objc::send<void(bool, bool)>(*this, "setEditing:animated:"_sel, !isEditing(), true);
 }
-
-void PHRecentsViewController::backPressed(NSObject) { back(); }
 
 void PHRecentsViewController::infoPressed(NSObject button) {
     const NSArray cells = table()->visibleCells();
@@ -281,18 +237,23 @@ SimTableViewCell *PHRecentsViewController::cellForRow(SimTableView *table,
         onTouch(cell->infoButton(), NSObject(*this), "infoPressed:"_sel, kTouchUpInside);
     }
     cell->setToday(today_);
-    objc::send<void(NSObject)>(
-        *cell, "setCall:"_sel,
-        calls_->objectAtIndex(static_cast<NSUInteger>(sim::rowOf(indexPath))));
+    objc::send<void(NSObject)>(*cell, "setCall:"_sel, callAt(indexPath));
     return cell;
 }
 
 void PHRecentsViewController::commitEditing(SimTableView *, NSInteger, NSObject indexPath) {
     const auto left =
         objc::send<NSArray(NSArray)>("NSMutableArray"_cls, "arrayWithArray:"_sel, calls_.get());
-    objc::send<void(NSUInteger)>(left, "removeObjectAtIndex:"_sel,
-                                 static_cast<NSUInteger>(sim::rowOf(indexPath)));
+    objc::send<void(NSObject)>(left, "removeObjectIdenticalTo:"_sel, callAt(indexPath));
     setCalls(left);
+}
+
+void PHRecentsViewController::didSelectRow(SimTableView *table, NSObject indexPath) const {
+    table->deselectRow(indexPath, true);
+    const NSString number = sim::instance<PHRecentCall>(callAt(indexPath))->number();
+    if (!number.contains("@"_ns)) {  // an address is no telephone's
+        placeCall(number);
+    }
 }
 
 }  // namespace phone
