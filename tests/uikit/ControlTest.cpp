@@ -8,6 +8,7 @@
 #include "uikit/SimButton.hpp"
 #include "uikit/SimImage.hpp"
 #include "uikit/SimLabel.hpp"
+#include "uikit/SimScrollView.hpp"
 
 namespace {
 
@@ -69,6 +70,39 @@ TEST_F(Controls, SendActionsOfEveryShape) {
     button_->setEnabled(false);
     sim::tap(button_);
     EXPECT_THAT(g_heard, testing::IsEmpty());
+}
+
+TEST_F(Controls, LoseTheirTouchToAScrollViewUnlessTheyArePressed) {
+    auto *const scroller = view<SimScrollView>(rect(0, 0, 320, 480), "UIScrollView"_cls);
+    scroller->setContentSize({320, 1000});
+    scroller->addSubview(button_);
+    window_->addSubview(scroller);
+    const NSObject recorder = Recorder::make();
+    button_->addTarget(recorder, "plain"_sel, kTouchDown);
+    button_->addTarget(recorder, "withSender:"_sel, kTouchUpInside);
+    button_->addTarget(recorder, "both:event:"_sel, kTouchDragInside | kTouchCancel);
+    const struct {
+        int rest;
+        sim::Point to;
+        CGFloat offset;
+        std::vector<std::string> heard;
+    } rows[] = {
+        {0, {20, 25}, 0, {"plain", "sender"}},
+        {0, {60, 20}, 0, {"plain", "sender"}},
+        {150, {20, -10}, 0, {"plain", "event", "event", "sender"}},
+        {0, {20, -10}, 7, {}},
+    };
+    for (const auto &[rest, to, offset, heard] : rows) {
+        sim::Finger finger(window_, {20, 20});
+        finger.rest(sim::Milliseconds(rest));
+        EXPECT_EQ(button_->isHighlighted(), rest > 0);
+        finger.moveTo(to);
+        finger.moveTo({to.x, to.y - 7});
+        finger.hold();
+        finger.lift();
+        EXPECT_EQ(scroller->contentOffset().y, offset);
+        EXPECT_EQ(std::exchange(g_heard, {}), heard);
+    }
 }
 
 TEST_F(Controls, ShowTheTitleOfTheirStateWithinItsInsets) {

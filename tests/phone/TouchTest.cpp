@@ -1,0 +1,124 @@
+// The whole telephone under a finger, and the time that somebody watches.
+#include "StageRun.hpp"
+#include "phone/dialer/DialerController.hpp"
+#include "phone/dialer/DialerView.hpp"
+#include "phone/incall/InCallButton.hpp"
+#include "phone/incall/InCallController.hpp"
+#include "phone/recents/PHRecentsViewController.hpp"
+#include "stage/Watching.hpp"
+#include "uikit/Foundation.hpp"
+#include "uikit/SimTableView.hpp"
+
+namespace {
+
+using namespace std::chrono_literals;
+using phone::Tab;
+using stage::Session;
+using testing::HasSubstr;
+using testing::Not;
+using Kind = stage::Step::Kind;
+using Touch = test::StageRun;
+
+TEST_F(Touch, ReachesEveryTabAndCallsFromIt) {
+    Session session(settings("7.1", "4", false));
+    stage::PhoneWindow &window = session.window();
+    const auto tap = [&](UIView view) {
+        EXPECT_TRUE(window.hand().tap(sim::instance<SimView>(view)));
+    };
+    const auto number = [&] {
+        return sim::utf8(objc::send<NSString()>(*session.inCall()->call(1), "destinationID"_sel));
+    };
+    const auto endCall = [&] {
+        tap(session.inCall()->inCallView()->endKey());
+        EXPECT_THAT(session.tree(), HasSubstr("通话结束"));
+        session.wait(2s);
+        EXPECT_EQ(session.inCall(), nullptr);
+    };
+    perform(session, {{Kind::Type, "13800130011"}});
+    tap(session.dialer()->dialerView()->callKey());
+    EXPECT_EQ(number(), "13800130011");
+    expectEach(session, {{{Kind::Type, "1"}, "a call covers the screen"}});
+    const UIView mute = session.inCall()->inCallView()->button(0);
+    for (const bool on : {true, false}) {
+        tap(mute);
+        EXPECT_EQ(sim::instance<phone::InCallButton>(mute)->isSelected(), on);
+    }
+    endCall();
+    const std::pair<Tab, const char *> tabs[] = {{Tab::Contacts, "所有联系人"},
+                                                 {Tab::Favourites, "PHFavorites"},
+                                                 {Tab::Voicemail, "\"语音留言\""},
+                                                 {Tab::Recents, "PHRecentsCell"}};
+    for (const auto &[tab, content] : tabs) {
+        EXPECT_TRUE(window.hand().tap(window.tabButton(tab)));
+        EXPECT_EQ(window.shownTab(), tab);
+        if (tab != Tab::Favourites) {
+            EXPECT_THAT(session.tree(), HasSubstr(content));
+        }
+    }
+    expectEach(session, {{{Kind::Type, "1"}, "another tab than the keypad is shown"}});
+    window.hand().tap({100, 64 + 24});
+    EXPECT_EQ(number(), "17700000061") << "the topmost row";
+    endCall();
+    EXPECT_TRUE(window.hand().tap(window.tabButton(Tab::Favourites)));
+    window.hand().tap({100, 64 + 22});
+    ASSERT_TRUE(session.inCall());
+    endCall();
+    EXPECT_THAT(session.tree(), Not(HasSubstr("InCall")));
+}
+
+TEST_F(Touch, LeavesAListRunningForAsLongAsSomebodyWatches) {
+    Session session(settings("7.1", "4"));
+    session.open({stage::ScreenKind::Recents});
+    stage::Hand &hand = session.window().hand();
+    SimTableView *const table = session.recents()->table();
+    const auto flick = [&] {
+        hand.down({160, 400});
+        for (const CGFloat y : {390, 360, 310}) {
+            session.leap(20ms);
+            hand.moveTo({160, y});
+        }
+        hand.lift();
+    };
+    const auto heard = objc::send<NSArray()>("NSMutableArray"_cls, "array"_sel);
+    {
+        stage::Watching watching(session);
+        flick();
+        const CGFloat from = table->contentOffset().y;
+        EXPECT_EQ(from, 80);
+        objc::send<void(SEL, id, double)>(heard, "performSelector:withObject:afterDelay:"_sel,
+                                          SEL("addObject:"_sel), "heard"_ns, 0.0);
+        watching.advance(100ms);
+        const CGFloat soon = table->contentOffset().y;
+        EXPECT_NEAR(soon, from + 748 * (1 - 0.8187), 2) << "at 1.5 points a millisecond";
+        watching.setPaused(true);
+        watching.advance(1s);
+        EXPECT_EQ(table->contentOffset().y, soon);
+        EXPECT_EQ(heard.count(), 0U) << "the run loop still follows the content";
+        watching.setPaused(false);
+        watching.setSpeed(10);
+        watching.advance(1s);
+        EXPECT_NEAR(table->contentOffset().y, from + 748.5, 0.1);
+        watching.step(0ms);
+        EXPECT_EQ(heard.count(), 1U);
+        session.window().ring("10086"_ns);
+        hand.tap(sim::instance<SimView>(session.inCall()->inCallView()->answerKey()));
+        watching.step(3s);
+        EXPECT_THAT(session.tree(), HasSubstr("00:03"));
+        session.window().dismiss();
+        flick();
+        hand.down({160, 300});
+        const CGFloat stopped = table->contentOffset().y;
+        watching.step(1s);
+        hand.lift();
+        EXPECT_EQ(table->contentOffset().y, stopped) << "a finger stops it, and no row is called";
+        EXPECT_EQ(session.inCall(), nullptr);
+        perform(session, {{Kind::Scroll}});
+        flick();
+    }
+    EXPECT_NEAR(table->contentOffset().y, 80 + 748.5, 0.1) << "come to rest";
+    perform(session, {{Kind::Scroll}});
+    flick();
+    EXPECT_NEAR(table->contentOffset().y, 80 + 748.5, 0.1) << "at once";
+}
+
+}  // namespace
