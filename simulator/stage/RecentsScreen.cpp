@@ -145,8 +145,10 @@ void RecentsScreen::dragListTo(CGFloat points) const {
     const CGRect place = table->convertRectToView(table->bounds(), window_.window());
     const CGFloat end = table->nearestRest({0, points}).y;
     const CGFloat longest = place.size.height - 3 * kMargin;
-    CGFloat way = table->contentOffset().y - end;
-    for (; std::abs(way) > kNear; way = table->contentOffset().y - end) {
+    const auto left = [&] { return table->contentOffset().y - end; };
+    CGFloat way = 0;
+    while (std::abs(left()) > kNear && left() != way) {
+        way = left();
         const CGFloat direction = way < 0 ? -1 : 1;
         const CGFloat middle = place.origin.y + place.size.height / 2;
         window_.hand().beginDrag(
@@ -187,11 +189,11 @@ void RecentsScreen::dragRowTo(phone::PHRecentsCell &cell, CGFloat points) const 
     constexpr CGFloat kStep = 8;
     constexpr CGFloat kMargin = 20;
     const CGFloat way = cell.scrollView()->contentOffset().x - points;
-    if (!window_.hand().isDown()) {
-        const CGFloat y = visibleMiddle(&cell)->y;
+    if (const auto middle = visibleMiddle(&cell); middle && !window_.hand().isDown()) {
         const bool toTheRight = way > 0;
-        window_.hand().beginDrag({toTheRight ? kMargin : cell.bounds().size.width - kMargin, y},
-                                 {toTheRight ? CGFloat{1} : CGFloat{-1}, 0});
+        window_.hand().beginDrag(
+            {toTheRight ? kMargin : cell.bounds().size.width - kMargin, middle->y},
+            {toTheRight ? CGFloat{1} : CGFloat{-1}, 0});
     }
     window_.hand().dragOn({way, 0}, kStep);
 }

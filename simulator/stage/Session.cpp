@@ -21,6 +21,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// A step leaves nothing that moves, also while somebody watches.
+class AtRest {
+  public:
+    AtRest() { sim::Motion::shared().setWatched(false); }
+    ~AtRest() { sim::Motion::shared().setWatched(watched_); }
+    AtRest(const AtRest &) = delete;
+    AtRest &operator=(const AtRest &) = delete;
+
+  private:
+    const bool watched_ = sim::Motion::shared().isWatched();
+};
+
 /// Prints the addresses that were opened after the first `known`.
 void printOpened(std::ostream &out, size_t known) {
     const auto &opened = companion::journal().openedUrls;
@@ -97,6 +109,7 @@ void Session::perform(const Step &step, std::ostream &out) {
         if (window_->isCovered() && dynamic_cast<InCallScreen *>(screen_.get()) == nullptr) {
             throw Failure("a call covers the screen; end it and let its end be shown first");
         }
+        const AtRest atRest;
         screen_->perform(step);
     }
     printOpened(out, opened);

@@ -37,7 +37,9 @@ void Finger::proceed(TouchPhase phase, Point at, Milliseconds after) {
 void Finger::slideTo(Point at, CGFloat step) {
     const Point from = at_;
     const CGFloat way = std::hypot(at.x - from.x, at.y - from.y);
-    for (CGFloat gone = step; gone < way; gone += step) {
+    const int wholeSteps = static_cast<int>(std::ceil(way / step)) - 1;
+    for (int i = 1; i <= wholeSteps; ++i) {
+        const CGFloat gone = step * i;
         moveTo({from.x + (at.x - from.x) / way * gone, from.y + (at.y - from.y) / way * gone});
     }
     moveTo(at);

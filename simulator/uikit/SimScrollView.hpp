@@ -55,8 +55,6 @@ class SimScrollView : public SimView {
     void endDragging(CGPoint velocity);
     /// Comes to rest there as if a finger had just left it.
     void runTo(CGPoint target);
-    /// Whether it moved on until now.
-    bool stopDecelerating();
     /// Neither dragged nor moving, wherever it is.
     void standStill();
     /// The offset nearest to this one at which content and insets fill the view.

@@ -127,7 +127,7 @@ void SimScrollView::glideTo(CGPoint target, CGFloat speed) {
     const CGPoint from = contentOffset();
     const CGFloat way = distance(from, target);
     const CGFloat pace = speed > 0 ? std::clamp(way / speed, kShortest, kLongest) : kShortest;
-    sim::Motion::shared().begin(this, [this, from, target, way, pace](Milliseconds time) {
+    const auto frame = [this, from, target, way, pace](Milliseconds time) {
         const objc::AutoreleasePool pool;
         const auto self = objc::Owned<UIView>::share(sim::handle<UIView>(this));
         const CGFloat left = std::exp(-time.count() / pace);
@@ -143,15 +143,12 @@ void SimScrollView::glideTo(CGPoint target, CGFloat speed) {
             tell("scrollViewDidEndDecelerating:"_sel);
         }
         return moves;
-    });
-}
-
-bool SimScrollView::stopDecelerating() {
-    const bool moved = decelerating_;
-    if (moved) {
-        standStill();
+    };
+    if (way > kNear) {
+        sim::Motion::shared().begin(this, frame);
+    } else {
+        frame(sim::Motion::kForever);
     }
-    return moved;
 }
 
 void SimScrollView::standStill() {

@@ -69,20 +69,23 @@ void TouchDelivery::begin(SimEvent *event) {
             scrollViews_.push_back(objc::Owned<UIView>::share(object));
         }
     }
-    if (stopsContent()) {
-        view_ = View::HasLost;
-    } else if (!isDelayed()) {
+    if (!catches() && !isDelayed()) {
         tellBegan(event);
     }
 }
 
-/// A finger that stops what moves does nothing else until it drags.
-bool TouchDelivery::stopsContent() const {
-    bool stopped = false;
-    for (const auto &view : scrollViews_) {
-        stopped = instance<SimScrollView>(view.get())->stopDecelerating() || stopped;
+/// What still moves is stopped by the finger, and follows it at once.
+bool TouchDelivery::catches() {
+    const auto moving = std::ranges::find_if(scrollViews_, [](const objc::Owned<UIView> &view) {
+        return instance<SimScrollView>(view.get())->isDecelerating();
+    });
+    if (moving == scrollViews_.end()) {
+        return false;
     }
-    return stopped;
+    view_ = View::HasLost;
+    dragged_ = objc::Owned<UIView>::share(moving->get());
+    dragged()->beginDragging();
+    return true;
 }
 
 bool TouchDelivery::isDelayed() const {

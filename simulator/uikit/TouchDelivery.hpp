@@ -29,7 +29,7 @@ class TouchDelivery {
     };
 
     void begin(SimEvent *event);
-    bool stopsContent() const;
+    bool catches();
     bool isDelayed() const;
     void tellBegan(SimEvent *event);
     void tellWhenHeld(SimEvent *event);

@@ -4,6 +4,7 @@
 #include "phone/dialer/DialerView.hpp"
 #include "phone/incall/InCallButton.hpp"
 #include "phone/incall/InCallController.hpp"
+#include "phone/recents/PHRecentsCell.hpp"
 #include "phone/recents/PHRecentsViewController.hpp"
 #include "stage/Watching.hpp"
 #include "uikit/Foundation.hpp"
@@ -112,9 +113,20 @@ TEST_F(Touch, LeavesAListRunningForAsLongAsSomebodyWatches) {
         hand.lift();
         EXPECT_EQ(table->contentOffset().y, stopped) << "a finger stops it, and no row is called";
         EXPECT_EQ(session.inCall(), nullptr);
-        perform(session, {{Kind::Scroll}});
+        perform(session, {{Kind::Scroll}, {Kind::Swipe}, {Kind::Release}});
+        hand.tap({160, 400});
+        watching.step(40ms);
+        const SimScrollView &row = *session.recents()->swipedCell()->scrollView();
+        EXPECT_NEAR(row.contentOffset().x, 144 * 0.6065, 0.1) << "it folds back";
+        hand.down({100, 64 + 24});
+        hand.lift();
+        watching.step(1s);
+        EXPECT_EQ(row.contentOffset().x, 144) << "caught while it was more than half open";
+        hand.tap({160, 400});
+        watching.step(1s);
         flick();
     }
+    EXPECT_EQ(session.recents()->swipedCell(), nullptr);
     EXPECT_NEAR(table->contentOffset().y, 80 + 748.5, 0.1) << "come to rest";
     perform(session, {{Kind::Scroll}});
     flick();

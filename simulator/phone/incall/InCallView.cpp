@@ -127,6 +127,10 @@ void InCallView::showKeys(InCallKeys keys) {
         sim::instance<SimView>(part)->setAlpha(isOver ? kFaded : 1);
         sim::instance<SimView>(part)->setUserInteractionEnabled(!isOver);
     }
+    for (const size_t toggle : kToggles) {
+        auto *const button = sim::instance<InCallButton>(buttons_[toggle]);
+        button->setSelected(button->isSelected() && !isOver);
+    }
     showFaces(keys == InCallKeys::TwoCalls);
 }
 
