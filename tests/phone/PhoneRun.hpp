@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cmath>
-#include <optional>
+#include <memory>
 
 #include <gmock/gmock.h>
 
@@ -35,7 +35,7 @@ class PhoneRun : public testing::Test {
         window_ = sim::instance<SimWindow>(windowOwner_);
         auto *const shown = sim::instance<Controller>(controller);
         window_->setRootViewController(shown);
-        hand_.emplace(window_);
+        hand_ = std::make_unique<stage::Hand>(window_);
         return shown;
     }
 
@@ -55,7 +55,7 @@ class PhoneRun : public testing::Test {
     objc::AutoreleasePool pool_;
     objc::Owned<UIView> windowOwner_;
     SimWindow *window_ = nullptr;
-    std::optional<stage::Hand> hand_;
+    std::unique_ptr<stage::Hand> hand_;
 };
 
 }  // namespace test
