@@ -30,8 +30,6 @@ std::vector<std::string> characters(const std::string &text) {
     return all;
 }
 
-SimView *viewOf(UIView view) { return objc::Wire<SimView *>::from(view.get()); }
-
 }  // namespace
 
 DialerScreen::DialerScreen(PhoneWindow &window)

@@ -53,4 +53,7 @@ class Hand {
 /// The middle of what is seen of a view; nothing when it is hidden, clipped away or in no window.
 std::optional<sim::Point> visibleMiddle(SimView *view);
 
+/// The simulated view behind a handle; none of none.
+inline SimView *viewOf(UIView view) { return objc::Wire<SimView *>::from(view.get()); }
+
 }  // namespace stage

@@ -20,8 +20,6 @@ void require(bool done, const std::string &step, const std::string &otherwise) {
     }
 }
 
-SimView *viewOf(UIView view) { return objc::Wire<SimView *>::from(view.get()); }
-
 bool isTalking(const phone::InCallController &controller) {
     for (size_t number = 1; number <= controller.callCount(); ++number) {
         if (controller.call(number)->status() == phone::CallStatus::Active) {

@@ -26,8 +26,6 @@ std::string titleOf(const std::string &action) {
     return action == "correct" ? "纠错" : action == "mark" ? "标记" : "搜索";
 }
 
-SimView *viewOf(UIView view) { return sim::instance<SimView>(view); }
-
 bool isSwipeSystem() { return sim::Device::current().systemVersion < "8"; }
 
 }  // namespace

@@ -61,8 +61,8 @@ SimTableViewCell *numberCell(NSObject number, CGFloat width) {
     SimTableViewCell *const cell = makeCell();
     constexpr CGFloat kIcon = 26;
     const CGFloat textWidth = width - kTextLeft - 100;
-    addText(cell, objc::send<NSString()>(number, "label"_sel), rect(kTextLeft, 5, textWidth, 16), 13,
-            tint());
+    addText(cell, objc::send<NSString()>(number, "label"_sel), rect(kTextLeft, 5, textWidth, 16),
+            13, tint());
     addText(cell, textOf(number), rect(kTextLeft, 21, textWidth, 20), 16, UIColor::blackColor());
     CGFloat x = width - 2 * (kIcon + 15);
     for (const char *icon : {"detail_message", "detail_call"}) {
