@@ -52,9 +52,11 @@ void Hand::moveTo(sim::Point at) {
     }
 }
 
-void Hand::lift() {
+void Hand::lift() { liftAfter(sinceLast()); }
+
+void Hand::liftAfter(sim::Milliseconds time) {
     if (finger_) {
-        finger_->lift(sinceLast());
+        finger_->lift(time);
         finger_.reset();
     }
 }
@@ -67,7 +69,7 @@ void Hand::timeHasPassed() {
 
 void Hand::tap(sim::Point at) {
     down(at);
-    lift();
+    liftAfter({});
 }
 
 bool Hand::tap(SimView *view) {
@@ -106,12 +108,12 @@ void Hand::dragOn(sim::Point way, CGFloat step) {
 void Hand::leave(sim::Point way) {
     const sim::Point from = finger_->position();
     finger_->moveTo({from.x + way.x, from.y + way.y});
-    lift();
+    liftAfter({});
 }
 
 void Hand::release() {
     finger_->hold();
-    lift();
+    liftAfter({});
 }
 
 }  // namespace stage

@@ -44,6 +44,7 @@ class Hand {
 
   private:
     sim::Milliseconds sinceLast();
+    void liftAfter(sim::Milliseconds time);
 
     SimWindow *window_;
     std::unique_ptr<sim::Finger> finger_;

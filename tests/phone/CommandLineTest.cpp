@@ -137,7 +137,7 @@ TEST(ProgressBar, FillsTheTerminalOrTellsTheEndOfLongReading) {
         EXPECT_EQ(stage::progressLine("读 a", percent, columns), line) << columns;
     }
     std::vector<std::string> told;
-    for (const size_t entries : {99'999, 100'000}) {
+    for (const size_t entries : {size_t{99'999}, size_t{100'000}}) {
         stage::tellIfLong([&](const auto &text) { told.push_back(text); }, "a.csv", entries);
     }
     EXPECT_THAT(told, testing::ElementsAre("a.csv: 100000 entries read"));
