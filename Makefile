@@ -11,7 +11,7 @@ SEARCH_HOST =
 help:
 	@echo 'make demo          build, draw every scene into build/demo, describe some numbers'
 	@echo 'make test          build, run the tests'
-	@echo 'make build         build library, simulator, tests and benchmarks into build/'
+	@echo 'make build         build library, simulator and tests into build/'
 	@echo 'make bench         build, run the benchmarks'
 	@echo 'make asan          run the tests under the address, undefined-behaviour and leak checks'
 	@echo 'make tsan          run the tests under the thread checks'
