@@ -2,11 +2,8 @@
 #include "stage/Arguments.hpp"
 
 #include <algorithm>
-#include <charconv>
-#include <limits>
 
 #include "stage/Errors.hpp"
-#include "uikit/ViewTree.hpp"
 #include "uikit/drawing/Utf16.hpp"
 
 namespace stage {
@@ -123,15 +120,6 @@ class Reader {
     Arguments result_;
 };
 
-/// The whole text as a number; none when anything else is in it, or it is out of range.
-template <class Number>
-std::optional<Number> parsed(const std::string &text) {
-    Number number{};
-    const char *const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
-    return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
-}
-
 void appendRow(std::string &help, std::string_view left, std::string_view right) {
     std::string row = joined({"  ", left});
     row.append(row.size() < kHelpColumn ? kHelpColumn - row.size() : 2, ' ');
@@ -142,7 +130,7 @@ void appendRow(std::string &help, std::string_view left, std::string_view right)
 
 std::optional<std::string> Arguments::last(std::string_view name) const {
     std::optional<std::string> value;
-    for (const GivenOption &given : options) {
+    for (const Given &given : options) {
         if (given.name == name) {
             value = given.value;
         }
@@ -153,28 +141,6 @@ std::optional<std::string> Arguments::last(std::string_view name) const {
 Arguments readArguments(std::span<const CommandSpec> commands, std::span<const std::string> words) {
     std::ranges::for_each(words, checkText);
     return Reader(commands, words).read();
-}
-
-int readNumber(const GivenOption &given, int least) {
-    const auto number = parsed<int>(given.value);
-    if (!number || *number < least) {
-        throw UsageError(
-            joined({kProgram, ": ", given.name, " takes a whole number from ",
-                    std::to_string(least), " to ", std::to_string(std::numeric_limits<int>::max()),
-                    ", not '", given.value, "'"}));
-    }
-    return *number;
-}
-
-double readReal(const GivenOption &given, double least, double most) {
-    const auto number = parsed<double>(given.value);
-    // Written so that what is no number at all does not pass either.
-    if (!number || !(*number >= least && *number <= most)) {
-        throw UsageError(
-            joined({kProgram, ": ", given.name, " takes a number from ", sim::trimmedNumber(least),
-                    " to ", sim::trimmedNumber(most), ", not '", given.value, "'"}));
-    }
-    return *number;
 }
 
 std::string helpText(std::span<const CommandSpec> commands) {
@@ -199,15 +165,6 @@ std::string helpText(const CommandSpec &command) {
                   joined({option.help, choices}));
     }
     return help;
-}
-
-std::string joinChoices(std::span<const std::string_view> choices) {
-    std::string list;
-    for (size_t i = 0; i < choices.size(); ++i) {
-        list += i == 0 ? "" : i + 1 == choices.size() ? " or " : ", ";
-        list += choices[i];
-    }
-    return list;
 }
 
 }  // namespace stage

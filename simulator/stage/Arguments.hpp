@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "stage/Values.hpp"
+
 namespace stage {
 
 /// The program's name, as its messages begin.
@@ -16,7 +18,7 @@ inline constexpr std::string_view kProgram = "phone-simulator";
 
 /// One option of a command. Without a value it is a switch.
 struct OptionSpec {
-    std::string_view name;   // "--ios"
+    std::string name;        // "--ios"
     std::string_view value;  // what the help calls the value: "VERSION"
     std::string_view help;
     std::vector<std::string_view> choices{};  // the only values allowed; any when empty
@@ -30,16 +32,10 @@ struct CommandSpec {
     std::vector<OptionSpec> options;
 };
 
-/// One option as it was given.
-struct GivenOption {
-    std::string_view name;
-    std::string value;
-};
-
 /// A command line in the order in which it was written.
 struct Arguments {
     const CommandSpec *command = nullptr;  // none: only --help, --version or nothing at all
-    std::vector<GivenOption> options;
+    std::vector<Given> options;
     std::vector<std::string> words;
     bool help = false;
     bool version = false;
@@ -52,16 +48,7 @@ struct Arguments {
 /// Reads the arguments after the program's name. Throws UsageError, naming the choices.
 Arguments readArguments(std::span<const CommandSpec> commands, std::span<const std::string> words);
 
-/// A whole number from `least` upwards. Throws UsageError naming the option.
-int readNumber(const GivenOption &given, int least);
-
-/// A number, decimals allowed, from `least` to `most`. Throws UsageError naming the option.
-double readReal(const GivenOption &given, double least, double most);
-
 std::string helpText(std::span<const CommandSpec> commands);
 std::string helpText(const CommandSpec &command);
-
-/// "a, b or c"
-std::string joinChoices(std::span<const std::string_view> choices);
 
 }  // namespace stage

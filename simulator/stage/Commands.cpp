@@ -2,6 +2,7 @@
 #include "stage/Commands.hpp"
 
 #include "stage/Model.hpp"
+#include "stage/StepKind.hpp"
 
 namespace stage {
 namespace {
@@ -31,25 +32,25 @@ std::vector<OptionSpec> withPlaces(std::vector<OptionSpec> options) {
     return options;
 }
 
-/// A command that shows a screen: the telephone, `own` options, and the screen's steps.
+/// A command that shows a screen: the telephone, `own` options, and the steps possible there.
 Command screenCommand(Task task, std::string_view name, std::string_view summary,
-                      std::vector<OptionSpec> own, std::vector<StepOption> steps) {
+                      std::vector<OptionSpec> own, StepKind::Screen screen) {
+    using enum StepKind::Screen;
     std::vector<OptionSpec> options = {iosOption(), screenOption()};
     options.insert(options.end(), own.begin(), own.end());
-    for (const StepOption &step : showingSteps()) {
-        steps.push_back(step);
-    }
-    for (const StepOption &step : steps) {
-        options.push_back(step.option);
+    for (const StepKind &kind : stepKinds()) {
+        if (kind.screen == Any || kind.screen == Tabs || kind.screen == screen || screen == Any) {
+            options.push_back({"--" + std::string(kind.name), kind.value, kind.help, kind.choices});
+        }
     }
     options.push_back({"--without-addon", "", "the Phone application alone"});
-    return {task, {name, summary, "", withPlaces(std::move(options))}, std::move(steps)};
+    return {task, {name, summary, "", withPlaces(std::move(options))}};
 }
 
 std::vector<Command> makeCommands() {
     return {
         screenCommand(Task::Dialer, "dialer", "Type on the keypad and look at the screen.", {},
-                      dialerSteps()),
+                      StepKind::Screen::Keypad),
         screenCommand(Task::InCall, "incall", "Call, or be called, and look at the screen.",
                       {{"--display",
                         "KIND",
@@ -57,9 +58,9 @@ std::vector<Command> makeCommands() {
                         {"view", "field"}},
                        paceOption(),
                        verboseOption()},
-                      inCallSteps()),
+                      StepKind::Screen::InCall),
         screenCommand(Task::Recents, "recents", "Look at the recent calls and at one's detail.",
-                      {callsOption(), paceOption(), verboseOption()}, recentsSteps()),
+                      {callsOption(), paceOption(), verboseOption()}, StepKind::Screen::Recents),
         {Task::Hooks,
          {"hooks", "List the methods that the add-on replaces, in order.", "",
           withPlaces({iosOption(),

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "stage/Arguments.hpp"
-#include "stage/StepOptions.hpp"
 
 namespace stage {
 
@@ -13,7 +12,6 @@ enum class Task { Help, Version, Dialer, InCall, Recents, Hooks, Gallery, Descri
 struct Command {
     Task task;
     CommandSpec usage;
-    std::vector<StepOption> steps{};  // those of its options that are steps
 };
 
 /// All of them, in the order of the help.

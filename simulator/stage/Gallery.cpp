@@ -44,12 +44,12 @@ std::vector<Model> allModels() {
 }
 
 std::string pictureName(const Scene &scene, const Settings &settings) {
-    return std::string(kPictures) + "/" + std::string(scene.name) + "-" + settings.model.slug() +
+    return std::string(kPictures) + "/" + scene.name + "-" + settings.model.slug() +
            (settings.withAddOn ? "-with.png" : "-without.png");
 }
 
 bool isShown(const Scene &scene, const Model &model) {
-    return !scene.onlyBefore8 || model.ios < "8";
+    return std::ranges::find(scene.systems, model.ios) != scene.systems.end();
 }
 
 bool isSample(const Settings &settings) { return settings.world.empty() && settings.calls.empty(); }
@@ -71,9 +71,9 @@ std::string drawScene(Session &session, const Scene &scene, const Settings &sett
                       const fs::path &folder) {
     std::ostringstream printed;  // by steps; nobody reads it
     session.startOver();
-    session.open(scene.opening);
-    for (const Step &step : scene.steps) {
-        if (settings.withAddOn || step.kind != Step::Kind::HoldButton) {
+    session.open(scene.request.opening);
+    for (const Step &step : scene.request.steps) {
+        if (settings.withAddOn || !step.is("hold")) {
             session.perform(step, printed);  // the buttons are the add-on's
         }
     }
@@ -87,8 +87,8 @@ using Say = std::function<void(const std::string &)>;
 
 /// Draws all scenes on one device; says a line a scene, what the screen said or that it is left
 /// out.
-void drawScenes(const fs::path &folder, const std::vector<SceneGroup> &groups,
-                const Settings &settings, const Say &say) {
+void drawScenes(const fs::path &folder, const SceneGroups &groups, const Settings &settings,
+                const Say &say) {
     Session session(settings);
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
@@ -131,7 +131,7 @@ bool takeCaption(std::istream &lines, std::string &caption) {
     return drawn;
 }
 
-size_t shownScenes(const std::vector<SceneGroup> &groups, const Model &model) {
+size_t shownScenes(const SceneGroups &groups, const Model &model) {
     size_t count = 0;
     for (const SceneGroup &group : groups) {
         count += static_cast<size_t>(std::ranges::count_if(
@@ -141,10 +141,10 @@ size_t shownScenes(const std::vector<SceneGroup> &groups, const Model &model) {
 }
 
 /// The scenes that not every device which could show them does.
-std::vector<std::string_view> missingIn(std::span<const Exhibit> exhibits,
-                                        std::span<const SceneGroup> groups,
-                                        std::span<const Model> models) {
-    std::vector<std::string_view> names;
+std::vector<std::string> missingIn(std::span<const Exhibit> exhibits,
+                                   std::span<const SceneGroup> groups,
+                                   std::span<const Model> models) {
+    std::vector<std::string> names;
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
             const auto wanted = std::ranges::count_if(
@@ -159,14 +159,14 @@ std::vector<std::string_view> missingIn(std::span<const Exhibit> exhibits,
 
 /// What a device shows in all scenes that both sides drew: their lines come in the order of the
 /// scenes, those without the add-on first.
-std::vector<Exhibit> exhibitsOf(const std::vector<SceneGroup> &groups, const Settings &without,
+std::vector<Exhibit> exhibitsOf(const SceneGroups &groups, const Settings &without,
                                 const Settings &with, std::istream &captions) {
     std::vector<Exhibit> exhibits;
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
             if (isShown(scene, with.model)) {
                 exhibits.push_back({with.model,
-                                    std::string(scene.name),
+                                    scene.name,
                                     pictureName(scene, without),
                                     pictureName(scene, with),
                                     {},
@@ -241,8 +241,7 @@ void moveInto(const fs::path &folder, const fs::path &staged, std::span<const Ex
 
 }  // namespace
 
-Gallery makeGallery(const fs::path &folder, const Settings &settings,
-                    const std::vector<SceneGroup> &groups) {
+Gallery makeGallery(const fs::path &folder, const Settings &settings, const SceneGroups &groups) {
     if (fs::exists(folder) && !fs::is_directory(folder)) {
         throw Failure(folder.string() + ": is no folder; choose another with --out");
     }

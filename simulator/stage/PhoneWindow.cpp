@@ -80,9 +80,25 @@ objc::Owned<NSObject> PhoneWindow::makeTab(phone::Tab tab) const {
     return phone::PlainListController::create("语音留言"_ns, {});
 }
 
-void PhoneWindow::showTab(phone::Tab tab, NSObject controller) {
-    tabs()->setTab(tab, controller);
+void PhoneWindow::openTab(phone::Tab tab) {
+    for (size_t other = 0; other < phone::kTabCount; ++other) {
+        tabs()->setTab(static_cast<phone::Tab>(other), {});
+    }
     tabs()->showTab(tab);
+    layout();
+}
+
+void PhoneWindow::putAway() {
+    hand_.cancel();
+    const NSObject recents = tabs()->tab(phone::Tab::Recents);
+    if (recents != nullptr) {
+        auto &list = *sim::instance<phone::PHRecentsViewController>(recents);
+        list.closeSwipe();
+        if (list.isEditing()) {
+            objc::send<void(bool, bool)>(recents, "setEditing:animated:"_sel, false, true);
+        }
+    }
+    dismiss();
 }
 
 phone::Tab PhoneWindow::shownTab() const { return tabs()->shownTab(); }
@@ -91,7 +107,18 @@ SimView *PhoneWindow::tabButton(phone::Tab tab) const {
     return objc::Wire<SimView *>::from(tabs()->tabBar()->button(tab).get());
 }
 
-SimViewController *PhoneWindow::tabController() const { return tabs()->shownController(); }
+template <class Controller>
+Controller *PhoneWindow::shown(phone::Tab tab) const {
+    return shownTab() == tab ? sim::instance<Controller>(tabs()->tab(tab)) : nullptr;
+}
+
+phone::DialerController *PhoneWindow::keypad() const {
+    return shown<phone::DialerController>(phone::Tab::Keypad);
+}
+
+phone::PHRecentsViewController *PhoneWindow::recents() const {
+    return shown<phone::PHRecentsViewController>(phone::Tab::Recents);
+}
 
 phone::InCallController *PhoneWindow::inCall() const {
     return cover_ && cover_->isKindOfClass("InCallController"_cls)

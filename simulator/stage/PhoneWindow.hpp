@@ -11,10 +11,10 @@
 #include "uikit/SimWindow.hpp"
 #include "uikit/drawing/Canvas.hpp"
 
-class SimViewController;
-
 namespace phone {
+class DialerController;
 class InCallController;
+class PHRecentsViewController;
 class PhoneTabBarController;
 }  // namespace phone
 
@@ -25,7 +25,7 @@ class PhoneWindow {
     /// The calls of the recents tab, PHRecentCall objects.
     using RecentCalls = std::function<NSArray()>;
 
-    /// Opens with the tab bar and no tab. Tabs that nobody has set are made when they are pressed.
+    /// Opens with the tab bar and no tab. Tabs are made when they are shown for the first time.
     PhoneWindow(CGSize screen, RecentCalls recentCalls);
     /// All that is shown disappears, as far as its controllers are told.
     ~PhoneWindow();
@@ -35,12 +35,17 @@ class PhoneWindow {
     /// Whoever touches the screen does it with this hand.
     Hand &hand() { return hand_; }
 
-    void showTab(phone::Tab tab, NSObject controller);
+    /// All tabs are as nobody has touched them yet, and this one is shown.
+    void openTab(phone::Tab tab);
+    /// Nothing is left of what is shown: no finger, no swiped row, no edit mode, no cover.
+    void putAway();
     phone::Tab shownTab() const;
     /// What is pressed for that tab.
     SimView *tabButton(phone::Tab tab) const;
-    /// The controller of the tab; the tab may be covered.
-    SimViewController *tabController() const;
+    /// The keypad's controller, also while it is covered; null while another tab is shown.
+    phone::DialerController *keypad() const;
+    /// The same for the recents.
+    phone::PHRecentsViewController *recents() const;
 
     /// Covers the tabs with a screen of its own; the one that covered them before goes.
     void present(NSObject controller);
@@ -63,6 +68,8 @@ class PhoneWindow {
 
   private:
     phone::PhoneTabBarController *tabs() const;
+    template <class Controller>
+    Controller *shown(phone::Tab tab) const;
     objc::Owned<NSObject> makeTab(phone::Tab tab) const;
     phone::InCallController &inCallForCalls();
     void replaceRoot(NSObject from, NSObject by);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "stage/Errors.hpp"
+#include "stage/StepKind.hpp"
 
 namespace stage {
 namespace {
@@ -29,7 +30,18 @@ Opening openingOf(Task task, const Arguments &arguments) {
 
 double paceOf(const Arguments &arguments) {
     const auto pace = arguments.last("--pace");
-    return pace ? readReal({"--pace", *pace}, kFastestPace, kSlowestPace) : 1;
+    return pace ? realNumber({"--pace", *pace}, kFastestPace, kSlowestPace) : 1;
+}
+
+Steps stepsOf(const Arguments &arguments) {
+    Steps steps;
+    for (const Given &given : arguments.options) {
+        const auto kind = std::ranges::find(stepKinds(), given.name.substr(2), &StepKind::name);
+        if (kind != stepKinds().end()) {
+            steps.push_back(makeStep(*kind, given));
+        }
+    }
+    return steps;
 }
 
 /// What is neither an option's own matter nor a step's.
@@ -77,7 +89,7 @@ Request readRequest(std::span<const std::string> words) {
     request.calls = arguments.last("--calls").value_or("");
     request.pace = paceOf(arguments);
     request.opening = openingOf(request.task, arguments);
-    request.steps = readSteps(command.steps, arguments);
+    request.steps = stepsOf(arguments);
     request.numbers = std::move(arguments.words);
     check(request);
     return request;

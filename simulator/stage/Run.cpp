@@ -1,6 +1,7 @@
 // The commands of phone-simulator.
 #include "stage/Run.hpp"
 
+#include <algorithm>
 #include <filesystem>
 #include <iomanip>
 #include <ranges>
@@ -41,9 +42,9 @@ Settings settingsOf(const Request &request, std::ostream &err) {
 /// Pictures have to have a place before the first step is done.
 void checkPictureFolders(const Steps &steps) {
     for (const Step &step : steps) {
-        const fs::path folder = fs::path(step.text).parent_path();
-        if (step.kind == Step::Kind::Picture && !folder.empty() && !fs::is_directory(folder)) {
-            throw Failure(step.text + ": there is no folder " + folder.string() +
+        const fs::path folder = fs::path(step.value).parent_path();
+        if (step.is("png") && !folder.empty() && !fs::is_directory(folder)) {
+            throw Failure(step.value + ": there is no folder " + folder.string() +
                           "; make it first, or name another file with --png");
         }
     }
@@ -55,6 +56,10 @@ void runScreen(const Request &request, std::ostream &out, std::ostream &err) {
     session.open(request.opening);
     for (const Step &step : request.steps) {
         session.perform(step, out);
+    }
+    const auto shows = [](const Step &step) { return step.is("png") || step.is("tree"); };
+    if (std::ranges::none_of(request.steps, shows)) {
+        out << session.tree();
     }
 }
 
@@ -93,18 +98,18 @@ void runDescribe(const Request &request, std::ostream &out, std::ostream &err) {
     TextTable table({"typed", "shown", "below the number"});
     for (const std::string &number : request.numbers) {
         session.openDialer();
-        session.perform({Step::Kind::Type, number}, out);
+        session.perform(readStep("type " + number), out);
         table.add({number, session.numberText(), session.lineText()});
     }
     out << table.str();
 }
 
 void runGallery(const Request &request, std::ostream &out, std::ostream &err) {
-    const Gallery gallery = makeGallery(request.out, settingsOf(request, err),
-                                        {dialerScenes(), inCallScenes(), recentsScenes()});
+    const Gallery gallery =
+        makeGallery(request.out, settingsOf(request, err), readScenes(scenesFile()));
     out << gallery.pictures << " pictures and " << (request.out / "index.html").string() << '\n';
     const char *before = "left out, for want of what they open or touch: ";
-    for (const std::string_view scene : gallery.leftOut) {
+    for (const std::string &scene : gallery.leftOut) {
         out << std::exchange(before, ", ") << scene;
     }
     out << (gallery.leftOut.empty() ? "" : "\n");

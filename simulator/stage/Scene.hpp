@@ -1,34 +1,36 @@
-// The moments that the gallery shows, each a title and the steps that lead to it in the sample
-// world.
+// The moments that the gallery shows. They are written in scenes.json, each with the command line
+// that leads to it in the sample world.
 #pragma once
 
-#include <span>
-#include <string_view>
+#include <filesystem>
+#include <string>
 #include <vector>
 
-#include "stage/Screen.hpp"
-#include "stage/Step.hpp"
+#include "stage/Request.hpp"
 
 namespace stage {
 
 struct Scene {
-    std::string_view name;   // of its files: "dialer-brand"
-    std::string_view title;  // for the page
-    std::string_view note;   // what to look at
-    Steps steps;
-    Opening opening{};
-    bool onlyBefore8 = false;  // what is to be seen does not exist from iOS 8 on
+    std::string name;   // of its files: "dialer-brand"
+    std::string title;  // for the page
+    std::string note;   // what to look at
+    std::string command;
+    Request request;  // what the command asks for
+    std::vector<std::string> systems{kSystemVersions.begin(),
+                                     kSystemVersions.end()};  // that have what is to be seen
 };
 
 /// The scenes of one screen, in the order of the page.
 struct SceneGroup {
-    std::string_view name;   // "dialer"
-    std::string_view title;  // for the page
+    std::string name;   // "dialer"
+    std::string title;  // for the page
     std::vector<Scene> scenes;
 };
 
-SceneGroup dialerScenes();
-SceneGroup inCallScenes();
-SceneGroup recentsScenes();
+using SceneGroups = std::vector<SceneGroup>;
+
+/// Those of the build, or of another file. Throws Failure that names the file and the mistake.
+SceneGroups readScenes(const std::filesystem::path &file);
+std::filesystem::path scenesFile();
 
 }  // namespace stage

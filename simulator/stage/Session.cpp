@@ -1,20 +1,20 @@
-// The screen that is shown does its own steps; waiting and looking are the same on all of them.
+// What is around a step: where it is possible, and what follows from it.
 #include "stage/Session.hpp"
 
 #include "companion/Companion.hpp"
 #include "phone/dialer/DialerController.hpp"
 #include "phone/dialer/DialerView.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
+#include "phone/incall/InCallController.hpp"
 #include "stage/CallsFile.hpp"
+#include "stage/Caption.hpp"
 #include "stage/DelayedMessages.hpp"
-#include "stage/DialerScreen.hpp"
-#include "stage/InCallScreen.hpp"
 #include "stage/RecentCallObjects.hpp"
-#include "stage/RecentsScreen.hpp"
 #include "stage/Surroundings.hpp"
 #include "stage/Waiting.hpp"
 #include "uikit/Foundation.hpp"
 #include "uikit/Motion.hpp"
+#include "uikit/drawing/Utf16.hpp"
 
 namespace stage {
 namespace {
@@ -32,6 +32,14 @@ class AtRest {
   private:
     const bool watched_ = sim::Motion::shared().isWatched();
 };
+
+/// As it is written on the command line, in short.
+std::string optionOf(const Step &step) {
+    constexpr size_t kLongest = 40;
+    const std::string value = sim::drawableText(sim::utf16(step.value)).utf8;
+    const bool isShort = !value.empty() && value.size() <= kLongest;
+    return "--" + std::string(step.kind->name) + (isShort ? " " + value : "");
+}
 
 /// Prints the addresses that were opened after the first `known`.
 void printOpened(std::ostream &out, size_t known) {
@@ -55,62 +63,53 @@ Session::Session(const Settings &settings) : settings_(settings) {
 
 Session::~Session() = default;
 
-std::unique_ptr<Screen> Session::makeScreen(const Opening &opening) {
-    switch (opening.screen) {
-    case ScreenKind::Dialer:
-        break;
-    case ScreenKind::InCall:
-        return std::make_unique<InCallScreen>(*window_,
-                                              opening.display.value_or(phone::usualDisplay()));
-    case ScreenKind::Recents:
-        return std::make_unique<RecentsScreen>(*window_, recentCalls());
-    }
-    return std::make_unique<DialerScreen>(*window_);
-}
-
 std::vector<companion::RecentCall> Session::recentCalls() const {
     return settings_.calls.empty() ? companion::store().recents() : calls_;
 }
 
 void Session::open(const Opening &opening) {
     const objc::AutoreleasePool pool;
-    screen_.reset();
-    screen_ = makeScreen(opening);
+    window_->putAway();
+    switch (opening.screen) {
+    case ScreenKind::Dialer:
+        window_->openTab(phone::Tab::Keypad);
+        break;
+    case ScreenKind::InCall:
+        window_->present(
+            phone::InCallController::create(opening.display.value_or(phone::usualDisplay())));
+        break;
+    case ScreenKind::Recents:
+        window_->openTab(phone::Tab::Recents);
+        break;
+    }
 }
 
-phone::DialerController *Session::dialer() const {
-    SimViewController *const tab = window_->tabController();
-    return NSObject(*tab).isKindOfClass("DialerController"_cls)
-               ? static_cast<phone::DialerController *>(tab)
-               : nullptr;
-}
-
-phone::InCallController *Session::inCall() const { return window_->inCall(); }
-
-phone::PHRecentsViewController *Session::recents() const {
-    const auto *const screen = dynamic_cast<RecentsScreen *>(screen_.get());
-    return screen != nullptr ? screen->controller() : nullptr;
+void Session::requireShown(StepKind::Screen screen) const {
+    using enum StepKind::Screen;
+    if (screen == Any) {
+        return;
+    }
+    require(screen != InCall || inCall() != nullptr,
+            "no call is shown; begin one with --outgoing or --incoming first");
+    require(screen == InCall || !window_->isCovered(),
+            "a call covers the screen; end it and let its end be shown first");
+    require(screen != Keypad || dialer() != nullptr, "another tab is shown; --tab keypad first");
+    require(screen != Recents || recents() != nullptr, "another tab is shown; --tab recents first");
 }
 
 void Session::perform(const Step &step, std::ostream &out) {
     const objc::AutoreleasePool pool;
     const size_t opened = companion::journal().openedUrls.size();
-    switch (step.kind) {
-    case Step::Kind::Wait:
-        wait(step.time);
-        break;
-    case Step::Kind::Picture:
-        picture().savePng(step.text);
-        break;
-    case Step::Kind::Tree:
-        out << tree();
-        break;
-    default:
-        if (window_->isCovered() && dynamic_cast<InCallScreen *>(screen_.get()) == nullptr) {
-            throw Failure("a call covers the screen; end it and let its end be shown first");
+    try {
+        requireShown(step.kind->screen);
+        if (step.kind->watches) {
+            step.act(*this, out);
+        } else {
+            const AtRest atRest;
+            step.act(*this, out);
         }
-        const AtRest atRest;
-        screen_->perform(step);
+    } catch (const NotPossible &reason) {
+        throw Failure(optionOf(step) + ": " + reason.what());
     }
     printOpened(out, opened);
 }
@@ -122,7 +121,9 @@ void Session::wait(std::chrono::milliseconds time) {
         window_->layout();
         return false;
     });
-    screen_->timeHasPassed();
+    if (phone::InCallController *const calls = inCall()) {
+        calls->tick();
+    }
 }
 
 void Session::leap(std::chrono::milliseconds time) {
@@ -148,7 +149,7 @@ void Session::startOver() {
 
 std::string Session::lineText() const {
     const objc::AutoreleasePool pool;
-    return screen_->caption();
+    return caption(*window_);
 }
 
 std::string Session::numberText() const {

@@ -14,12 +14,7 @@
 #include "stage/Model.hpp"
 #include "stage/PhoneWindow.hpp"
 #include "stage/Screen.hpp"
-
-namespace phone {
-class DialerController;
-class InCallController;
-class PHRecentsViewController;
-}  // namespace phone
+#include "stage/StepKind.hpp"
 
 namespace stage {
 
@@ -47,21 +42,19 @@ class Session {
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
-    /// Closes the screen that is shown and opens another.
+    /// Puts away what is shown and opens a screen that nobody has touched yet.
     void open(const Opening &opening);
-    /// Puts a keypad that nobody has touched yet on the screen.
     void openDialer() { open({}); }
 
     /// The keypad's controller, also while a call covers it; null while another tab is shown.
-    phone::DialerController *dialer() const;
+    phone::DialerController *dialer() const { return window_->keypad(); }
     /// The in-call screen's controller; null while it is not shown.
-    phone::InCallController *inCall() const;
+    phone::InCallController *inCall() const { return window_->inCall(); }
+    /// The recents' controller, also while a call covers them; null while another tab is shown.
+    phone::PHRecentsViewController *recents() const { return window_->recents(); }
 
-    /// The recents' controller; null while another screen is shown.
-    phone::PHRecentsViewController *recents() const;
-
-    /// Does one step; trees are printed to `out`, and the addresses that it opened. Throws Failure
-    /// when the step is not possible now.
+    /// Does one step on what is shown; trees are printed to `out`, and the addresses that it
+    /// opened. Throws Failure when the step is not possible now, with what would allow it.
     void perform(const Step &step, std::ostream &out);
     /// Lets simulated time pass; it stands still otherwise.
     void wait(std::chrono::milliseconds time);
@@ -77,21 +70,19 @@ class Session {
     std::string tree() const { return window_->tree(); }
     /// The screen as it is seen.
     sim::Canvas picture() const { return window_->picture(); }
-    /// What the screen says of the number in question, its visible texts joined by " | ": under
-    /// the typed number, in the display of a call, or in the call's row or detail.
+    /// See caption().
     std::string lineText() const;
     /// The typed number as the keypad shows it.
     std::string numberText() const;
 
   private:
-    std::unique_ptr<Screen> makeScreen(const Opening &opening);
+    void requireShown(StepKind::Screen screen) const;
     std::vector<companion::RecentCall> recentCalls() const;
 
     Settings settings_;
     std::vector<companion::RecentCall> calls_;  // of the user's own file
     objc::AutoreleasePool pool_;
     std::unique_ptr<PhoneWindow> window_;
-    std::unique_ptr<Screen> screen_;
 };
 
 }  // namespace stage

@@ -95,12 +95,12 @@ TEST_P(DialerOn, ATouchPressesTheOfferAndACancelledOneReleasesIt) {
     dialer_.type("17700000061");
     const auto color = [&] { return hasOffer ? dialer_.textColor(1004) : std::string(); };
     const std::string released = color();
-    dialer_.perform({stage::Step::Kind::Hold});
+    dialer_.perform("touch add-contact-hold");
     EXPECT_EQ(color() != released, hasOffer);
-    dialer_.perform({stage::Step::Kind::Cancel});
+    dialer_.perform("touch add-contact-cancel");
     EXPECT_EQ(color(), released);
     // A completed tap is not noticed: the pressed colour stays.
-    dialer_.perform({stage::Step::Kind::Touch});
+    dialer_.perform("touch add-contact");
     EXPECT_EQ(color() != released, hasOffer);
 }
 

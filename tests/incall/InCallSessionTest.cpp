@@ -10,8 +10,6 @@
 namespace {
 
 using namespace std::chrono_literals;
-using stage::Step;
-using Kind = Step::Kind;
 
 struct Place {
     stage::Model model;
@@ -35,10 +33,7 @@ class InCallSession : public test::StageRun, public testing::WithParamInterface<
   protected:
     InCallSession() { session_.open({stage::ScreenKind::InCall, GetParam().display}); }
 
-    void perform(Kind kind, const std::string &text = {}, int count = 1) {
-        std::ostringstream ignored;
-        session_.perform({kind, text, count}, ignored);
-    }
+    void perform(const std::string &step) { StageRun::perform(session_, {step}); }
     std::string said() { return session_.lineText(); }
     bool says(const std::string &text) { return said().find(text) != std::string::npos; }
 
@@ -55,24 +50,24 @@ INSTANTIATE_TEST_SUITE_P(Displays, InCallSession, testing::ValuesIn(kPlaces),
                          });
 
 TEST_P(InCallSession, TheCloudsAnswerArrivesDuringAnOutgoingCall) {
-    perform(Kind::Outgoing, "13000000101");
+    perform("outgoing 13000000101");
     session_.wait(3s);
-    perform(Kind::Layout);
+    perform("layout");
     EXPECT_TRUE(says("装修推销 | 46人标记")) << said();
-    perform(Kind::End);
-    perform(Kind::Incoming, "13000000102");
+    perform("end 1");
+    perform("incoming 13000000102");
     session_.wait(3s);
-    perform(Kind::Layout);
+    perform("layout");
     EXPECT_FALSE(says("装修推销") || says("润禾物业管理处"))
         << "an incoming call is not asked about: " << said();
 }
 
 TEST_P(InCallSession, APartnersLogoArrivesAndShowsAtTheNextLayoutPass) {
-    perform(Kind::Outgoing, "021-01065012");
+    perform("outgoing 021-01065012");
     EXPECT_TRUE(says("一碗山食堂"));
     session_.picture().savePng(folder_ / "before.png");
     session_.wait(2s);
-    perform(Kind::Layout);
+    perform("layout");
     session_.picture().savePng(folder_ / "after.png");
     const auto bytes = [&](const char *name) {
         std::ifstream file(folder_ / name, std::ios::binary);
@@ -85,11 +80,11 @@ TEST_P(InCallSession, ASmallLabelOfAStrangersIsAsLargeAsTheDescriptionOnAShortSc
     const bool isShort = std::string_view(GetParam().model.screen) == "3.5";
     for (const auto &[number, points] : {std::pair{"13800130011", GetParam().labelPoints},
                                          {"17700000061", isShort ? 14 : GetParam().labelPoints}}) {
-        perform(Kind::Incoming, number);
-        perform(Kind::Layout);
+        perform(std::string("incoming ") + number);
+        perform("layout");
         const auto label = objc::read<UIView>(session_.inCall()->displayView(), "_labelView"_ivar);
         EXPECT_EQ(objc::read<CGFloat>(label, "_fontSize"_ivar), points) << number;
-        perform(Kind::End);
+        perform("end 1");
     }
 }
 
@@ -99,23 +94,23 @@ TEST_P(InCallSession, AThousandCallsLeaveNoObjectBehind) {
                                                 "400-200-1818", "13800130011",  "+1 415 555 0132"};
         const objc::AutoreleasePool pool;
         const std::string caller = kCallers[static_cast<size_t>(number) % kCallers.size()];
-        perform(number % 2 == 0 ? Kind::Incoming : Kind::Outgoing, caller);
-        perform(Kind::Answer);
+        perform((number % 2 == 0 ? "incoming " : "outgoing ") + caller);
+        perform("answer");
         session_.wait(100ms);
         if (number % 4 == 0) {
-            perform(Kind::Second, "18900000062");
-            perform(Kind::End);
+            perform("second 18900000062");
+            perform("end 1");
         }
-        perform(Kind::End);
+        perform("end 1");
     };
     const auto countSettled = [&] {
         const objc::AutoreleasePool pool;
         session_.wait(5s);
         // One number is remembered as the last that the cloud was asked about: always the same
         // here.
-        perform(Kind::Outgoing, "13000000101");
+        perform("outgoing 13000000101");
         session_.wait(5s);
-        perform(Kind::End);
+        perform("end 1");
         session_.wait(5s);
         return test::liveObjects();
     };

@@ -15,26 +15,27 @@ using stage::Session;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
-using Kind = stage::Step::Kind;
 using Stage = test::StageRun;
 using namespace std::chrono_literals;
 
 TEST_F(Stage, TypesInTheSampleWorldAndSavesANewContact) {
     Session session(settings("7.0", "4"));
-    const stage::Step save{Kind::SaveContact, "新朋友"};
-    expectEach(session, {{save, "--save-contact: no sheet for a new person is open"},
-                         {{Kind::Touch}, "--touch: no add-to-contacts line is shown; --type"}});
+    const std::string save = "save-contact 新朋友";
+    expectEach(session, {{save, "--save-contact 新朋友: no sheet for a new person is open"},
+                         {"touch add-contact",
+                          "--touch add-contact: no add-to-contacts line is shown; --type"}});
     const auto typed = [&session](const std::string &text) {
         session.openDialer();
-        perform(session, {{Kind::Type, text}});
+        perform(session, {"type " + text});
         return session.lineText();
     };
     EXPECT_EQ(typed("13800130011"), "林小满 | 手机");
-    expectEach(session, {{{Kind::Hold}, "--touch: no add-to-contacts line is shown"}});
+    expectEach(session,
+               {{"touch add-contact-hold", "--touch add-contact-hold: no add-to-contacts"}});
     EXPECT_THAT(typed(std::string(10000, '9')), HasSubstr("添加到通讯录"));
     EXPECT_THAT(typed("4002001818"), StartsWith("云雀速递"));
     EXPECT_EQ(session.numberText(), "400 200 1818");
-    perform(session, {{Kind::Touch}, save});
+    perform(session, {"touch add-contact", save});
     EXPECT_EQ(session.lineText(), "新朋友 | 手机");
     session.startOver();
     EXPECT_THAT(typed("4002001818"), StartsWith("云雀速递")) << "of the world as it was";
@@ -42,7 +43,7 @@ TEST_F(Stage, TypesInTheSampleWorldAndSavesANewContact) {
 
 TEST_F(Stage, CallsTakeTheWholeWindowAndGiveItBack) {
     Session session(settings("7.1", "4", false));
-    perform(session, {{Kind::Type, "138"}});
+    perform(session, {"type 138"});
     const phone::DialerController *const keypad = session.dialer();
     EXPECT_FALSE(session.inCall());
     session.open({ScreenKind::InCall, phone::Display::View});
@@ -51,14 +52,14 @@ TEST_F(Stage, CallsTakeTheWholeWindowAndGiveItBack) {
     EXPECT_EQ(session.dialer(), keypad);
     session.open({ScreenKind::InCall});
     EXPECT_THAT(session.tree(), HasSubstr("InCallLCDField")) << "the display of 7.1";
-    const std::pair<stage::Steps, const char *> rows[] = {
-        {{{Kind::Outgoing, "13800130011"}}, "林小满 | 手机"},
-        {{{Kind::Answer}, {Kind::Wait, {}, 1, 7s}}, "林小满 | 00:07"},
-        {{{Kind::Second, "200"}}, "林小满 | 保留 | 200 | 00:00"},
-        {{{Kind::Swap}}, "林小满 | 00:07 | 200 | 保留"},
-        {{{Kind::Merge}}, "会议通话 | 00:07"},
-        {{{Kind::End, {}, 1}}, "200 | 00:00"},
-        {{{Kind::End, {}, 1}}, "200 | 通话结束"},
+    const std::pair<std::vector<std::string>, const char *> rows[] = {
+        {{"outgoing 13800130011"}, "林小满 | 手机"},
+        {{"answer", "wait 7"}, "林小满 | 00:07"},
+        {{"second 200"}, "林小满 | 保留 | 200 | 00:00"},
+        {{"swap"}, "林小满 | 00:07 | 200 | 保留"},
+        {{"merge"}, "会议通话 | 00:07"},
+        {{"end 1"}, "200 | 00:00"},
+        {{"end 1"}, "200 | 通话结束"},
     };
     for (const auto &[steps, says] : rows) {
         perform(session, steps);
@@ -74,42 +75,40 @@ TEST_F(Stage, StepsOfACallSayWhatTheyNeed) {
     Session session(settings("7.1", "4", false));
     session.open({ScreenKind::InCall});
     expectEach(session,
-               {{{Kind::Answer}, "--answer: no call is ringing or being dialled; begin one with"},
-                {{Kind::Second, "10086"}, "--second: no call is talked on; begin one with"},
-                {{Kind::End, {}, 1}, "--end 1: there is no call; begin one with"},
-                {{Kind::Type, "1"}, "the in-call screen is shown"},
-                {{Kind::Incoming, "13800130011"}, "done"},
-                {{Kind::Second, "10086"}, "--second: no call is talked on; --answer the first one"},
-                {{Kind::End, {}, 2}, "--end 2: there is one call; end call 1"},
-                {{Kind::Answer}, "done"},
-                {{Kind::Answer}, "--answer: no call is ringing"},
-                {{Kind::Swap}, "--swap: there is no held call"},
-                {{Kind::Merge}, "--merge: there is no held call"},
-                {{Kind::Second, "10086"}, "done"},
-                {{Kind::End, {}, 3}, "--end 3: there are 2 calls; end one from 1 to 2"}});
+               {{"answer", "--answer: no call is ringing or being dialled; begin one with"},
+                {"second 10086", "--second 10086: no call is talked on; begin one with"},
+                {"end 1", "--end 1: there is no call; begin one with"},
+                {"type 1", "--type 1: a call covers the screen"},
+                {"incoming 13800130011", "done"},
+                {"second 10086", "--second 10086: no call is talked on; --answer the first one"},
+                {"end 2", "--end 2: there is one call; end call 1"},
+                {"answer", "done"},
+                {"answer", "--answer: no call is ringing"},
+                {"swap", "--swap: there is no held call"},
+                {"merge", "--merge: there is no held call"},
+                {"second 10086", "done"},
+                {"end 3", "--end 3: there are 2 calls; end one from 1 to 2"}});
     session.openDialer();
-    expectEach(session, {{{Kind::Answer}, "the keypad is shown"}});
+    expectEach(session, {{"answer", "--answer: no call is shown; begin one with --outgoing"}});
 }
 
 TEST_F(Stage, StepsOfTheRecentsSayWhatTheyNeed) {
     Session session(settings("7.1", "3.5"));
     session.open({ScreenKind::Recents});
-    expectEach(session,
-               {{{Kind::Open, {}, 46}, "--open 46: there are 45 rows; choose one"},
-                {{Kind::Open, {}, 45}, "the row is not on screen; --scroll row:45 first"},
-                {{Kind::Release}, "--release: no finger is on the screen"},
-                {{Kind::Press, "search"}, "--press search: no button 搜索 is on the screen"},
-                {{Kind::Edit, "off"}, "--edit off: the list is not in edit mode"},
-                {{Kind::Tab, "away"}, "done"},
-                {{Kind::Scroll}, "--scroll: another tab is shown; --tab back first"},
-                {{Kind::Tab, "favourites"}, "--tab favourites: another tab is shown already"},
-                {{Kind::Tab, "back"}, "done"},
-                {{Kind::Tab, "back"}, "--tab back: the recents are shown already"},
-                {{Kind::Open, {}, 1}, "done"},
-                {{Kind::Swipe, {}, 1}, "--swipe 1: a detail is shown; --back first"},
-                {{Kind::Back}, "done"},
-                {{Kind::Edit, "on"}, "done"},
-                {{Kind::Swipe, {}, 1}, "the list is in edit mode; --edit off first"}});
+    expectEach(session, {{"open 46", "--open 46: there are 45 rows; choose one"},
+                         {"open 45", "the row is not on screen; --scroll row:45 first"},
+                         {"release", "--release: no finger is on the screen"},
+                         {"press search", "--press search: no button 搜索 is on the screen"},
+                         {"edit off", "--edit off: the list is not in edit mode"},
+                         {"tab keypad", "done"},
+                         {"scroll 0", "--scroll 0: another tab is shown; --tab recents first"},
+                         {"tab recents", "done"},
+                         {"tab recents", "--tab recents: this tab is shown already"},
+                         {"open 1", "done"},
+                         {"swipe 1", "--swipe 1: a detail is shown; --back first"},
+                         {"back", "done"},
+                         {"edit on", "done"},
+                         {"swipe 1", "the list is in edit mode; --edit off first"}});
 }
 
 TEST_F(Stage, TimeIsExactAndStandsStillBetweenWaits) {
@@ -197,14 +196,16 @@ TEST_F(Stage, ListsHooksWithinTheWidthOfATerminal) {
 }
 
 TEST_F(Stage, LeavesOutOfAGalleryWhatAnOwnWorldHasTooLittleFor) {
-    const auto row = [](Kind kind, int number) { return stage::Step{kind, {}, number}; };
-    const stage::Opening recents{ScreenKind::Recents};
-    const std::vector<stage::SceneGroup> groups = {
+    const auto scene = [](const char *name, std::vector<std::string> words) {
+        return stage::Scene{name, "", "", "", stage::readRequest(words)};
+    };
+    stage::Scene row1 = scene("row-1", {"recents", "--open", "1"});
+    row1.systems = {"7.0", "7.1"};
+    const stage::SceneGroups groups = {
         {"a",
          "",
-         {{"row-2", "", "", {row(Kind::Open, 2)}, recents},
-          {"mark", "", "", {row(Kind::Open, 1), {Kind::HoldButton, "mark"}}, recents},
-          {"row-1", "", "", {row(Kind::Open, 1)}, recents, true}}}};
+         {scene("row-2", {"recents", "--open", "2"}),
+          scene("mark", {"recents", "--open", "1", "--hold", "mark"}), row1}}};
     stage::Settings own = settings("7.0", "4");
     own.calls = folder_ / "calls.csv";
     test::writeFile(own.calls, "number,name,direction,time,answered\n4002001818,,incoming,,yes\n");
@@ -222,8 +223,7 @@ TEST_F(Stage, LeavesOutOfAGalleryWhatAnOwnWorldHasTooLittleFor) {
     EXPECT_FALSE(isOneFile(without, "row-1-ios7.0-4inch-with.png"));
 
     own.calls.clear();
-    const std::vector<stage::SceneGroup> tooFar = {
-        {"a", "", {{"row-46", "", "", {row(Kind::Open, 46)}, recents}}}};
+    const stage::SceneGroups tooFar = {{"a", "", {scene("row-46", {"recents", "--open", "46"})}}};
     EXPECT_THROW(stage::makeGallery(folder_ / "sample", own, tooFar), stage::Failure);
 }
 

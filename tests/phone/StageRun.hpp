@@ -27,17 +27,17 @@ class StageRun : public testing::Test {
     }
 
     /// What the steps print.
-    static std::string perform(stage::Session &session, const stage::Steps &steps) {
+    static std::string perform(stage::Session &session, const std::vector<std::string> &steps) {
         std::ostringstream out;
-        for (const stage::Step &step : steps) {
-            session.perform(step, out);
+        for (const std::string &step : steps) {
+            session.perform(stage::readStep(step), out);
         }
         return out.str();
     }
 
     /// Each step is done, or refused with a message that contains what stands beside it.
     static void expectEach(stage::Session &session,
-                           std::initializer_list<std::pair<stage::Step, const char *>> steps) {
+                           std::initializer_list<std::pair<std::string, const char *>> steps) {
         for (const auto &[step, complaint] : steps) {
             std::string message = "done";
             try {

@@ -17,7 +17,6 @@ using phone::Tab;
 using stage::Session;
 using testing::HasSubstr;
 using testing::Not;
-using Kind = stage::Step::Kind;
 using Touch = test::StageRun;
 
 TEST_F(Touch, ReachesEveryTabAndCallsFromIt) {
@@ -35,10 +34,10 @@ TEST_F(Touch, ReachesEveryTabAndCallsFromIt) {
         session.wait(2s);
         EXPECT_EQ(session.inCall(), nullptr);
     };
-    perform(session, {{Kind::Type, "13800130011"}});
+    perform(session, {"type 13800130011"});
     tap(session.dialer()->dialerView()->callKey());
     EXPECT_EQ(number(), "13800130011");
-    expectEach(session, {{{Kind::Type, "1"}, "a call covers the screen"}});
+    expectEach(session, {{"type 1", "a call covers the screen"}});
     const UIView mute = session.inCall()->inCallView()->button(0);
     for (const bool on : {true, false}) {
         tap(mute);
@@ -56,7 +55,7 @@ TEST_F(Touch, ReachesEveryTabAndCallsFromIt) {
             EXPECT_THAT(session.tree(), HasSubstr(content));
         }
     }
-    expectEach(session, {{{Kind::Type, "1"}, "another tab than the keypad is shown"}});
+    expectEach(session, {{"type 1", "another tab is shown; --tab keypad first"}});
     window.hand().tap({100, 64 + 24});
     EXPECT_EQ(number(), "17700000061") << "the topmost row";
     endCall();
@@ -113,7 +112,7 @@ TEST_F(Touch, LeavesAListRunningForAsLongAsSomebodyWatches) {
         hand.lift();
         EXPECT_EQ(table->contentOffset().y, stopped) << "a finger stops it, and no row is called";
         EXPECT_EQ(session.inCall(), nullptr);
-        perform(session, {{Kind::Scroll}, {Kind::Swipe}, {Kind::Release}});
+        perform(session, {"scroll 0", "swipe 1", "release"});
         hand.tap({160, 400});
         watching.step(40ms);
         const SimScrollView &row = *session.recents()->swipedCell()->scrollView();
@@ -128,7 +127,7 @@ TEST_F(Touch, LeavesAListRunningForAsLongAsSomebodyWatches) {
     }
     EXPECT_EQ(session.recents()->swipedCell(), nullptr);
     EXPECT_NEAR(table->contentOffset().y, 80 + 748.5, 0.1) << "come to rest";
-    perform(session, {{Kind::Scroll}});
+    perform(session, {"scroll 0"});
     flick();
     EXPECT_NEAR(table->contentOffset().y, 80 + 748.5, 0.1) << "at once";
 }

@@ -10,7 +10,6 @@
 namespace {
 
 using namespace std::chrono_literals;
-using Kind = stage::Step::Kind;
 
 class RecentsSession : public test::StageRun, public testing::WithParamInterface<const char *> {
   protected:
@@ -37,7 +36,10 @@ class RecentsSession : public test::StageRun, public testing::WithParamInterface
     static bool isBefore8() { return std::string_view(GetParam()) < "8"; }
     /// False from iOS 8 on, where there is no swipe.
     bool swipe(int row, std::optional<double> points = {}) {
-        const stage::Step step{Kind::Swipe, {}, row, {}, points};
+        std::string step = "swipe " + std::to_string(row);
+        if (points) {
+            step += "," + std::to_string(*points);
+        }
         expectEach(session_, {{step, isBefore8() ? "done" : "rows can be swiped before iOS 8"}});
         return isBefore8();
     }
@@ -51,7 +53,7 @@ class RecentsSession : public test::StageRun, public testing::WithParamInterface
                 const objc::AutoreleasePool pool;
                 round(i);
             }
-            perform(session_, {{Kind::ScrollToRow, {}, 1}});
+            perform(session_, {"scroll row:1"});
             return test::liveObjects();
         };
         test::liveObjects();
@@ -71,11 +73,11 @@ INSTANTIATE_TEST_SUITE_P(Systems, RecentsSession, testing::Values("7.0", "7.1", 
 
 TEST_P(RecentsSession, EveryTabWithATableIsReadAnewWhenItAppears) {
     const auto showTab = [&](const char *how) {
-        perform(session_, {{Kind::Tab, how}});
+        perform(session_, {std::string("tab ") + how});
         return session_.tree();
     };
     showTab("favourites");
-    showTab("back");
+    showTab("recents");
     phone::ContactBook::shared().add({"新来的", {{"13900000001", "手机"}}});
     EXPECT_EQ(showTab("favourites").find("新来的") != std::string::npos, isBefore8());
 }
@@ -91,8 +93,9 @@ TEST_P(RecentsSession, TenThousandRowsThereAndBackLeaveNoObjectBehind) {
 TEST_P(RecentsSession, TwoHundredDetailsLeaveNoObjectBehind) {
     show(200);
     expectTheSameAgain(200, [&](int row) {
-        perform(session_, {{Kind::ScrollToRow, {}, row + 1}, {Kind::Open, {}, row + 1}});
-        perform(session_, {{Kind::Back}});
+        const std::string number = std::to_string(row + 1);
+        perform(session_, {"scroll row:" + number, "open " + number});
+        perform(session_, {"back"});
     });
 }
 
@@ -114,7 +117,7 @@ TEST_P(RecentsSession, AReleasedRowIsWhollyOpenOrShutAsTheSystemDecides) {
 
 TEST_P(RecentsSession, TheEndOfEditModeIsHeardOfOnceNoFingerDrags) {
     show(3);
-    perform(session_, {{Kind::Edit, "on"}, {Kind::Wait, {}, 1, 1s}, {Kind::Edit, "off"}});
+    perform(session_, {"edit on", "wait 1", "edit off"});
     const auto width = [&] { return list().cell(0)->swipeWidth(); };
     if (!swipe(1, 20)) {
         return;
@@ -132,9 +135,9 @@ TEST_P(RecentsSession, TheEndOfEditModeIsHeardOfOnceNoFingerDrags) {
 TEST_P(RecentsSession, TwoHundredSwipesLeaveNoObjectBehind) {
     show(200);
     expectTheSameAgain(200, [&](int row) {
-        perform(session_, {{Kind::ScrollToRow, {}, row + 1}});
+        perform(session_, {"scroll row:" + std::to_string(row + 1)});
         if (swipe(row + 1)) {
-            perform(session_, {{Kind::Release}});
+            perform(session_, {"release"});
         }
     });
 }

@@ -29,9 +29,9 @@ class Dialer {
   public:
     explicit Dialer(const stage::Settings &settings) : session(ours(settings)) {}
 
-    void type(const std::string &text) { perform({stage::Step::Kind::Type, text}); }
-    void erase(int count) { perform({stage::Step::Kind::Delete, {}, count}); }
-    void perform(const stage::Step &step) { session.perform(step, ignored_); }
+    void type(const std::string &text) { perform("type " + text); }
+    void erase(int count) { perform("delete " + std::to_string(count)); }
+    void perform(const std::string &step) { session.perform(stage::readStep(step), ignored_); }
 
     id controller() const { return *session.dialer(); }
     PHHandsetDialerLCDView lcd() const {

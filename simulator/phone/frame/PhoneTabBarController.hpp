@@ -20,6 +20,8 @@ class PhoneTabBarController : public SimViewController {
     void setMaker(Maker maker) { make_ = std::move(maker); }
     /// That tab is `controller` from now on; nil: one that is made when it is pressed.
     void setTab(Tab tab, NSObject controller);
+    /// Its controller; nil before it was shown for the first time.
+    NSObject tab(Tab tab) const { return controllers_[static_cast<size_t>(tab)]; }
     /// The tab shown before hears that it disappears, the new one that it appears; while this
     /// controller itself is not on screen, that waits until it is.
     void showTab(Tab tab);

@@ -1,0 +1,143 @@
+// Steps of every screen: fingers, time, tabs, and looking.
+#include "phone/contact/ABContactViewController.hpp"
+#include "phone/contact/ABNewPersonViewController.hpp"
+#include "phone/dialer/DialerController.hpp"
+#include "phone/recents/PHRecentsViewController.hpp"
+#include "stage/Session.hpp"
+#include "stage/StepKind.hpp"
+#include "stage/Surroundings.hpp"
+#include "uikit/Motion.hpp"
+
+namespace stage {
+namespace {
+
+void release(Session &session) {
+    Hand &hand = session.window().hand();
+    require(hand.isDown(), "no finger is on the screen; --swipe a row or --hold a button first");
+    hand.release();
+}
+
+void tab(Session &session, const std::string &name) {
+    using phone::Tab;
+    const Tab tab = name == "keypad"       ? Tab::Keypad
+                    : name == "recents"    ? Tab::Recents
+                    : name == "favourites" ? Tab::Favourites
+                    : name == "contacts"   ? Tab::Contacts
+                                           : Tab::Voicemail;
+    PhoneWindow &window = session.window();
+    window.hand().cancel();
+    require(window.shownTab() != tab, "this tab is shown already; choose another");
+    window.hand().tap(window.tabButton(tab));
+}
+
+/// What lies over a tab's own content goes.
+void back(Session &session) {
+    Hand &hand = session.window().hand();
+    hand.cancel();
+    const phone::DialerController *const keypad = session.dialer();
+    const phone::PHRecentsViewController *const recents = session.recents();
+    if (keypad != nullptr && keypad->newPersonController() != nullptr) {
+        keypad->newPersonController()->cancel();
+    } else {
+        require(recents != nullptr && recents->detail() != nullptr,
+                "no detail is shown; --open a row first");
+        hand.tap(viewOf(recents->detail()->backButton()));
+    }
+}
+
+void wait(Session &session, std::chrono::milliseconds time) {
+    if (sim::Motion::shared().isWatched()) {
+        session.leap(time);
+    } else {
+        session.wait(time);
+    }
+}
+
+void reload(Session &session) {
+    session.window().hand().cancel();
+    announceNewData();
+}
+
+Hand &finger(Session &session) {
+    Hand &hand = session.window().hand();
+    require(hand.isDown(), "no finger is on the screen; put one there with --down X,Y");
+    return hand;
+}
+
+void down(Session &session, sim::Point at) { session.window().hand().down(at); }
+
+void move(Session &session, sim::Point to) { finger(session).moveTo(to); }
+
+void lift(Session &session) { finger(session).lift(); }
+
+void cancel(Session &session) { finger(session).cancel(); }
+
+void png(Session &session, const std::string &file) { session.picture().savePng(file); }
+
+Act tree(const Given &) {
+    return [](Session &session, std::ostream &out) { out << session.tree(); };
+}
+
+}  // namespace
+
+std::vector<StepKind> anySteps() {
+    using enum StepKind::Screen;
+    constexpr bool kWatches = true;
+    return {
+        {"tab",
+         "NAME",
+         "show a tab",
+         Tabs,
+         with<&tab, &anyText>,
+         {"favourites", "recents", "contacts", "keypad", "voicemail"}},
+        {"back", "", "return from the detail to the list; closes the sheet for a new person too",
+         Tabs, alone<&back>},
+        {"reload", "", "the companion tells that its data has changed", Any, alone<&reload>},
+        {"release", "", "lift the finger, which has been at rest", Any, alone<&release>},
+        {"down",
+         "X,Y",
+         "put a finger on the screen, X,Y points from its corner",
+         Any,
+         with<&down, &point>,
+         {},
+         kWatches},
+        {"move", "X,Y", "move it there", Any, with<&move, &point>, {}, kWatches},
+        {"lift",
+         "",
+         "lift it from where it is, at the speed that it has",
+         Any,
+         alone<&lift>,
+         {},
+         kWatches},
+        {"cancel",
+         "",
+         "the touch comes to nothing, as when a call comes",
+         Any,
+         alone<&cancel>,
+         {},
+         kWatches},
+        {"wait",
+         "SECONDS",
+         "let time pass, up to two hours",
+         Any,
+         with<&wait, &duration>,
+         {},
+         kWatches},
+        {"png",
+         "FILE",
+         "write the screen as it is after the steps so far",
+         Any,
+         with<&png, &anyText>,
+         {},
+         kWatches},
+        {"tree",
+         "",
+         "print the view tree as it is after the steps so far",
+         Any,
+         &tree,
+         {},
+         kWatches},
+    };
+}
+
+}  // namespace stage

@@ -1,0 +1,115 @@
+// Numbers are read whole: what is left behind one makes it none.
+#include "stage/Values.hpp"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+#include "stage/Errors.hpp"
+#include "uikit/ViewTree.hpp"
+
+namespace stage {
+namespace {
+
+[[noreturn]] void refuse(const Given &given, const std::string &takes) {
+    throw UsageError(given.name + " takes " + takes + ", not '" + given.value + "'");
+}
+
+template <class Number>
+std::optional<Number> parsed(std::string_view text) {
+    Number number{};
+    const char *const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
+}
+
+/// Of "a,b" both sides; without a comma all is the first.
+std::pair<std::string, std::optional<std::string>> atComma(const std::string &text) {
+    const size_t comma = text.find(',');
+    return {text.substr(0, comma),
+            comma == std::string::npos ? std::nullopt : std::optional(text.substr(comma + 1))};
+}
+
+}  // namespace
+
+std::string numberToDial(const Given &given) {
+    if (given.value.empty()) {
+        refuse(given, "a number to dial");
+    }
+    return given.value;
+}
+
+int wholeNumber(const Given &given) {
+    const auto number = parsed<int>(given.value);
+    if (!number || *number < 1) {
+        refuse(given,
+               "a whole number from 1 to " + std::to_string(std::numeric_limits<int>::max()));
+    }
+    return *number;
+}
+
+double realNumber(const Given &given, double least, double most) {
+    const auto number = parsed<double>(given.value);
+    // Written so that what is no number at all does not pass either.
+    if (!number || !(*number >= least && *number <= most)) {
+        refuse(given,
+               "a number from " + sim::trimmedNumber(least) + " to " + sim::trimmedNumber(most));
+    }
+    return *number;
+}
+
+std::chrono::milliseconds duration(const Given &given) {
+    constexpr double kLongestWait = 7200;
+    const std::chrono::duration<double> seconds(realNumber(given, 0, kLongestWait));
+    return std::chrono::round<std::chrono::milliseconds>(seconds);
+}
+
+sim::Point point(const Given &given) {
+    constexpr double kFarthest = 2000;  // a finger may leave the glass
+    const auto [x, y] = atComma(given.value);
+    const auto left = parsed<double>(x);
+    const auto top = y ? parsed<double>(*y) : std::nullopt;
+    const auto isNear = [](std::optional<double> number) {
+        return number && *number >= -kFarthest && *number <= kFarthest;
+    };
+    if (!isNear(left) || !isNear(top)) {
+        refuse(given, "a point of the screen like 160,284");
+    }
+    return {static_cast<CGFloat>(*left), static_cast<CGFloat>(*top)};
+}
+
+Pull pull(const Given &given) {
+    constexpr double kWidest = 320;
+    const auto [row, points] = atComma(given.value);
+    Pull pull{wholeNumber({given.name, row}), std::nullopt};
+    if (points) {
+        pull.points = realNumber({given.name + " ROW,POINTS", *points}, 0, kWidest);
+    }
+    return pull;
+}
+
+Place place(const Given &given) {
+    constexpr double kFarthest = 10'000'000;  // points
+    constexpr std::string_view kRow = "row:";
+    if (given.value.starts_with(kRow)) {
+        return {wholeNumber({given.name + " row:N", given.value.substr(kRow.size())}), 0};
+    }
+    return {std::nullopt, realNumber({given.name + ", without row:N,", given.value}, 0, kFarthest)};
+}
+
+void checkChoice(const Given &given, std::span<const std::string_view> choices) {
+    if (!choices.empty() && std::ranges::find(choices, given.value) == choices.end()) {
+        refuse(given, joinChoices(choices));
+    }
+}
+
+std::string joinChoices(std::span<const std::string_view> choices) {
+    std::string list;
+    for (size_t i = 0; i < choices.size(); ++i) {
+        list += i == 0 ? "" : i + 1 == choices.size() ? " or " : ", ";
+        list += choices[i];
+    }
+    return list;
+}
+
+}  // namespace stage
