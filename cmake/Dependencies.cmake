@@ -4,6 +4,7 @@
 find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 find_package(nlohmann_json 3.10 REQUIRED)  # nlohmann_json::nlohmann_json
+find_package(CLI11 2.1 REQUIRED)           # CLI11::CLI11
 find_package(ICU REQUIRED COMPONENTS uc)   # ICU::uc
 if(NOT CMAKE_CROSSCOMPILING)
     find_package(GTest REQUIRED)           # GTest::gtest_main, GTest::gmock

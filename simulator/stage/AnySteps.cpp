@@ -81,7 +81,7 @@ Act tree(const Given &) {
 }  // namespace
 
 std::vector<StepKind> anySteps() {
-    using enum StepKind::Screen;
+    using enum ScreenKind;
     constexpr bool kWatches = true;
     return {
         {"tab",

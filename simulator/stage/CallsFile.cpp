@@ -1,20 +1,19 @@
-// Every line is read and checked before anything is said, so that one run tells all there is to
-// mend.
+// A row is read as far as it goes, whatever is wrong with it.
 #include "stage/CallsFile.hpp"
 
 #include <algorithm>
-#include <cerrno>
 #include <fstream>
 #include <functional>
 #include <map>
 #include <optional>
-#include <system_error>
 #include <utility>
 
 #include "companion/world/Date.hpp"
 #include "stage/CsvReader.hpp"
 #include "stage/Errors.hpp"
 #include "stage/ProgressBar.hpp"
+#include "stage/UserFile.hpp"
+#include "stage/Values.hpp"
 #include "uikit/drawing/Utf16.hpp"
 
 namespace stage {
@@ -23,15 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 using companion::RecentCall;
 
-constexpr size_t kShownMistakes = 10;
 const std::vector<std::string> kColumns = {"number", "name", "direction", "time", "answered"};
-
-std::string shown(const std::string &value) {
-    constexpr size_t kMost = 60;
-    const std::u16string text = sim::utf16(value);
-    const std::string end = text.size() > kMost ? "…" : "";
-    return "'" + sim::drawableText(text.substr(0, kMost)).utf8 + end + "'";
-}
 
 std::string joined(const std::vector<std::string> &fields) {
     std::string line;
@@ -40,35 +31,6 @@ std::string joined(const std::vector<std::string> &fields) {
     }
     return line;
 }
-
-/// What is wrong with a file, by line.
-class Mistakes {
-  public:
-    explicit Mistakes(const fs::path &file) : file_(file.string()) {}
-
-    void add(size_t line, const std::string &what) {
-        if (++count_ <= kShownMistakes) {
-            list_ += "\n" + file_ + ":" + std::to_string(line) + ": " + what;
-        }
-    }
-
-    void throwIfAny() const {
-        if (count_ > 0) {
-            const std::string all =
-                count_ == 1 ? "a mistake" : std::to_string(count_) + " mistakes";
-            const std::string shown = count_ == 1                ? "this:"
-                                      : count_ <= kShownMistakes ? "these:"
-                                                                 : "the rest as well as these:";
-            throw Failure(file_ + ": " + all + ", so that nothing of it is used; mend " + shown +
-                          list_);
-        }
-    }
-
-  private:
-    std::string file_;
-    std::string list_;
-    size_t count_ = 0;
-};
 
 /// One record, and where to say what is wrong with it.
 class Row {
@@ -86,7 +48,7 @@ class Row {
         }
         for (const std::string &field : fields) {
             if (sim::utf8(sim::utf16(field)) != field) {
-                wrong(shown(field) + " is no UTF-8 text; save the file in UTF-8");
+                wrong(inQuotes(field) + " is no UTF-8 text; save the file in UTF-8");
             }
         }
         RecentCall call;
@@ -95,7 +57,7 @@ class Row {
         call.incoming = isFirst(2, "incoming", "outgoing");
         call.date = companion::parseDate(fields[3]);
         if (!call.date && !fields[3].empty()) {
-            wrong("time is " + shown(fields[3]) +
+            wrong("time is " + inQuotes(fields[3]) +
                   "; write it like 2014-06-12T09:14:05+08:00, or leave it empty");
         }
         call.answered = isFirst(4, "yes", "no");
@@ -108,7 +70,8 @@ class Row {
     bool isFirst(size_t column, const std::string &first, const std::string &second) const {
         const std::string &value = record_.fields[column];
         if (value != first && value != second) {
-            wrong(kColumns[column] + " is " + shown(value) + "; write " + first + " or " + second);
+            wrong(kColumns[column] + " is " + inQuotes(value) + "; write " + first + " or " +
+                  second);
         }
         return value == first;
     }
@@ -133,21 +96,11 @@ std::string headingMistake(const std::vector<std::string> &fields) {
     } else if (fields.size() == 1 && found.find_first_of(";\t") != std::string::npos) {
         remedy = " with commas, here and below";
     }
-    return "found " + shown(found) + ", expected the heading " + expected + remedy;
+    return "found " + inQuotes(found) + ", expected the heading " + expected + remedy;
 }
 
 /// Latest first, the undated last; those of one moment as they come in the file.
 using CallsByDate = std::multimap<std::optional<double>, RecentCall, std::greater<>>;
-
-std::ifstream opened(const fs::path &file) {
-    std::ifstream in(file, std::ios::binary);
-    if (!in || fs::is_directory(file)) {
-        const int reason = in ? EISDIR : errno;
-        throw Failure(file.string() + ": cannot be read: " +
-                      std::generic_category().message(reason) + "; name another with --calls");
-    }
-    return in;
-}
 
 /// The names that belong to no number.
 class LostNames {
@@ -155,7 +108,7 @@ class LostNames {
     void noteIn(const RecentCall &call, size_t line) {
         const bool isLost = call.number.empty() && !call.name.empty();
         if (isLost && ++count_ == 1) {
-            first_ = std::to_string(line) + ": " + shown(call.name) +
+            first_ = std::to_string(line) + ": " + inQuotes(call.name) +
                      " is not shown, since the number is missing: a caller who hides has no name";
         }
     }
@@ -194,7 +147,7 @@ void readRecords(std::istream &in, ProgressBar &progress, CallsByDate &calls, Mi
 }  // namespace
 
 std::vector<RecentCall> readCallsFile(const fs::path &file, const Warn &warn, bool withProgress) {
-    std::ifstream in = opened(file);
+    std::ifstream in = openUserFile(file, "name another with --calls");
     std::error_code sizeless;
     const uintmax_t size = fs::file_size(file, sizeless);
     CallsByDate byDate;

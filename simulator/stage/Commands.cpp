@@ -1,79 +1,144 @@
-// What each command takes; the steps of the screens are in files of their own.
+// What each command does.
 #include "stage/Commands.hpp"
 
-#include "stage/Model.hpp"
-#include "stage/StepKind.hpp"
+#include <algorithm>
+#include <iomanip>
+#include <utility>
+
+#include "stage/Gallery.hpp"
+#include "stage/Session.hpp"
+#include "stage/StepsFile.hpp"
+#include "stage/TextTable.hpp"
+#include "substrate/HookLog.hpp"
 
 namespace stage {
 namespace {
 
-std::vector<std::string_view> listed(const auto &values) { return {values.begin(), values.end()}; }
+namespace fs = std::filesystem;
 
-OptionSpec iosOption() {
-    return {"--ios", "VERSION", "system version of the telephone", listed(kSystemVersions)};
-}
-
-OptionSpec paceOption() {
-    return {"--pace", "SECONDS", "real seconds that a second of --wait takes; 1"};
-}
-
-OptionSpec callsOption() {
-    return {"--calls", "FILE", "a call history of your own; without it, the world's recents"};
-}
-
-OptionSpec verboseOption() { return {"--verbose", "", "print the system log on stderr"}; }
-
-OptionSpec screenOption() { return {"--screen", "INCHES", "size of its screen", listed(kScreens)}; }
-
-std::vector<OptionSpec> withPlaces(std::vector<OptionSpec> options) {
-    options.push_back(
-        {"--world", "FILE", "what the companion knows; without it, the sample world"});
-    options.push_back({"--data", "FOLDER", "where the companion keeps its store"});
-    return options;
-}
-
-/// A command that shows a screen: the telephone, `own` options, and the steps possible there.
-Command screenCommand(Task task, std::string_view name, std::string_view summary,
-                      std::vector<OptionSpec> own, StepKind::Screen screen) {
-    using enum StepKind::Screen;
-    std::vector<OptionSpec> options = {iosOption(), screenOption()};
-    options.insert(options.end(), own.begin(), own.end());
-    for (const StepKind &kind : stepKinds()) {
-        if (kind.screen == Any || kind.screen == Tabs || kind.screen == screen || screen == Any) {
-            options.push_back({"--" + std::string(kind.name), kind.value, kind.help, kind.choices});
+/// Pictures have to have a place before the first step is done.
+void checkPictureFolders(const Steps &steps) {
+    for (const Step &step : steps) {
+        const fs::path folder = fs::path(step.value).parent_path();
+        if (step.is("png") && !folder.empty() && !fs::is_directory(folder)) {
+            throw Failure(step.value + ": there is no folder " + folder.string() +
+                          "; make it first, or name another file with --png");
         }
     }
-    options.push_back({"--without-addon", "", "the Phone application alone"});
-    return {task, {name, summary, "", withPlaces(std::move(options))}};
+}
+
+void runSteps(const Request &request, const Steps &steps, std::ostream &out) {
+    checkPictureFolders(steps);
+    Session session(request.settings);
+    session.open(request.opening);
+    for (const Step &step : steps) {
+        session.perform(step, out);
+    }
+    const auto shows = [](const Step &step) { return step.is("png") || step.is("tree"); };
+    if (std::ranges::none_of(steps, shows)) {
+        out << session.tree();
+    }
+}
+
+void runScreen(const Request &request, std::ostream &out) { runSteps(request, request.steps, out); }
+
+void runReplay(const Request &request, std::ostream &out) {
+    runSteps(request, readStepsFile(request.words.front()), out);
+}
+
+std::string outcomeText(const substrate::HookEntry &entry) {
+    switch (entry.outcome) {
+    case substrate::HookEntry::Outcome::Replaced:
+    case substrate::HookEntry::Outcome::Added:
+        return "replaced by " + entry.replacement;
+    case substrate::HookEntry::Outcome::MissingMethod:
+        return "skipped: no such method";
+    case substrate::HookEntry::Outcome::MissingClass:
+        return "skipped: no such class";
+    }
+    return {};
+}
+
+/// Two lines a method: side by side its names are too long for a terminal.
+void runHooks(const Request &request, std::ostream &out) {
+    const Session session(request.settings);
+    size_t installed = 0;
+    for (const substrate::HookEntry &entry : substrate::hookLog()) {
+        const bool wasInherited = entry.outcome == substrate::HookEntry::Outcome::Added;
+        const bool isInstalled =
+            wasInherited || entry.outcome == substrate::HookEntry::Outcome::Replaced;
+        installed += isInstalled ? 1 : 0;
+        out << std::setw(2) << (isInstalled ? std::to_string(installed) : "") << "  "
+            << entry.className << (entry.selector.empty() ? "" : "  ") << entry.selector
+            << (wasInherited ? "  (inherited)" : "") << "\n      " << outcomeText(entry) << '\n';
+    }
+    out << request.settings.model.title() << ": " << installed
+        << (installed == 1 ? " method" : " methods") << " replaced, "
+        << substrate::hookLog().size() - installed << " skipped\n";
+}
+
+void runDescribe(const Request &request, std::ostream &out) {
+    Session session(request.settings);
+    TextTable table({"typed", "shown", "below the number"});
+    for (const std::string &number : request.words) {
+        session.openDialer();
+        session.perform(readStep("type " + number), out);
+        table.add({number, session.numberText(), session.lineText()});
+    }
+    out << table.str();
+}
+
+void runGallery(const Request &request, std::ostream &out) {
+    if (request.out.empty()) {
+        throw UsageError("phone-simulator gallery: --out FOLDER is missing");
+    }
+    const Gallery gallery = makeGallery(request.out, request.settings, readScenes(scenesFile()));
+    out << gallery.pictures << " pictures and " << (request.out / "index.html").string() << '\n';
+    const char *before = "left out, for want of what they open or touch: ";
+    for (const std::string &scene : gallery.leftOut) {
+        out << std::exchange(before, ", ") << scene;
+    }
+    out << (gallery.leftOut.empty() ? "" : "\n");
+}
+
+using Names = std::vector<std::string_view>;
+
+Names operator+(Names names, const Names &more) {
+    names.insert(names.end(), more.begin(), more.end());
+    return names;
 }
 
 std::vector<Command> makeCommands() {
+    using enum ScreenKind;
+    const Names model = {"ios", "screen", "world", "data"};
+    const Names session = model + Names{"calls", "without-addon", "pace", "verbose"};
     return {
-        screenCommand(Task::Dialer, "dialer", "Type on the keypad and look at the screen.", {},
-                      StepKind::Screen::Keypad),
-        screenCommand(Task::InCall, "incall", "Call, or be called, and look at the screen.",
-                      {{"--display",
-                        "KIND",
-                        "what shows the call; without it, the system's own choice",
-                        {"view", "field"}},
-                       paceOption(),
-                       verboseOption()},
-                      StepKind::Screen::InCall),
-        screenCommand(Task::Recents, "recents", "Look at the recent calls and at one's detail.",
-                      {callsOption(), paceOption(), verboseOption()}, StepKind::Screen::Recents),
-        {Task::Hooks,
-         {"hooks", "List the methods that the add-on replaces, in order.", "",
-          withPlaces({iosOption(),
-                      screenOption(),
-                      {"--without-class", "NAME", "a Phone application that lacks the class NAME"},
-                      {"--verbose", "", "report hooks on missing methods on stderr as well"}})}},
-        {Task::Gallery,
-         {"gallery", "Draw every scene on every device, with and without the add-on.", "",
-          withPlaces(
-              {{"--out", "FOLDER", "where to put the pictures and index.html"}, callsOption()})}},
-        {Task::Describe,
-         {"describe", "Print what the dialer shows for numbers.", "NUMBER...",
-          withPlaces({iosOption(), screenOption()})}},
+        {"phone", "Use the whole telephone, from the keypad on.", &runScreen, session, Any},
+        {"dialer", "Type on the keypad and look at the screen.", &runScreen, session, Dialer},
+        {"incall", "Call, or be called, and look at the screen.", &runScreen,
+         session + Names{"display"}, InCall},
+        {"recents", "Look at the recent calls and at one's detail.", &runScreen, session, Recents},
+        {"replay",
+         "Do the steps of a file, one a line, on the whole telephone.",
+         &runReplay,
+         session,
+         {},
+         "FILE",
+         1},
+        {"hooks", "List the methods that the add-on replaces, in order.", &runHooks,
+         model + Names{"without-class", "verbose"}},
+        {"gallery",
+         "Draw every scene on every device, with and without the add-on.",
+         &runGallery,
+         {"out", "world", "calls", "data"}},
+        {"describe",
+         "Print what the dialer shows for numbers.",
+         &runDescribe,
+         model,
+         {},
+         "NUMBER",
+         std::string::npos,
+         {"7.1", "4"}},  // since 7.1 the row under the number is its description alone
     };
 }
 

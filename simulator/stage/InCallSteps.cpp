@@ -77,7 +77,7 @@ void layOutDisplay(Session &session) {
 }  // namespace
 
 std::vector<StepKind> inCallSteps() {
-    using enum StepKind::Screen;
+    using enum ScreenKind;
     return {
         {"outgoing", "NUMBER", "dial NUMBER", Any, with<&outgoing, &numberToDial>},
         {"incoming", "NUMBER", "let NUMBER call; an empty one is a caller's who hides", Any,

@@ -84,14 +84,13 @@ void saveContact(Session &session, const std::string &name) {
 }  // namespace
 
 std::vector<StepKind> keypadSteps() {
-    constexpr auto kKeypad = StepKind::Screen::Keypad;
+    constexpr auto kKeypad = ScreenKind::Dialer;
     return {
-        {"type", "TEXT", "press the keys of TEXT; steps run in order and may be repeated", kKeypad,
-         with<&type, &anyText>},
+        {"type", "TEXT", "press the keys of TEXT", kKeypad, with<&type, &anyText>},
         {"delete", "N", "press the delete key N times", kKeypad, with<&erase, &wholeNumber>},
         {"touch",
          "WHAT",
-         "touch the add-to-contacts line: tap it, hold it, or cancel",
+         "the line below the number",
          kKeypad,
          with<&touch, &anyText>,
          {"add-contact", "add-contact-hold", "add-contact-cancel"}},

@@ -171,7 +171,7 @@ void pressButton(Session &session, const std::string &button) {
 }  // namespace
 
 std::vector<StepKind> recentsSteps() {
-    constexpr auto kRecents = StepKind::Screen::Recents;
+    constexpr auto kRecents = ScreenKind::Recents;
     const std::vector<std::string_view> buttons = {"correct", "mark", "search"};
     return {
         {"scroll", "WHERE", "scroll to WHERE: points from the top, or row:N to see row N", kRecents,

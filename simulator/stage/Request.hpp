@@ -7,28 +7,22 @@
 #include <string>
 #include <vector>
 
-#include "stage/Commands.hpp"
-#include "stage/Model.hpp"
 #include "stage/Screen.hpp"
+#include "stage/Settings.hpp"
 #include "stage/Step.hpp"
 
 namespace stage {
 
+struct Command;
+
 struct Request {
-    Task task = Task::Help;
-    std::string help;  // the text to print for Task::Help
-    Model model;
-    bool withAddOn = true;
-    std::filesystem::path world;  // empty: the simulator's own
-    std::filesystem::path data;   // empty: the build's folder
-    std::filesystem::path out;    // of the gallery
-    bool verbose = false;
-    std::string withoutClass;     // a class of the Phone application to leave out
-    std::filesystem::path calls;  // of the recents list; empty: the world's
-    double pace = 1;              // real seconds that a simulated second takes
-    Opening opening;              // of the screen that the steps are for
-    Steps steps;
-    std::vector<std::string> numbers;
+    const Command *command = nullptr;  // null: `text` is to be printed, and that is all
+    std::string text{};
+    Settings settings{};
+    Opening opening{};            // of the screen that the steps begin with
+    Steps steps{};                // in their order
+    std::filesystem::path out{};  // of the gallery
+    std::vector<std::string> words{};
 };
 
 /// Reads the arguments after the program's name. Throws UsageError.

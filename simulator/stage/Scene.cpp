@@ -2,12 +2,14 @@
 #include "stage/Scene.hpp"
 
 #include <memory>
+#include <set>
 
 #include <glib.h>
 #include <nlohmann/json.hpp>
 
 #include "companion/world/JsonFile.hpp"
 #include "phone/Resources.hpp"
+#include "stage/Commands.hpp"
 #include "stage/Errors.hpp"
 
 namespace stage {
@@ -16,12 +18,12 @@ namespace {
 using nlohmann::json;
 
 std::vector<std::string> shellWords(const std::string &command) {
-    gint count = 0;
-    gchar **words = nullptr;
+    int count = 0;
+    char **words = nullptr;
     if (g_shell_parse_argv(command.c_str(), &count, &words, nullptr) == FALSE) {
         throw UsageError("no shell would take '" + command + "'");
     }
-    const std::unique_ptr<gchar *, decltype(&g_strfreev)> owner(words, g_strfreev);
+    const std::unique_ptr<char *, decltype(&g_strfreev)> owner(words, g_strfreev);
     return {words, words + count};
 }
 
@@ -34,7 +36,7 @@ Scene readScene(const json &row) {
     scene.systems = row.value("systems", scene.systems);
     const std::vector<std::string> words = shellWords(scene.command);
     if (words.front() != kProgram) {
-        throw UsageError(scene.name + ": the command has to begin with " + std::string(kProgram));
+        throw UsageError("the command has to begin with " + std::string(kProgram));
     }
     scene.request = readRequest(std::span(words).subspan(1));
     return scene;
@@ -46,17 +48,23 @@ std::filesystem::path scenesFile() { return phone::installFolder() / "share" / "
 
 SceneGroups readScenes(const std::filesystem::path &file) {
     SceneGroups groups;
+    std::set<std::string> names;
+    std::string place = file.string();
     try {
         for (const json &part : companion::readJsonFile(file)) {
             SceneGroup &group = groups.emplace_back();
             group.name = part.at("name");
             group.title = part.at("title");
             for (const json &row : part.at("scenes")) {
+                place = file.string() + ": " + row.value("name", "a scene without a name");
                 group.scenes.push_back(readScene(row));
+                if (!names.insert(group.scenes.back().name).second) {
+                    throw UsageError("two scenes have this name");
+                }
             }
         }
     } catch (const std::exception &error) {
-        throw Failure(file.string() + ": " + error.what());
+        throw Failure(place + ": " + error.what());
     }
     return groups;
 }

@@ -1,4 +1,4 @@
-// The screens of the Phone application that a session may begin with.
+// The screens of the Phone application.
 #pragma once
 
 #include <optional>
@@ -7,7 +7,8 @@
 
 namespace stage {
 
-enum class ScreenKind { Dialer, InCall, Recents };
+/// `Tabs` are all that no call covers.
+enum class ScreenKind { Any, Tabs, Dialer, Recents, InCall };
 
 /// Which screen to open, and how.
 struct Opening {

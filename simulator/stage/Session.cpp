@@ -10,6 +10,7 @@
 #include "stage/Caption.hpp"
 #include "stage/DelayedMessages.hpp"
 #include "stage/RecentCallObjects.hpp"
+#include "stage/StepKind.hpp"
 #include "stage/Surroundings.hpp"
 #include "stage/Waiting.hpp"
 #include "uikit/Foundation.hpp"
@@ -70,22 +71,17 @@ std::vector<companion::RecentCall> Session::recentCalls() const {
 void Session::open(const Opening &opening) {
     const objc::AutoreleasePool pool;
     window_->putAway();
-    switch (opening.screen) {
-    case ScreenKind::Dialer:
-        window_->openTab(phone::Tab::Keypad);
-        break;
-    case ScreenKind::InCall:
+    if (opening.screen == ScreenKind::InCall) {
         window_->present(
             phone::InCallController::create(opening.display.value_or(phone::usualDisplay())));
-        break;
-    case ScreenKind::Recents:
-        window_->openTab(phone::Tab::Recents);
-        break;
+    } else {
+        window_->openTab(opening.screen == ScreenKind::Recents ? phone::Tab::Recents
+                                                               : phone::Tab::Keypad);
     }
 }
 
-void Session::requireShown(StepKind::Screen screen) const {
-    using enum StepKind::Screen;
+void Session::requireShown(ScreenKind screen) const {
+    using enum ScreenKind;
     if (screen == Any) {
         return;
     }
@@ -93,7 +89,7 @@ void Session::requireShown(StepKind::Screen screen) const {
             "no call is shown; begin one with --outgoing or --incoming first");
     require(screen == InCall || !window_->isCovered(),
             "a call covers the screen; end it and let its end be shown first");
-    require(screen != Keypad || dialer() != nullptr, "another tab is shown; --tab keypad first");
+    require(screen != Dialer || dialer() != nullptr, "another tab is shown; --tab keypad first");
     require(screen != Recents || recents() != nullptr, "another tab is shown; --tab recents first");
 }
 
@@ -109,7 +105,8 @@ void Session::perform(const Step &step, std::ostream &out) {
             step.act(*this, out);
         }
     } catch (const NotPossible &reason) {
-        throw Failure(optionOf(step) + ": " + reason.what());
+        throw Failure((step.place.empty() ? "" : step.place + ": ") + optionOf(step) + ": " +
+                      reason.what());
     }
     printOpened(out, opened);
 }

@@ -2,7 +2,6 @@
 // add-on. Hooks, classes and the device belong to the process for good, so a process has one.
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -10,28 +9,12 @@
 
 #include "companion/world/Records.hpp"
 #include "objc/Owned.hpp"
-#include "stage/Errors.hpp"
-#include "stage/Model.hpp"
 #include "stage/PhoneWindow.hpp"
 #include "stage/Screen.hpp"
-#include "stage/StepKind.hpp"
+#include "stage/Settings.hpp"
+#include "stage/Step.hpp"
 
 namespace stage {
-
-struct Settings {
-    Model model{};
-    bool withAddOn = true;
-    std::filesystem::path world{};  // empty: the sample world
-    std::filesystem::path data{};   // empty: demo/data of the build
-    bool fixedMeasurer = false;     // text measured by a rule instead of by fonts, for tests
-    std::string withoutClass{};     // a class of the Phone application that is to be missing
-    bool verbose = false;           // skipped hooks and the system log go to stderr
-    std::filesystem::path calls{};  // of the recents list; empty: the world's
-    std::string bundleIdentifier = "com.apple.mobilephone";
-    double pace = 1;  // real seconds that a simulated second takes
-    Warn warn{};      // told what of the user's files is passed over, and that much was read
-    bool withProgress = true;  // of reading them, on a terminal
-};
 
 class Session {
   public:
@@ -76,7 +59,7 @@ class Session {
     std::string numberText() const;
 
   private:
-    void requireShown(StepKind::Screen screen) const;
+    void requireShown(ScreenKind screen) const;
     std::vector<companion::RecentCall> recentCalls() const;
 
     Settings settings_;

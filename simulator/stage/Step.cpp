@@ -23,6 +23,7 @@ Step makeStep(const StepKind &kind, const Given &given) {
     if (kind.value.empty() && !given.value.empty()) {
         throw UsageError(given.name + " takes no value");
     }
+    checkText(given.value);
     checkChoice(given, kind.choices);
     return {&kind, given.value, kind.read(given)};
 }
@@ -34,10 +35,8 @@ Step readStep(std::string_view line) {
     const std::string_view name = line.substr(0, blank);
     const auto found = std::ranges::find(stepKinds(), name, &StepKind::name);
     if (found == stepKinds().end()) {
-        std::vector<std::string_view> names;
-        std::ranges::transform(stepKinds(), std::back_inserter(names), &StepKind::name);
-        throw UsageError("there is no step '" + std::string(name) + "'; choose " +
-                         joinChoices(names));
+        throw UsageError("there is no step " + inQuotes(std::string(name)) + "; choose " +
+                         joinNames(stepKinds()));
     }
     return makeStep(
         *found, {std::string(name), std::string(line.substr(std::min(blank + 1, line.size())))});

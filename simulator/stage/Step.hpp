@@ -18,6 +18,7 @@ struct Step {
     std::string value;  // as it was written
     /// Does it; see Session::perform.
     std::function<void(Session &session, std::ostream &out)> act;
+    std::string place{};  // in a file: "moves.txt:3"
 
     /// Whether it is the one of that name.
     bool is(std::string_view name) const;

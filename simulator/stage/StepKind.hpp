@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "stage/Errors.hpp"
+#include "stage/Screen.hpp"
 #include "stage/Step.hpp"
 #include "stage/Values.hpp"
 
@@ -16,13 +17,10 @@ namespace stage {
 using Act = decltype(Step::act);
 
 struct StepKind {
-    /// What has to be shown; Tabs is any of them.
-    enum class Screen { Any, Tabs, Keypad, Recents, InCall };
-
     std::string_view name;
     std::string_view value;  // what the help calls the value; empty: there is none
     std::string_view help;
-    Screen screen;
+    ScreenKind screen;  // what has to be shown
     Act (*read)(const Given &given);
     std::vector<std::string_view> choices{};  // the only values allowed; any when empty
     bool watches = false;  // what moves goes on, where other steps leave all at rest

@@ -7,12 +7,13 @@
 
 #include "stage/Errors.hpp"
 #include "uikit/ViewTree.hpp"
+#include "uikit/drawing/Utf16.hpp"
 
 namespace stage {
 namespace {
 
 [[noreturn]] void refuse(const Given &given, const std::string &takes) {
-    throw UsageError(given.name + " takes " + takes + ", not '" + given.value + "'");
+    throw UsageError(given.name + " takes " + takes + ", not " + inQuotes(given.value));
 }
 
 template <class Number>
@@ -97,13 +98,26 @@ Place place(const Given &given) {
     return {std::nullopt, realNumber({given.name + ", without row:N,", given.value}, 0, kFarthest)};
 }
 
-void checkChoice(const Given &given, std::span<const std::string_view> choices) {
+void checkText(const std::string &text) {
+    if (sim::utf8(sim::utf16(text)) != text) {
+        throw UsageError(inQuotes(text) + " is no UTF-8 text; write it in UTF-8");
+    }
+}
+
+void checkChoice(const Given &given, const std::vector<std::string_view> &choices) {
     if (!choices.empty() && std::ranges::find(choices, given.value) == choices.end()) {
         refuse(given, joinChoices(choices));
     }
 }
 
-std::string joinChoices(std::span<const std::string_view> choices) {
+std::string inQuotes(const std::string &text) {
+    constexpr size_t kMost = 60;
+    const std::u16string characters = sim::utf16(text);
+    const std::string end = characters.size() > kMost ? "…" : "";
+    return "'" + sim::drawableText(characters.substr(0, kMost)).utf8 + end + "'";
+}
+
+std::string joinChoices(const std::vector<std::string_view> &choices) {
     std::string list;
     for (size_t i = 0; i < choices.size(); ++i) {
         list += i == 0 ? "" : i + 1 == choices.size() ? " or " : ", ";

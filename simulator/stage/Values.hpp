@@ -4,9 +4,9 @@
 
 #include <chrono>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "uikit/Finger.hpp"
 
@@ -44,10 +44,24 @@ struct Place {
 };
 Place place(const Given &given);
 
+/// UTF-8 throughout.
+void checkText(const std::string &text);
 /// One of these.
-void checkChoice(const Given &given, std::span<const std::string_view> choices);
+void checkChoice(const Given &given, const std::vector<std::string_view> &choices);
+
+/// For messages: the beginning of it in quotes, on one line.
+std::string inQuotes(const std::string &text);
 
 /// "a, b or c"
-std::string joinChoices(std::span<const std::string_view> choices);
+std::string joinChoices(const std::vector<std::string_view> &choices);
+
+/// The same of the rows' names.
+std::string joinNames(const auto &rows) {
+    std::vector<std::string_view> names;
+    for (const auto &row : rows) {
+        names.push_back(row.name);
+    }
+    return joinChoices(names);
+}
 
 }  // namespace stage

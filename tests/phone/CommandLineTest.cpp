@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "stage/Commands.hpp"
 #include "stage/Errors.hpp"
 #include "stage/GalleryPage.hpp"
 #include "stage/ProgressBar.hpp"
@@ -12,14 +13,15 @@
 namespace {
 
 using stage::Request;
-using stage::Task;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
-Request read(const std::vector<std::string> &words) { return stage::readRequest(words); }
+using Words = std::vector<std::string>;
 
-std::vector<std::string> lines(const std::vector<std::string> &words) {
+Request read(const Words &words) { return stage::readRequest(words); }
+
+std::vector<std::string> lines(const Words &words) {
     std::vector<std::string> lines;
     std::ranges::transform(read(words).steps, std::back_inserter(lines), &stage::text);
     return lines;
@@ -39,26 +41,34 @@ TEST(CommandLine, KeepsTheStepsInTheirOrderAndTextsAsTheyStand) {
 
 TEST(CommandLine, ReadsSettingsAndHasDefaults) {
     const Request describe = read({"describe", "10086", "+44"});
-    EXPECT_EQ(describe.model, (stage::Model{"7.1", "4"})) << "the system whose row is text alone";
-    EXPECT_EQ(describe.numbers, (std::vector<std::string>{"10086", "+44"}));
+    EXPECT_EQ(describe.settings.model, (stage::Model{"7.1", "4"}))
+        << "the system whose row is text alone";
+    EXPECT_EQ(describe.words, (std::vector<std::string>{"10086", "+44"}));
     const Request dialer = read({"dialer"});
-    EXPECT_EQ(dialer.model, (stage::Model{"7.0", "4"}));
-    EXPECT_TRUE(dialer.withAddOn);
-    EXPECT_EQ(dialer.pace, 1);
+    EXPECT_EQ(dialer.settings.model, (stage::Model{"7.0", "4"}));
+    EXPECT_TRUE(dialer.settings.withAddOn);
+    EXPECT_EQ(dialer.settings.pace, 1);
     EXPECT_EQ(read({"incall"}).opening, (stage::Opening{stage::ScreenKind::InCall, {}}));
     const Request set = read({"incall", "--ios", "7.1", "--screen", "3.5", "--without-addon",
                               "--display", "field", "--pace", "0.5"});
-    EXPECT_EQ(set.task, Task::InCall);
-    EXPECT_EQ(set.model, (stage::Model{"7.1", "3.5"}));
-    EXPECT_FALSE(set.withAddOn);
+    EXPECT_EQ(set.command->name, "incall");
+    EXPECT_EQ(set.settings.model, (stage::Model{"7.1", "3.5"}));
+    EXPECT_FALSE(set.settings.withAddOn);
     EXPECT_EQ(set.opening, (stage::Opening{stage::ScreenKind::InCall, phone::Display::Field}));
-    EXPECT_EQ(set.pace, 0.5);
-    EXPECT_EQ(read({"recents", "--calls", "my.csv"}).calls, "my.csv");
-    EXPECT_EQ(read({"gallery", "--version"}).task, Task::Version);
-    EXPECT_THAT(read({"--help"}).help, HasSubstr("gallery"));
-    const std::string help = read({"dialer", "--help"}).help;
-    EXPECT_THAT(help, HasSubstr("--ios VERSION"));
-    EXPECT_THAT(help, HasSubstr("7.0, 7.1 or 8.0"));
+    EXPECT_EQ(set.settings.pace, 0.5);
+    EXPECT_EQ(read({"recents", "--calls", "my.csv"}).settings.calls, "my.csv");
+    for (const std::vector<std::string> &words : {Words{"--version"}, {"gallery", "--version"}}) {
+        EXPECT_THAT(read(words).text, testing::StartsWith("phone-simulator "));
+    }
+    for (const std::vector<std::string> &words : {Words{"--help"}, {"-h"}, {"help"}}) {
+        EXPECT_THAT(read(words).text, HasSubstr("gallery"));
+    }
+    for (const std::vector<std::string> &words :
+         {Words{"dialer", "--delete", "2", "--help"}, {"dialer", "-h"}, {"help", "dialer"}}) {
+        EXPECT_THAT(read(words).text, HasSubstr("--ios VERSION"));
+        EXPECT_THAT(read(words).text, HasSubstr("7.0, 7.1 or 8.0"));
+        EXPECT_THAT(read(words).text, HasSubstr("press the delete key N times"));
+    }
 }
 
 TEST(CommandLine, NamesTheChoicesInOneLine) {
@@ -66,9 +76,11 @@ TEST(CommandLine, NamesTheChoicesInOneLine) {
         std::vector<std::string> words;
         const char *complaint;
     } cases[] = {
-        {{}, "a command is missing; choose dialer, incall, recents, hooks, gallery or describe"},
-        {{"dailer"}, "there is no command 'dailer'; choose dialer, incall, recents, "},
-        {{"dialer", "--ios", "9.0"}, "--ios takes 7.0, 7.1 or 8.0, not '9.0'"},
+        {{},
+         "a command is missing; choose phone, dialer, incall, recents, replay, hooks, gallery or "
+         "describe"},
+        {{"dailer"}, "there is no command 'dailer'; choose phone, dialer, "},
+        {{"dialer", "--ios", "9.0"}, "dialer: --ios takes 7.0, 7.1 or 8.0, not '9.0'"},
         {{"dialer", "--screen", "5"}, "dialer: --screen takes 3.5 or 4, not '5'"},
         {{"hooks", "--type", "1"}, "hooks: there is no option '--type'; choose --ios, "},
         {{"dialer", "--png"}, "dialer: --png needs a value: FILE"},
@@ -77,7 +89,7 @@ TEST(CommandLine, NamesTheChoicesInOneLine) {
          "--delete takes a whole number from 1 to 2147483647, not '0'"},
         {{"dialer", "--delete", "2147483648"}, "from 1 to 2147483647, not '2147483648'"},
         {{"dialer", "138"}, "dialer: '138' is out of place"},
-        {{"dialer", "--type", "1\xff"}, "the argument '1\xEF\xBF\xBD' is no UTF-8 text"},
+        {{"dialer", "--type", "1\xff"}, "'1\xEF\xBF\xBD' is no UTF-8 text"},
         {{"incall", "--outgoing", ""}, "--outgoing takes a number to dial, not ''"},
         {{"incall", "--wait", "7200.5"}, "--wait takes a number from 0 to 7200, not '7200.5'"},
         {{"incall", "--wait", "nan"}, "--wait takes a number from 0 to 7200, not 'nan'"},

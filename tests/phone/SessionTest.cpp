@@ -35,6 +35,8 @@ TEST_F(Stage, TypesInTheSampleWorldAndSavesANewContact) {
     EXPECT_THAT(typed(std::string(10000, '9')), HasSubstr("添加到通讯录"));
     EXPECT_THAT(typed("4002001818"), StartsWith("云雀速递"));
     EXPECT_EQ(session.numberText(), "400 200 1818");
+    perform(session, {"touch add-contact", "back"});
+    expectEach(session, {{save, "no sheet for a new person is open"}, {"back", "no detail"}});
     perform(session, {"touch add-contact", save});
     EXPECT_EQ(session.lineText(), "新朋友 | 手机");
     session.startOver();
@@ -159,6 +161,31 @@ TEST_F(Stage, DoesTheStepsOfACommandLine) {
     EXPECT_THAT(call.out, HasSubstr("\"01:01\""));
     for (const fs::path &picture : pictures) {
         EXPECT_GT(fs::file_size(picture), 1000U);
+    }
+}
+
+TEST_F(Stage, ReplaysAFileOfStepsOrNamesItsLines) {
+    const std::string file = folder_ / "moves.txt";
+    const auto replay = [&](const char *content) {
+        test::writeFile(file, content);
+        return run({"replay", file, "--pace", "0.002"});
+    };
+    EXPECT_THAT(replay("# what it shows\n\n  type 138\r\nwait 1\ndown 160,300\nlift").out,
+                HasSubstr("UILabel (12, 2, 296, 46) \"138 8\""));
+    const std::pair<const char *, std::vector<std::string>> cases[] = {
+        {"tree\n#\ntyp 1\ndelete 0\ntree 1\ntype \xff\ntab away",
+         {": 5 mistakes, so that", ":3: there is no step 'typ'; choose type, delete, ",
+          ":4: delete takes a whole number from 1", ":5: tree takes no value", ":6: '\xEF\xBF\xBD'",
+          ":7: tab takes favourites, recents, "}},
+        {"\ntab recents\nopen 46", {":3: --open 46: there are 45 rows; choose one from 1 on\n"}},
+        {"png nowhere/a.png", {"nowhere/a.png: there is no folder nowhere"}}};
+    for (const auto &[content, complaints] : cases) {
+        const Outcome outcome = replay(content);
+        EXPECT_EQ(outcome.code, 1);
+        EXPECT_EQ(outcome.out, "");
+        for (const std::string &complaint : complaints) {
+            EXPECT_THAT(outcome.err, HasSubstr(complaint));
+        }
     }
 }
 

@@ -44,20 +44,31 @@ TEST_F(Touch, ReachesEveryTabAndCallsFromIt) {
         EXPECT_EQ(sim::instance<phone::InCallButton>(mute)->isSelected(), on);
     }
     endCall();
-    const std::pair<Tab, const char *> tabs[] = {{Tab::Contacts, "所有联系人"},
-                                                 {Tab::Favourites, "PHFavorites"},
-                                                 {Tab::Voicemail, "\"语音留言\""},
-                                                 {Tab::Recents, "PHRecentsCell"}};
-    for (const auto &[tab, content] : tabs) {
-        EXPECT_TRUE(window.hand().tap(window.tabButton(tab)));
+    const std::tuple<const char *, Tab, const char *> tabs[] = {
+        {"tab contacts", Tab::Contacts, "所有联系人"},
+        {"tab favourites", Tab::Favourites, "PHFavorites"},
+        {"tab voicemail", Tab::Voicemail, "\"语音留言\""},
+        {"tab recents", Tab::Recents, "PHRecentsCell"}};
+    for (const auto &[name, tab, content] : tabs) {
+        perform(session, {name});
         EXPECT_EQ(window.shownTab(), tab);
         if (tab != Tab::Favourites) {
             EXPECT_THAT(session.tree(), HasSubstr(content));
         }
     }
-    expectEach(session, {{"type 1", "another tab is shown; --tab keypad first"}});
-    window.hand().tap({100, 64 + 24});
+    expectEach(session, {{"type 1", "another tab is shown; --tab keypad first"},
+                         {"lift", "--lift: no finger is on the screen"},
+                         {"down 100,88", "done"},
+                         {"cancel", "done"},
+                         {"answer", "--answer: no call is shown"},
+                         {"down 100,88", "done"},
+                         {"lift", "done"}});
     EXPECT_EQ(number(), "17700000061") << "the topmost row";
+    expectEach(session, {{"tab keypad", "a call covers the screen"},
+                         {"answer", "done"},
+                         {"incoming 10086", "done"},
+                         {"answer", "done"},
+                         {"end 1", "done"}});
     endCall();
     EXPECT_TRUE(window.hand().tap(window.tabButton(Tab::Favourites)));
     window.hand().tap({100, 64 + 22});

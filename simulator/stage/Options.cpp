@@ -1,0 +1,65 @@
+// Options that are no steps.
+#include "stage/Commands.hpp"
+
+namespace stage {
+namespace {
+
+template <std::filesystem::path Settings::*path>
+void takePath(Request &request, const Given &given) {
+    request.settings.*path = given.value;
+}
+
+std::vector<std::string_view> listed(const auto &values) { return {values.begin(), values.end()}; }
+
+std::vector<OptionKind> makeOptions() {
+    return {
+        {"ios", "VERSION", "system version of the telephone",
+         [](Request &request, const Given &given) {
+             Model &model = request.settings.model;
+             model = modelNamed(given.value, model.screen);
+         },
+         listed(kSystemVersions)},
+        {"screen", "INCHES", "size of its screen",
+         [](Request &request, const Given &given) {
+             Model &model = request.settings.model;
+             model = modelNamed(model.ios, given.value);
+         },
+         listed(kScreens)},
+        {"display",
+         "KIND",
+         "what shows the call; without it, the system's own choice",
+         [](Request &request, const Given &given) {
+             request.opening.display =
+                 given.value == "view" ? phone::Display::View : phone::Display::Field;
+         },
+         {"view", "field"}},
+        {"without-addon", "", "the Phone application alone",
+         [](Request &request, const Given &) { request.settings.withAddOn = false; }},
+        {"without-class", "NAME", "a Phone application that lacks the class NAME",
+         [](Request &request, const Given &given) { request.settings.withoutClass = given.value; }},
+        {"pace", "SECONDS", "real seconds that a second of --wait takes; 1",
+         [](Request &request, const Given &given) {
+             constexpr double kFastest = 0.001;
+             constexpr double kSlowest = 10;
+             request.settings.pace = realNumber(given, kFastest, kSlowest);
+         }},
+        {"out", "FOLDER", "where to put the pictures and index.html",
+         [](Request &request, const Given &given) { request.out = given.value; }},
+        {"world", "FILE", "what the companion knows; without it, the sample world",
+         &takePath<&Settings::world>},
+        {"calls", "FILE", "a call history of your own; without it, the world's recents",
+         &takePath<&Settings::calls>},
+        {"data", "FOLDER", "where the companion keeps its store", &takePath<&Settings::data>},
+        {"verbose", "", "print the system log, missing methods included, on stderr",
+         [](Request &request, const Given &) { request.settings.verbose = true; }},
+    };
+}
+
+}  // namespace
+
+const std::vector<OptionKind> &optionKinds() {
+    static const std::vector<OptionKind> all = makeOptions();
+    return all;
+}
+
+}  // namespace stage
