@@ -48,9 +48,11 @@ void type(Session &session, const std::string &text) {
 }
 
 void erase(Session &session, int count) {
-    for (int i = 0; i < count; ++i) {
-        session.window().hand().tap(viewOf(session.dialer()->dialerView()->deleteKey()));
-    }
+    phone::DialerController &keypad = *session.dialer();
+    int pressed = 0;
+    do {  // a million times more would change nothing
+        session.window().hand().tap(viewOf(keypad.dialerView()->deleteKey()));
+    } while (++pressed < count && keypad.typedNumber().length() > 0);
 }
 
 void touch(Session &session, const std::string &how) {

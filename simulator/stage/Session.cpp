@@ -98,7 +98,7 @@ void Session::perform(const Step &step, std::ostream &out) {
     const size_t opened = companion::journal().openedUrls.size();
     try {
         requireShown(step.kind->screen);
-        if (step.kind->watches) {
+        if (step.kind->motionGoesOn) {
             step.act(*this, out);
         } else {
             const AtRest atRest;

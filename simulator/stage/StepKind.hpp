@@ -23,7 +23,7 @@ struct StepKind {
     ScreenKind screen;  // what has to be shown
     Act (*read)(const Given &given);
     std::vector<std::string_view> choices{};  // the only values allowed; any when empty
-    bool watches = false;  // what moves goes on, where other steps leave all at rest
+    bool motionGoesOn = false;                // other steps leave nothing that moves by itself
 };
 
 /// A row's last word but one: `act` does the step with the value that `read` makes of the text.
