@@ -28,11 +28,11 @@ std::vector<std::string> lines(const Words &words) {
 }
 
 TEST(CommandLine, KeepsTheStepsInTheirOrderAndTextsAsTheyStand) {
-    EXPECT_THAT(lines({"dialer", "--type", "--png", "--ios", "7.1", "--type=--tree", "--type", "",
-                       "--delete", "2", "--type", "-5", "--png", "a.png", "--tree", "--touch",
-                       "add-contact-hold"}),
-                ElementsAre("type --png", "type --tree", "type", "delete 2", "type -5", "png a.png",
-                            "tree", "touch add-contact-hold"));
+    EXPECT_THAT(
+        lines({"dialer", "--type", "--png", "--ios", "7.1", "--type=--tree", "--type=", "--delete",
+               "2", "--type", "-5", "--png", "a.png", "--tree", "--touch", "add-contact-hold"}),
+        ElementsAre("type --png", "type --tree", "type", "delete 2", "type -5", "png a.png", "tree",
+                    "touch add-contact-hold"));
     EXPECT_THAT(lines({"incall", "--incoming", "", "--answer", "--wait", "7.25", "--second", "-1"}),
                 ElementsAre("incoming", "answer", "wait 7.25", "second -1"));
     EXPECT_THAT(lines({"recents", "--scroll", "row:30", "--swipe", "3,7.5", "--down", "-1,2"}),

@@ -1,6 +1,7 @@
 // Sessions and command lines that keep their data in a folder of their own.
 #pragma once
 
+#include <functional>
 #include <sstream>
 
 #include <gmock/gmock.h>
@@ -35,17 +36,21 @@ class StageRun : public testing::Test {
         return out.str();
     }
 
+    /// Why it fails, or "done".
+    static std::string refusal(const std::function<void()> &act) {
+        try {
+            act();
+        } catch (const stage::Failure &failure) {
+            return failure.what();
+        }
+        return "done";
+    }
+
     /// Each step is done, or refused with a message that contains what stands beside it.
     static void expectEach(stage::Session &session,
                            std::initializer_list<std::pair<std::string, const char *>> steps) {
         for (const auto &[step, complaint] : steps) {
-            std::string message = "done";
-            try {
-                perform(session, {step});
-            } catch (const stage::Failure &failure) {
-                message = failure.what();
-            }
-            EXPECT_THAT(message, testing::HasSubstr(complaint));
+            EXPECT_THAT(refusal([&] { perform(session, {step}); }), testing::HasSubstr(complaint));
         }
     }
 
