@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <ostream>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,11 +19,10 @@ inline constexpr std::string_view kProgram = "phone-simulator";
 /// An option that is no step.
 struct OptionKind {
     std::string_view name;
-    std::string_view value;  // what the help calls the value; empty: it is a switch
+    std::string value;  // what the help calls the value, or "this|that"; empty: it is a switch
     std::string_view help;
     /// Notes it. Throws UsageError.
     void (*take)(Request &request, const Given &given);
-    std::vector<std::string_view> choices{};  // the only values allowed; any when empty
 };
 
 const std::vector<OptionKind> &optionKinds();

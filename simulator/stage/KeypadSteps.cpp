@@ -90,12 +90,9 @@ std::vector<StepKind> keypadSteps() {
     return {
         {"type", "TEXT", "press the keys of TEXT", kKeypad, with<&type, &anyText>},
         {"delete", "N", "press the delete key N times", kKeypad, with<&erase, &wholeNumber>},
-        {"touch",
-         "WHAT",
-         "the line below the number",
-         kKeypad,
-         with<&touch, &anyText>,
-         {"add-contact", "add-contact-hold", "add-contact-cancel"}},
+        {"touch", "add-contact|add-contact-hold|add-contact-cancel",
+         "tap the line that offers to add the number, hold it, or cancel the touch", kKeypad,
+         with<&touch, &anyText>},
         {"save-contact", "NAME", "save the new person after a tap on that line", kKeypad,
          with<&saveContact, &anyText>},
     };

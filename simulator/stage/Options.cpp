@@ -9,30 +9,31 @@ void takePath(Request &request, const Given &given) {
     request.settings.*path = given.value;
 }
 
-std::vector<std::string_view> listed(const auto &values) { return {values.begin(), values.end()}; }
+std::string oneOf(const auto &values) {
+    std::string all;
+    for (const std::string_view value : values) {
+        all += (all.empty() ? "" : "|") + std::string(value);
+    }
+    return all;
+}
 
 std::vector<OptionKind> makeOptions() {
     return {
-        {"ios", "VERSION", "system version of the telephone",
+        {"ios", oneOf(kSystemVersions), "system version of the telephone",
          [](Request &request, const Given &given) {
              Model &model = request.settings.model;
              model = modelNamed(given.value, model.screen);
-         },
-         listed(kSystemVersions)},
-        {"screen", "INCHES", "size of its screen",
+         }},
+        {"screen", oneOf(kScreens), "inches of its screen",
          [](Request &request, const Given &given) {
              Model &model = request.settings.model;
              model = modelNamed(model.ios, given.value);
-         },
-         listed(kScreens)},
-        {"display",
-         "KIND",
-         "what shows the call; without it, the system's own choice",
+         }},
+        {"display", "view|field", "what shows the call; without it, the system's own choice",
          [](Request &request, const Given &given) {
              request.opening.display =
                  given.value == "view" ? phone::Display::View : phone::Display::Field;
-         },
-         {"view", "field"}},
+         }},
         {"without-addon", "", "the Phone application alone",
          [](Request &request, const Given &) { request.settings.withAddOn = false; }},
         {"without-class", "NAME", "a Phone application that lacks the class NAME",

@@ -172,19 +172,18 @@ void pressButton(Session &session, const std::string &button) {
 
 std::vector<StepKind> recentsSteps() {
     constexpr auto kRecents = ScreenKind::Recents;
-    const std::vector<std::string_view> buttons = {"correct", "mark", "search"};
     return {
         {"scroll", "WHERE", "scroll to WHERE: points from the top, or row:N to see row N", kRecents,
          with<&scroll, &place>},
         {"swipe", "ROW[,POINTS]",
          "drag row ROW, counted from 1, to the left: until its menu is open, or so far", kRecents,
          with<&swipe, &pull>},
-        {"edit", "HOW", "edit mode of the list", kRecents, with<&edit, &anyText>, {"on", "off"}},
+        {"edit", "on|off", "edit mode of the list", kRecents, with<&edit, &anyText>},
         {"open", "ROW", "show the detail of row ROW", kRecents, with<&open, &wholeNumber>},
-        {"press", "BUTTON", "press a button of the open menu or the detail", kRecents,
-         with<&pressButton, &anyText>, buttons},
-        {"hold", "BUTTON", "put a finger on it and leave it there", kRecents, with<&hold, &anyText>,
-         buttons},
+        {"press", "correct|mark|search", "press a button of the open menu or the detail", kRecents,
+         with<&pressButton, &anyText>},
+        {"hold", "correct|mark|search", "put a finger on it and leave it there", kRecents,
+         with<&hold, &anyText>},
     };
 }
 

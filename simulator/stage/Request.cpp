@@ -101,7 +101,7 @@ class Reader {
         for (const OptionKind &kind : optionKinds()) {
             if (std::ranges::find(command_.options, kind.name) != command_.options.end()) {
                 add(kind, "Options", [this, &kind](const Given &given) {
-                    checkChoice(given, kind.choices);
+                    checkChoice(given, kind.value);
                     kind.take(request_, given);
                 });
             }
@@ -133,9 +133,7 @@ class Reader {
             given_.push_back([=] { take({name, isSwitch ? "" : value}); });
             return true;
         };
-        const std::string choices =
-            kind.choices.empty() ? "" : " (" + joinChoices(kind.choices) + ")";
-        CLI::Option *const option = app_.add_option(name, hear, std::string(kind.help) + choices);
+        CLI::Option *const option = app_.add_option(name, hear, std::string(kind.help));
         option->type_name(std::string(kind.value))->group(group)->trigger_on_parse();
         if (isSwitch) {
             option->expected(0);
@@ -180,7 +178,7 @@ class Reader {
             }
             if (request_.words.size() == command_.mostWords) {
                 throw UsageError(
-                    "'" + word + "' is out of place: this command takes " +
+                    inQuotes(word) + " is out of place: this command takes " +
                     (command_.word.empty() ? "" : std::string(command_.word) + " and ") +
                     "options only");
             }

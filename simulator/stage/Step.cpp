@@ -24,7 +24,7 @@ Step makeStep(const StepKind &kind, const Given &given) {
         throw UsageError(given.name + " takes no value");
     }
     checkText(given.value);
-    checkChoice(given, kind.choices);
+    checkChoice(given, kind.value);
     return {&kind, given.value, kind.read(given)};
 }
 

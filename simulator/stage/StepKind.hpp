@@ -18,15 +18,14 @@ using Act = decltype(Step::act);
 
 struct StepKind {
     std::string_view name;
-    std::string_view value;  // what the help calls the value; empty: there is none
+    std::string_view value;  // what the help calls the value, or "this|that"; empty: there is none
     std::string_view help;
     ScreenKind screen;  // what has to be shown
     Act (*read)(const Given &given);
-    std::vector<std::string_view> choices{};  // the only values allowed; any when empty
-    bool motionGoesOn = false;                // other steps leave nothing that moves by itself
+    bool motionGoesOn = false;  // other steps leave nothing that moves by itself
 };
 
-/// A row's last word but one: `act` does the step with the value that `read` makes of the text.
+/// Of a row: `act` does the step with the value that `read` makes of the text.
 template <auto act, auto read>
 Act with(const Given &given) {
     return [value = read(given)](Session &session, std::ostream &) { act(session, value); };

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <ranges>
 
 #include "stage/Errors.hpp"
 #include "uikit/ViewTree.hpp"
@@ -104,9 +105,13 @@ void checkText(const std::string &text) {
     }
 }
 
-void checkChoice(const Given &given, const std::vector<std::string_view> &choices) {
-    if (!choices.empty() && std::ranges::find(choices, given.value) == choices.end()) {
-        refuse(given, joinChoices(choices));
+void checkChoice(const Given &given, std::string_view choices) {
+    std::vector<std::string_view> all;
+    for (const auto choice : std::views::split(choices, '|')) {
+        all.emplace_back(choice.begin(), choice.end());
+    }
+    if (all.size() > 1 && std::ranges::find(all, given.value) == all.end()) {
+        refuse(given, joinChoices(all));
     }
 }
 

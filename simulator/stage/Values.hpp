@@ -46,8 +46,8 @@ Place place(const Given &given);
 
 /// UTF-8 throughout.
 void checkText(const std::string &text);
-/// One of these.
-void checkChoice(const Given &given, const std::vector<std::string_view> &choices);
+/// One of "this|that"; a word without a bar allows every value.
+void checkChoice(const Given &given, std::string_view choices);
 
 /// For messages: the beginning of it in quotes, on one line.
 std::string inQuotes(const std::string &text);
