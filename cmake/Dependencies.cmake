@@ -9,6 +9,7 @@ find_package(ICU REQUIRED COMPONENTS uc)   # ICU::uc
 if(NOT CMAKE_CROSSCOMPILING)
     find_package(GTest REQUIRED)           # GTest::gtest_main, GTest::gmock
     find_package(benchmark REQUIRED)       # benchmark::benchmark_main
+    pkg_check_modules(ffi REQUIRED IMPORTED_TARGET libffi)          # PkgConfig::ffi
 endif()
 pkg_check_modules(sqlite3 REQUIRED IMPORTED_TARGET sqlite3)         # PkgConfig::sqlite3
 pkg_check_modules(glib REQUIRED IMPORTED_TARGET glib-2.0)           # PkgConfig::glib

@@ -109,6 +109,21 @@ Store &store() { return *currentRun().store; }
 
 Journal &journal() { return currentRun().journal; }
 
+namespace {
+
+Listener g_listener = nullptr;
+
+}  // namespace
+
+void setListener(Listener listener) { g_listener = listener; }
+
+void tell(Told told, const std::string &what) {
+    note(told == Told::Message ? journal().messages : journal().openedUrls, what);
+    if (g_listener != nullptr) {
+        g_listener(told, what);
+    }
+}
+
 int &awaited() {
     static int count = 0;  // not of the run: what was asked for in one may come in the next
     return count;

@@ -58,6 +58,14 @@ Store &store();
 /// What was asked in the run; may be cleared.
 Journal &journal();
 
+/// Hears what the journal gets of messages and addresses, as it gets it; null, as at first, for
+/// nobody.
+enum class Told { Message, Address };
+using Listener = void (*)(Told told, const std::string &what);
+void setListener(Listener listener);
+/// Writes it into the journal.
+void tell(Told told, const std::string &what);
+
 /// How many cloud answers and downloads are still to come.
 int &awaited();
 

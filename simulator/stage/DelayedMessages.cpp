@@ -62,6 +62,9 @@ void DelayedMessages::sendDue(Moment now) {
     waiting_.erase(waiting_.begin(), end);
     for (const Message &message : due) {
         const objc::AutoreleasePool pool;
+        if (listener_ != nullptr) {
+            listener_(message.target, message.selector);
+        }
         objc::send<id(SEL, NSObject)>(message.target, "performSelector:withObject:"_sel,
                                       message.selector, message.argument);
     }

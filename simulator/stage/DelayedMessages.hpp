@@ -28,6 +28,9 @@ class DelayedMessages {
     /// Sends what is due, unless a finger drags, in the order of moments, then of requests.
     void sendDue(Moment now);
     void forgetAll() { waiting_.clear(); }
+    /// Told of each message as it is sent.
+    using Listener = void (*)(NSObject target, SEL selector);
+    void setListener(Listener listener) { listener_ = listener; }
 
   private:
     struct Message {
@@ -41,6 +44,7 @@ class DelayedMessages {
     static void take(id target, SEL command, SEL selector, id argument, double seconds);
 
     std::multimap<Moment, Message> waiting_;
+    Listener listener_ = nullptr;
 };
 
 }  // namespace stage

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <memory>
 #include <span>
 #include <string>
@@ -13,7 +14,37 @@
 
 namespace {
 
+using substrate::HookedMethod;
 using substrate::HookEntry;
+
+const substrate::Wrapper *g_wrapper = nullptr;
+
+/// What stands round a replacement, and the replacement.
+std::map<IMP, IMP> &wrapped() {
+    static std::map<IMP, IMP> g_wrapped;
+    return g_wrapped;
+}
+
+IMP wrappedReplacement(const HookedMethod &method, IMP replacement) {
+    if (!g_wrapper || !replacement) {
+        return replacement;
+    }
+    const IMP round = g_wrapper->replacement(method, replacement);
+    if (round != replacement) {
+        wrapped().emplace(round, replacement);
+    }
+    return round;
+}
+
+/// Writes what was there for the log and for the caller, who may be handed something round it.
+void save(const HookedMethod &method, IMP previous, HookEntry &entry, IMP *saved) {
+    const auto earlier = wrapped().find(previous);
+    const bool isEarlier = earlier != wrapped().end();
+    entry.saved = isEarlier ? earlier->second : previous;
+    if (saved) {
+        *saved = g_wrapper && !isEarlier ? g_wrapper->previous(method, previous) : previous;
+    }
+}
 
 /// The method that `cls` itself defines under the selector's name, or null.
 Method ownMethod(Class cls, SEL selector) {
@@ -51,31 +82,29 @@ void refreshSubclasses(Class cls) {
 HookEntry hook(Class cls, SEL selector, IMP replacement, IMP *saved) {
     HookEntry entry{HookEntry::Outcome::MissingMethod, cls ? class_getName(cls) : "nil",
                     sel_getName(selector), substrate::symbolName(replacement)};
-    const auto save = [&](IMP previous) {
-        entry.saved = previous;
-        if (saved) {
-            *saved = previous;
-        }
-    };
-    if (!cls) {
+    const Method own = cls ? ownMethod(cls, selector) : nullptr;
+    const Method method = own || !cls ? own : inheritedMethod(cls, selector);
+    if (!method) {
         return entry;
     }
+    const HookedMethod hooked{cls, method_getName(method), method_getTypeEncoding(method)};
     // The slot is filled before the method changes hands: a replacement may run at once.
-    if (const Method own = ownMethod(cls, selector)) {
-        save(method_getImplementation(own));
-        method_setImplementation(own, replacement);
+    save(hooked, method_getImplementation(method), entry, saved);
+    const IMP installed = wrappedReplacement(hooked, replacement);
+    if (own) {
+        method_setImplementation(own, installed);
         refreshSubclasses(cls);
         entry.outcome = HookEntry::Outcome::Replaced;
-    } else if (const Method inherited = inheritedMethod(cls, selector)) {
-        save(method_getImplementation(inherited));
-        class_addMethod(cls, method_getName(inherited), replacement,
-                        method_getTypeEncoding(inherited));
+    } else {
+        class_addMethod(cls, hooked.selector, installed, hooked.types);
         entry.outcome = HookEntry::Outcome::Added;
     }
     return entry;
 }
 
 }  // namespace
+
+void substrate::setWrapper(const Wrapper *wrapper) { g_wrapper = wrapper; }
 
 void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP *saved) {
     substrate::recordHook(hook(cls, selector, replacement, saved));

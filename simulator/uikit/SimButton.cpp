@@ -88,6 +88,7 @@ UIImage SimButton::backgroundImageForState(NSUInteger state) const {
 
 void SimButton::setBackgroundImage(UIImage image, NSUInteger state) {
     backgrounds_.set(Owned<UIImage>::share(image), state);
+    hasChanged();
 }
 
 SimLabel *SimButton::titleLabel() {
@@ -111,6 +112,7 @@ SimImageView *SimButton::imageView() {
 
 void SimButton::setInsets(UIEdgeInsets &insets, UIEdgeInsets value) {
     insets = value;
+    hasChanged();
     setNeedsLayout();
 }
 
@@ -126,6 +128,7 @@ void SimButton::updateParts() {
 }
 
 void SimButton::partsHaveChanged() {
+    hasChanged();
     updateParts();
     setNeedsLayout();
 }

@@ -8,9 +8,9 @@
 #include "uikit/SimApplication.hpp"
 #include "uikit/SimTouch.hpp"
 
-void SimControl::change(bool &flag, bool value) {
+void SimControl::changeState(bool &flag, bool value) {
     if (flag != value) {
-        flag = value;
+        change(flag, value);
         setNeedsLayout();
     }
 }

@@ -24,11 +24,11 @@ class SimControl : public SimView {
     static void define();
 
     bool isEnabled() const { return enabled_; }
-    void setEnabled(bool enabled) { change(enabled_, enabled); }
+    void setEnabled(bool enabled) { changeState(enabled_, enabled); }
     bool isSelected() const { return selected_; }
-    void setSelected(bool selected) { change(selected_, selected); }
+    void setSelected(bool selected) { changeState(selected_, selected); }
     bool isHighlighted() const { return highlighted_; }
-    void setHighlighted(bool highlighted) { change(highlighted_, highlighted); }
+    void setHighlighted(bool highlighted) { changeState(highlighted_, highlighted); }
     NSUInteger state() const;
     /// A finger that came down on the control is still there; and not too far away.
     bool isTracking() const { return tracking_; }
@@ -54,7 +54,7 @@ class SimControl : public SimView {
         NSUInteger events;
     };
 
-    void change(bool &flag, bool value);
+    void changeState(bool &flag, bool value);
     void send(NSUInteger events, SimEvent *event);
     bool isNear(SimEvent *event) const;
     void track(bool tracking, bool inside);

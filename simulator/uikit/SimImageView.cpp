@@ -23,10 +23,14 @@ id SimImageView::initWithImage(UIImage image) {
     return *this;
 }
 
-void SimImageView::setImage(UIImage image) { image_ = Owned<UIImage>::share(image); }
+void SimImageView::setImage(UIImage image) {
+    image_ = Owned<UIImage>::share(image);
+    hasChanged();
+}
 
 void SimImageView::setHighlightedImage(UIImage image) {
     highlightedImage_ = Owned<UIImage>::share(image);
+    hasChanged();
 }
 
 SimImage *SimImageView::shown() const {

@@ -17,7 +17,7 @@ class SimImageView : public SimView {
     UIImage highlightedImage() const { return highlightedImage_; }
     void setHighlightedImage(UIImage image);
     bool isHighlighted() const { return highlighted_; }
-    void setHighlighted(bool highlighted) { highlighted_ = highlighted; }
+    void setHighlighted(bool highlighted) { change(highlighted_, highlighted); }
     CGSize sizeThatFits(CGSize room) const;
     CGSize intrinsicContentSize() const;
     void drawRect(CGRect rect);

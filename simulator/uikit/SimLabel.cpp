@@ -46,6 +46,7 @@ void SimLabel::setText(NSString text) {
 }
 
 void SimLabel::textHasChanged() {
+    hasChanged();
     objc::send<void()>(id(*this), "invalidateIntrinsicContentSize"_sel);
 }
 
@@ -78,10 +79,12 @@ void SimLabel::setAttributedText(NSAttributedString text) {
 void SimLabel::setFont(UIFont font) {
     font_ = Owned<UIFont>::share(
         font != nullptr ? font : SimFont::systemFontOfSize(SimFont::kDefaultPoints));
+    hasChanged();
 }
 
 void SimLabel::setTextColor(UIColor color) {
     textColor_ = Owned<UIColor>::share(color != nullptr ? color : SimColor::make(sim::kBlack));
+    hasChanged();
 }
 
 sim::StyledText SimLabel::styled() const {

@@ -24,11 +24,11 @@ class SimLabel : public SimView {
     /// Nil brings back the default, black.
     void setTextColor(UIColor color);
     sim::TextAlignment textAlignment() const { return textAlignment_; }
-    void setTextAlignment(sim::TextAlignment alignment) { textAlignment_ = alignment; }
+    void setTextAlignment(sim::TextAlignment alignment) { change(textAlignment_, alignment); }
     sim::LineBreak lineBreakMode() const { return lineBreakMode_; }
-    void setLineBreakMode(sim::LineBreak mode) { lineBreakMode_ = mode; }
+    void setLineBreakMode(sim::LineBreak mode) { change(lineBreakMode_, mode); }
     NSInteger numberOfLines() const { return numberOfLines_; }
-    void setNumberOfLines(NSInteger lines) { numberOfLines_ = lines; }
+    void setNumberOfLines(NSInteger lines) { change(numberOfLines_, lines); }
     bool adjustsFontSizeToFitWidth() const { return adjustsFontSize_; }
     void setAdjustsFontSizeToFitWidth(bool adjusts) { adjustsFontSize_ = adjusts; }
     CGFloat minimumScaleFactor() const { return minimumScaleFactor_; }

@@ -12,12 +12,37 @@
 #include "uikit/SimColor.hpp"
 #include "uikit/SimViewController.hpp"
 #include "uikit/SimWindow.hpp"
+#include "uikit/ViewObserver.hpp"
 
 using objc::Owned;
 using sim::handle;
 using sim::instance;
 
+namespace {
+
+std::uint32_t g_latestId = 0;
+const sim::ViewObserver *g_observer = nullptr;
+
+}  // namespace
+
+void sim::setViewObserver(const ViewObserver *observer) { g_observer = observer; }
+
+SimView::SimView() : viewId_(++g_latestId) {
+    if (g_observer != nullptr) {
+        g_observer->made(viewId_);
+    }
+}
+
+void SimView::hasChanged() const {
+    if (g_observer != nullptr) {
+        g_observer->changed(viewId_);
+    }
+}
+
 SimView::~SimView() {
+    if (g_observer != nullptr) {
+        g_observer->gone(viewId_);
+    }
     for (const Owned<UIView> &subview : subviews_) {
         instance<SimView>(subview.get())->superview_ = nullptr;
     }
@@ -35,7 +60,8 @@ void SimView::setFrame(CGRect frame) {
     if (std::isnan(frame.origin.x + frame.origin.y + frame.size.width + frame.size.height)) {
         sim::raise("CALayerInvalidGeometry"_ns, "a frame with a number that is none (NaN)"_ns);
     }
-    const CGSize before = std::exchange(frame_, frame).size;
+    const CGSize before = frame_.size;
+    change(frame_, frame);
     if (frame.size != before) {
         needsLayout_ = true;
         autoresize(before, frame.size);
@@ -55,7 +81,7 @@ void SimView::autoresize(CGSize before, CGSize now) {
 void SimView::setBounds(CGRect bounds) {
     const CGPoint middle = center();
     const CGSize size = bounds.size;
-    boundsOrigin_ = bounds.origin;
+    change(boundsOrigin_, bounds.origin);
     if (size != frame_.size) {
         handle<UIView>(this).setFrame(
             rect(middle.x - size.width / 2, middle.y - size.height / 2, size.width, size.height));
@@ -72,7 +98,10 @@ void SimView::setCenter(CGPoint center) {
         rect(center.x - size.width / 2, center.y - size.height / 2, size.width, size.height));
 }
 
-void SimView::setBackgroundColor(UIColor color) { backgroundColor_ = Owned<UIColor>::share(color); }
+void SimView::setBackgroundColor(UIColor color) {
+    backgroundColor_ = Owned<UIColor>::share(color);
+    hasChanged();
+}
 
 UIColor SimView::tintColor() const {
     if (tintColor_) {
@@ -84,7 +113,10 @@ UIColor SimView::tintColor() const {
     return SimColor::make({0, 122 / 255.0, 1, 1});
 }
 
-void SimView::setTintColor(UIColor color) { tintColor_ = Owned<UIColor>::share(color); }
+void SimView::setTintColor(UIColor color) {
+    tintColor_ = Owned<UIColor>::share(color);
+    hasChanged();
+}
 
 SimLayer *SimView::layer() const {
     if (!layer_) {

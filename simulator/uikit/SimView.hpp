@@ -2,6 +2,7 @@
 // set and frames read back exactly; the bounds have the frame's size.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -19,7 +20,11 @@ class SimView : public SimResponder {
   public:
     static void define();
 
+    SimView();
     ~SimView();
+
+    /// No other view of the process has had it.
+    std::uint32_t viewId() const { return viewId_; }
 
     id init();
     id initWithFrame(CGRect frame);
@@ -40,13 +45,13 @@ class SimView : public SimResponder {
     void setAutoresizesSubviews(bool autoresizes) { autoresizesSubviews_ = autoresizes; }
 
     bool isHidden() const { return hidden_; }
-    void setHidden(bool hidden) { hidden_ = hidden; }
+    void setHidden(bool hidden) { change(hidden_, hidden); }
     CGFloat alpha() const { return alpha_; }
-    void setAlpha(CGFloat alpha) { alpha_ = alpha; }
+    void setAlpha(CGFloat alpha) { change(alpha_, alpha); }
     bool isOpaque() const { return opaque_; }
     void setOpaque(bool opaque) { opaque_ = opaque; }
     NSInteger tag() const { return tag_; }
-    void setTag(NSInteger tag) { tag_ = tag; }
+    void setTag(NSInteger tag) { change(tag_, tag); }
     bool clipsToBounds() const { return layer()->masksToBounds(); }
     void setClipsToBounds(bool clips) { layer()->setMasksToBounds(clips); }
     bool isUserInteractionEnabled() const { return userInteractionEnabled_; }
@@ -112,6 +117,16 @@ class SimView : public SimResponder {
     CGRect convertRectToView(CGRect rect, SimView *view);
     CGRect convertRectFromView(CGRect rect, SimView *view);
 
+    /// Something of what is seen of the view, or stands in it, is another now.
+    void hasChanged() const;
+    template <class Value>
+    void change(Value &member, const Value &value) {
+        if (member != value) {
+            member = value;
+            hasChanged();
+        }
+    }
+
     /// The controller whose view this is; it becomes the next responder. Not retained.
     void setViewController(SimViewController *controller) { controller_ = controller; }
 
@@ -124,6 +139,7 @@ class SimView : public SimResponder {
     bool needsLayoutWithin() const;
     void layOutOnce();
 
+    const std::uint32_t viewId_;
     SimView *superview_ = nullptr;
     SimViewController *controller_ = nullptr;
     std::vector<objc::Owned<UIView>> subviews_;

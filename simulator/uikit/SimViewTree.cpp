@@ -78,6 +78,8 @@ void SimView::insert(SimView *view, std::size_t index) {
                      Owned<UIView>::share(added.get()));
     view->superview_ = this;
     needsConstraints_ = true;
+    hasChanged();
+    view->hasChanged();
     objc::send<void(SimView *)>(id(*this), "didAddSubview:"_sel, view);
     objc::send<void()>(added, "didMoveToSuperview"_sel);
     if (view->window() != windowBefore) {
@@ -98,6 +100,8 @@ void SimView::detach() {
         parent->subviews_.begin() + static_cast<std::ptrdiff_t>(parent->indexOf(this));
     const Owned<UIView> removed = std::move(*place);
     parent->subviews_.erase(place);
+    parent->hasChanged();
+    hasChanged();
     objc::send<void()>(id(*parent), "setNeedsLayout"_sel);
 }
 
@@ -119,6 +123,7 @@ void SimView::bringSubviewToFront(SimView *view) {
     const auto place = subviews_.begin() + static_cast<std::ptrdiff_t>(indexOf(view));
     if (place != subviews_.end()) {
         std::rotate(place, place + 1, subviews_.end());
+        hasChanged();
     }
 }
 
@@ -126,6 +131,7 @@ void SimView::sendSubviewToBack(SimView *view) {
     const auto place = subviews_.begin() + static_cast<std::ptrdiff_t>(indexOf(view));
     if (place != subviews_.end()) {
         std::rotate(subviews_.begin(), place, place + 1);
+        hasChanged();
     }
 }
 

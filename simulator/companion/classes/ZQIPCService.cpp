@@ -43,7 +43,7 @@ void ZQIPCService::post(NSString message, NSDictionary info) {
     if (message.get() == nullptr) {
         return;
     }
-    note(journal().messages, utf8(message));
+    tell(Told::Message, utf8(message));
     objc::send<void(NSString, id, NSDictionary)>(
         center(), "postNotificationName:object:userInfo:"_sel, message, nullptr, info);
 }

@@ -57,7 +57,7 @@ void openUrl(NSString text) {
     if (text.length() == 0) {
         return;
     }
-    note(journal().openedUrls, utf8(text));
+    tell(Told::Address, utf8(text));
     const id url = objc::send<id(NSString)>("NSURL"_cls, "URLWithString:"_sel, text);
     if (url != nullptr) {
         const id application = objc::send<id()>("UIApplication"_cls, "sharedApplication"_sel);

@@ -30,11 +30,15 @@ objc::Owned<UIView> TPLCDTextView::make(Line line) {
     return view;
 }
 
-void TPLCDTextView::setText(NSString text) { text_ = sim::copied(text); }
+void TPLCDTextView::setText(NSString text) {
+    text_ = sim::copied(text);
+    hasChanged();
+}
 
 void TPLCDTextView::setLCDTextFont(UIFont font) {
     font_ = objc::Owned<UIFont>::share(font);
     fontSize_ = font.pointSize();
+    hasChanged();
 }
 
 CGSize TPLCDTextView::sizeIn(UIFont font) const {

@@ -22,7 +22,7 @@ class TPLCDTextView : public SimView {
     void setText(NSString text);
     bool isTextCentered() const { return centred_; }
     /// Centred, or from the left.
-    void setCenterText(bool centred) { centred_ = centred; }
+    void setCenterText(bool centred) { change(centred_, centred); }
     void setLCDTextFont(UIFont font);
     /// Where the text is drawn in the view's own bounds.
     CGRect textRect() const;

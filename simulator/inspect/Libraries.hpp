@@ -1,0 +1,24 @@
+// Which library a piece of code lies in, and whose code called for something.
+#pragma once
+
+#include <vector>
+
+#include "objc/Runtime.hpp"
+
+namespace inspect {
+
+/// The same for all code of one library; null for code that belongs to none.
+const void *libraryOf(const void *code);
+
+/// Where the methods of a class come from; null for a class without methods.
+const void *libraryOfClass(Class cls);
+
+/// The libraries whose code is the add-on's.
+const std::vector<const void *> &addOns();
+void addAddOn(const void *library);
+
+/// Whether the add-on's code is nearer to the caller than the telephone's. UIKit, the companion and
+/// what is below them only do what others ask.
+bool isAskedForByAddOn();
+
+}  // namespace inspect

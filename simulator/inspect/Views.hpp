@@ -1,0 +1,56 @@
+// A view tree as data: what each view is, where it lies, what it shows, whose it is, and what a
+// person who cannot see the screen is told of it.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/CoreGraphics.hpp"
+
+class SimView;
+
+namespace inspect {
+
+enum class Role { None, Button, Text, Row, List, Tab, Image };
+
+/// A stretch of a text; colours as "#rrggbb" or "#rrggbbaa", fonts as "HelveticaNeue-Light 36".
+struct Run {
+    std::string text;
+    std::string color;
+    std::string font;
+};
+
+/// Texts are UTF-8, and empty where the view has none of that kind.
+struct View {
+    std::uint32_t id = 0;  ///< the same as long as the view lives
+    std::string className{};
+    std::int64_t tag = 0;
+    CGRect frame{};  ///< in the parent's coordinates
+    CGRect place{};  ///< in the root's
+    bool hidden = false;
+    double alpha = 1;
+    bool seen = false;  ///< in a window, not hidden, not transparent, not clipped away
+    std::optional<std::string> text{};
+    std::vector<Run> runs{};  ///< where the text has more than one look
+    std::string color{};
+    std::string background{};
+    std::string font{};
+    std::string image{};       ///< the name of its file
+    bool ofAddOn = false;      ///< made by the add-on's code
+    std::string_view touched;  ///< the add-on's method that changed it last
+    Role role = Role::None;
+    std::string name{};  ///< what a screen reader calls it
+    bool disabled = false;
+    bool selected = false;
+    std::vector<View> children{};
+};
+
+/// As the views are now: nothing is laid out on the way.
+View viewTree(SimView *root);
+
+/// The same as JSON, an object as `View` of the page's protocol describes it.
+std::string viewsJson(SimView *root);
+
+}  // namespace inspect
