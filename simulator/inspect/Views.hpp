@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/CoreGraphics.hpp"
@@ -17,31 +18,32 @@ enum class Role { None, Button, Text, Row, List, Tab, Image };
 
 /// A stretch of a text; colours as "#rrggbb" or "#rrggbbaa", fonts as "HelveticaNeue-Light 36".
 struct Run {
-    std::string text;
-    std::string color;
-    std::string font;
+    std::string text{};
+    std::string color{};
+    std::string font{};
 };
 
 /// Texts are UTF-8, and empty where the view has none of that kind.
 struct View {
     std::uint32_t id = 0;  ///< the same as long as the view lives
     std::string className{};
-    std::int64_t tag = 0;
+    NSInteger tag = 0;
     CGRect frame{};  ///< in the parent's coordinates
     CGRect place{};  ///< in the root's
+    CGRect shown{};  ///< what is left of that by those around it
     bool hidden = false;
-    double alpha = 1;
+    CGFloat alpha = 1;
     bool seen = false;  ///< in a window, not hidden, not transparent, not clipped away
     std::optional<std::string> text{};
     std::vector<Run> runs{};  ///< where the text has more than one look
     std::string color{};
     std::string background{};
     std::string font{};
-    std::string image{};       ///< the name of its file
-    bool ofAddOn = false;      ///< made by the add-on's code
-    std::string_view touched;  ///< the add-on's method that changed it last
+    std::string image{};         ///< its file's name without the ending
+    bool ofAddOn = false;        ///< made by the add-on's code
+    std::string_view touched{};  ///< the add-on's method that changed it last
     Role role = Role::None;
-    std::string name{};  ///< what a screen reader calls it
+    std::string name{};  ///< what a screen reader calls it; only with a role
     bool disabled = false;
     bool selected = false;
     std::vector<View> children{};

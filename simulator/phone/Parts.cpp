@@ -34,8 +34,9 @@ objc::Owned<UIImageView> makePicture(const char *name, CGPoint origin) {
     return view;
 }
 
-objc::Owned<UIView> makeButton(CGRect frame, const char *icon) {
+objc::Owned<UIView> makeButton(CGRect frame, const char *icon, NSString name) {
     auto button = makeView<SimButton>(frame);
+    objc::Wire<SimButton *>::from(button->get())->setAccessibilityLabel(name);
     objc::send<void(UIImage, NSUInteger)>(button.get(), "setImage:forState:"_sel, picture(icon),
                                           kStateNormal);
     return button;

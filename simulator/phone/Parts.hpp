@@ -44,8 +44,8 @@ UIImage picture(const char *name);
 /// An image view of the picture's size with its origin at `origin`.
 objc::Owned<UIImageView> makePicture(const char *name, CGPoint origin);
 
-/// A button of one icon.
-objc::Owned<UIView> makeButton(CGRect frame, const char *icon);
+/// A button of one icon, with a name for who cannot see it.
+objc::Owned<UIView> makeButton(CGRect frame, const char *icon, NSString name);
 
 /// Sends `action` to `target`, which is not retained, when one of the control events occurs.
 void onTouch(UIView control, NSObject target, SEL action, NSUInteger events);

@@ -24,10 +24,16 @@ SimImage *SimImage::withPicture(const sim::Picture &picture) {
     return image;
 }
 
-SimImage *SimImage::withContentsOfFile(NSString path) {
-    const auto picture = sim::Picture::load(sim::utf8(path));
-    return picture ? withPicture(*picture) : nullptr;
+SimImage *SimImage::ofFile(const std::filesystem::path &file) {
+    const auto picture = sim::Picture::load(file);
+    SimImage *const image = picture ? withPicture(*picture) : nullptr;
+    if (image != nullptr) {
+        image->name_ = file.stem();
+    }
+    return image;
 }
+
+SimImage *SimImage::withContentsOfFile(NSString path) { return ofFile(sim::utf8(path)); }
 
 SimImage *SimImage::named(NSString name) {
     std::filesystem::path file = sim::utf8(name);
@@ -37,12 +43,13 @@ SimImage *SimImage::named(NSString name) {
     if (!file.has_extension()) {
         file += ".png";
     }
-    const auto picture = sim::Picture::load(namedFolder() / file);
-    return picture ? withPicture(*picture) : nullptr;
+    return ofFile(namedFolder() / file);
 }
 
 id SimImage::initWithContentsOfFile(NSString path) {
-    picture_ = sim::Picture::load(sim::utf8(path));
+    const std::filesystem::path file = sim::utf8(path);
+    picture_ = sim::Picture::load(file);
+    name_ = file.stem();
     if (!picture_) {
         objc::send<void()>(id(*this), "release"_sel);
         return nullptr;
@@ -55,6 +62,7 @@ CGSize SimImage::size() const { return picture_ ? picture_->size() : CGSize{}; }
 SimImage *SimImage::resizableImageWithCapInsets(UIEdgeInsets insets) {
     auto *const image = sim::autoreleased<SimImage>();
     image->picture_ = picture_;
+    image->name_ = name_;
     image->renderingMode_ = renderingMode_;
     image->capInsets_ = insets;
     return image;

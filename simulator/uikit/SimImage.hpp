@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "objc/ClassBuilder.hpp"
 #include "platform/UIKit.hpp"
@@ -21,6 +22,8 @@ class SimImage : public objc::Instance {
     static SimImage *withPicture(const sim::Picture &picture);
 
     id initWithContentsOfFile(NSString path);
+    /// Of the file, without its ending; empty for an image of no file.
+    const std::string &name() const { return name_; }
     /// Points; zero for an image without picture.
     CGSize size() const;
     CGFloat scale() const { return picture_ ? picture_->scale() : 1; }
@@ -34,7 +37,10 @@ class SimImage : public objc::Instance {
     const std::optional<sim::Picture> &picture() const { return picture_; }
 
   private:
+    static SimImage *ofFile(const std::filesystem::path &file);
+
     std::optional<sim::Picture> picture_;
+    std::string name_;
     UIEdgeInsets capInsets_{};
     NSInteger renderingMode_ = 0;
 };

@@ -15,6 +15,7 @@ class SimLabel : public SimView {
     /// anew when the text is another one.
     void setText(NSString text);
     NSAttributedString attributedText() const;
+    bool isAttributed() const { return static_cast<bool>(attributedText_); }
     /// Font and colour become those of its first position, where it has any.
     void setAttributedText(NSAttributedString text);
     UIFont font() const { return font_; }

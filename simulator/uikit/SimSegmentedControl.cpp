@@ -40,6 +40,8 @@ void SimSegmentedControl::colourWords() const {
         const UIColor white = SimColor::make(sim::kWhite);
         labels_[i]->setTextColor(chosen ? white : tintColor());
         labels_[i]->setBackgroundColor(chosen ? tintColor() : UIColor::clearColor());
+        instance<SimLabel>(labels_[i].get())
+            ->setAccessibilityTraits(kTraitButton | (chosen ? kTraitSelected : 0));
     }
 }
 

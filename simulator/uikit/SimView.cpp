@@ -125,6 +125,11 @@ SimLayer *SimView::layer() const {
     return instance<SimLayer>(layer_.get());
 }
 
+void SimView::setAccessibilityLabel(NSString label) {
+    accessibilityLabel_ = sim::copied(label);
+    hasChanged();
+}
+
 bool SimView::needsLayoutWithin() const {
     return needsLayout_ || std::ranges::any_of(subviews_, [](const Owned<UIView> &subview) {
                return instance<SimView>(subview.get())->needsLayoutWithin();
@@ -255,6 +260,10 @@ void SimView::define() {
                     member<&SimView::invalidateIntrinsicContentSize>)
             .method("setNeedsDisplay"_sel, member<&SimView::setNeedsDisplay>)
             .method("drawRect:"_sel, member<&SimView::drawRect>)
+            .method("accessibilityLabel"_sel, member<&SimView::accessibilityLabel>)
+            .method("setAccessibilityLabel:"_sel, member<&SimView::setAccessibilityLabel>)
+            .method("accessibilityTraits"_sel, member<&SimView::accessibilityTraits>)
+            .method("setAccessibilityTraits:"_sel, member<&SimView::setAccessibilityTraits>)
             .method("nextResponder"_sel, member<&SimView::nextResponder>)
             .method("pointInside:withEvent:"_sel, member<&SimView::pointInside>)
             .method("hitTest:withEvent:"_sel, member<&SimView::hitTest>)

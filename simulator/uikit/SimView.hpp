@@ -14,6 +14,10 @@
 class SimViewController;
 class SimWindow;
 
+/// UIAccessibilityTraits, as far as they occur.
+inline constexpr std::uint64_t kTraitButton = 1U << 0U;
+inline constexpr std::uint64_t kTraitSelected = 1U << 3U;
+
 /// Member functions are the implementations of the messages; what a subclass or a hook may replace
 /// is to be sent as a message, through a UIView handle.
 class SimView : public SimResponder {
@@ -117,6 +121,13 @@ class SimView : public SimResponder {
     CGRect convertRectToView(CGRect rect, SimView *view);
     CGRect convertRectFromView(CGRect rect, SimView *view);
 
+    // What is told to who cannot see the screen; nil unless there is something to say.
+    NSString accessibilityLabel() const { return accessibilityLabel_; }
+    void setAccessibilityLabel(NSString label);
+    /// UIAccessibilityTraits.
+    std::uint64_t accessibilityTraits() const { return accessibilityTraits_; }
+    void setAccessibilityTraits(std::uint64_t traits) { change(accessibilityTraits_, traits); }
+
     /// Something of what is seen of the view, or stands in it, is another now.
     void hasChanged() const;
     template <class Value>
@@ -147,6 +158,8 @@ class SimView : public SimResponder {
     objc::Owned<UIColor> backgroundColor_;
     objc::Owned<UIColor> tintColor_;
     mutable objc::Owned<NSObject> layer_;
+    objc::Owned<NSString> accessibilityLabel_;
+    std::uint64_t accessibilityTraits_ = 0;
     CGRect frame_{};
     CGPoint boundsOrigin_{};
     CGFloat alpha_ = 1;

@@ -60,6 +60,7 @@ void ABNewPersonViewController::loadView() {
     line->setBackgroundColor(color(178, 178, 178));
     view->addSubview(line);
     const auto cancel = makeView<SimControl>(rect(0, 20, kCancelWidth, kBarBottom - 20));
+    sim::instance<SimView>(cancel)->setAccessibilityLabel("取消"_ns);
     onTouch(cancel, NSObject(*this), "cancel"_sel, kTouchUpInside);
     view->addSubview(cancel);
     setView(objc::Wire<SimView *>::from(view->get()));

@@ -20,7 +20,7 @@ void DialerView::build(NSObject target) {
     asView(*this).addSubview(display_);
     buildKeypad(target);
     callKey_ = makeCallKey(frames.callKey, look.hasRoundCallKey);
-    deleteKey_ = makeButton(frames.deleteKey, "key_delete");
+    deleteKey_ = makeButton(frames.deleteKey, "key_delete", "删除"_ns);
     onTouch(callKey_, target, "callPressed:"_sel, kTouchUpInside);
     onTouch(deleteKey_, target, "deletePressed:"_sel, kTouchUpInside);
     asView(*this).addSubview(callKey_);
@@ -40,7 +40,7 @@ void DialerView::buildKeypad(NSObject target) {
 
 objc::Owned<UIView> DialerView::makeCallKey(CGRect frame, bool isRound) const {
     constexpr CGFloat kBarRadius = 6;
-    auto key = makeButton(frame, "key_call");
+    auto key = makeButton(frame, "key_call", "呼叫"_ns);
     key->setBackgroundColor(color(76, 217, 100));
     objc::Wire<SimView *>::from(key->get())
         ->layer()

@@ -49,6 +49,7 @@ id PHHandsetDialerNameLabelView::initWithFrame(CGRect frame) {
          {UIView(nameLabel_.get()), UIView(labelLabel_.get()), UIView(addLabel_.get())}) {
         asView(*this).addSubview(label);
     }
+    simLabel(addLabel_)->setAccessibilityTraits(kTraitButton);
     showOffer(false);
     setPressed(false);
     return *this;

@@ -43,11 +43,12 @@ objc::Owned<UIView> PhoneTabBarButton::make(CGRect frame, Tab tab) {
     return button;
 }
 
-void PhoneTabBarButton::setChosen(bool chosen) const {
+void PhoneTabBarButton::setChosen(bool chosen) {
     const std::string icon =
         std::string(kFaces[static_cast<size_t>(tab_)].icon) + (chosen ? "_selected" : "");
     icon_->setImage(picture(icon.c_str()));
     title_->setTextColor(chosen ? color(0, 122, 255) : color(146, 146, 146));
+    setAccessibilityTraits(kTraitButton | (chosen ? kTraitSelected : 0));
 }
 
 void PhoneTabBar::define() {

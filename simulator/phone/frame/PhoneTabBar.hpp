@@ -19,7 +19,7 @@ class PhoneTabBarButton : public SimControl {
     static objc::Owned<UIView> make(CGRect frame, Tab tab);
     Tab tab() const { return tab_; }
     /// In the tint colour, or in grey.
-    void setChosen(bool chosen) const;
+    void setChosen(bool chosen);
 
   private:
     Tab tab_ = Tab::Favourites;

@@ -28,7 +28,7 @@ objc::Owned<UIView> makeKey(CGRect frame, bool isRound, UIColor background,
                             const InCallFace &face) {
     constexpr CGFloat kBarRadius = 8;
     constexpr CGFloat kTitleGap = 8;
-    auto key = makeButton(frame, face.icon);
+    auto key = makeButton(frame, face.icon, sim::string(face.title));
     auto *const button = sim::instance<SimButton>(key);
     key->setBackgroundColor(background);
     button->layer()->setCornerRadius(isRound ? frame.size.height / 2 : kBarRadius);

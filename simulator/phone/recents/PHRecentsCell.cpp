@@ -62,7 +62,7 @@ id PHRecentsCell::initWithStyle(NSInteger style, NSString reuseIdentifier) {
     callerLabelLabel_->setTextColor(grey);
     callerDateLabel_->setFont(UIFont::systemFontOfSize(14));
     callerDateLabel_->setTextColor(grey);
-    infoButton_ = makeButton({}, "recents_info");
+    infoButton_ = makeButton({}, "recents_info", "更多信息"_ns);
     outgoingGlyph_ = makePicture("recents_outgoing", {10, 8});
     const std::array<UIView, 5> parts = {callerNameLabel_.get(), callerLabelLabel_.get(),
                                          callerDateLabel_.get(), infoButton_.get(),

@@ -15,6 +15,7 @@ void UIDateLabel::define() {
                  objc::ClassBuilder<Self>("UIDateLabel", "UILabel")
                      .method("timeDesignator"_sel, member<&Self::timeDesignator>)
                      .method("setTimeDesignator:"_sel, member<&Self::setTimeDesignator>)
+                     .method("accessibilityLabel"_sel, member<&Self::shownText>)
                      .method("sizeThatFits:"_sel, member<&Self::sizeThatFits>)
                      .method("intrinsicContentSize"_sel, member<&Self::intrinsicContentSize>)
                      .method("drawTextInRect:"_sel, member<&Self::drawTextInRect>)
