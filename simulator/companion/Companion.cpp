@@ -5,10 +5,12 @@
 #include <fstream>
 #include <memory>
 #include <ranges>
+#include <system_error>
 #include <utility>
 
 #include <dlfcn.h>
 
+#include "companion/numbers/Numbers.hpp"
 #include "uikit/drawing/Picture.hpp"
 
 namespace companion {
@@ -105,7 +107,22 @@ std::size_t open(const Settings &settings) {
     return world.entries();
 }
 
+void learn(std::string_view json) {
+    const World piece = World::readPiece(json, store().frame());
+    for (const std::int32_t partner : store().learn(piece)) {
+        const std::filesystem::path logo = logoFile(partner);
+        std::error_code none;  // it was not there
+        std::filesystem::remove(logo, none);
+        std::filesystem::remove(sim::Picture::doubleScale(logo), none);
+    }
+}
+
 Store &store() { return *currentRun().store; }
+
+std::string regionOf(std::string_view text) {
+    const auto told = store().region(pureNumber(text));
+    return told ? *told : areaName(text);
+}
 
 Journal &journal() { return currentRun().journal; }
 

@@ -52,8 +52,17 @@ struct Journal {
 /// knows no world and keeps nothing.
 std::size_t open(const Settings &settings);
 
+/// Changes what is known in the run by a piece of a world (see docs/world.md): whatever it says of
+/// the numbers that it names takes the place of all that was known of them, stored cloud answers
+/// and downloaded logos included. Throws WorldError or StoreError, as above; nothing is changed
+/// then. Nobody is told.
+void learn(std::string_view json);
+
 /// The store of the run.
 Store &store();
+
+/// Where the number in a text comes from: what the world says of it, or else what areaName() does.
+std::string regionOf(std::string_view text);
 
 /// What was asked in the run; may be cleared.
 Journal &journal();

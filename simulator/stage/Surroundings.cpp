@@ -119,6 +119,12 @@ void announceNewData() {
                                              "msgSystemProcessReloadAllNum"_ns, NSDictionary());
 }
 
+void learn(std::string_view piece) {
+    companion::learn(piece);
+    fillContactBook();
+    announceNewData();
+}
+
 void prepareProcess(const Settings &settings) {
     prepareDataFolder(dataFolder(settings));
     if (!settings.verbose) {

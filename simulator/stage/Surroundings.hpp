@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 namespace stage {
 
@@ -17,6 +18,10 @@ void openWorld(const Settings &settings);
 
 /// The companion tells whoever listens that what it knows of numbers has changed.
 void announceNewData();
+
+/// The companion learns a piece of a world (see docs/world.md) and tells whoever listens. Throws
+/// WorldError with one line; nothing has changed then.
+void learn(std::string_view piece);
 
 /// The data folder that is used when none is named.
 std::filesystem::path defaultDataFolder();

@@ -314,6 +314,99 @@ TEST_F(Companion, DownloadsALogoTellsOfItAndForgetsItInTheNextRun) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(logos_), {}), 1) << "mine alone";
 }
 
+/// All that is known of a number, in one line.
+std::string known(const std::string &number) {
+    Store &all = store();
+    std::string line = regionOf(number);
+    if (const auto identity = all.identity(number)) {
+        line += " | " + std::to_string(identity->kind) + " " + identity->label + " " +
+                std::to_string(identity->count);
+    }
+    const auto contact = all.contactWithNumber(number);
+    const auto answer = all.cloudAnswer(number);
+    line += contact ? " | contact " + contact->name : "";
+    line += all.isBlackListed(number, true) ? " | refused" : "";
+    line += all.microblog(number) ? " | blog " + all.microblog(number)->name : "";
+    line += answer ? " | cloud " + std::to_string(static_cast<int>(answer->outcome)) : "";
+    return line + " | " + std::to_string(all.history(number, 9).size()) + " calls";
+}
+
+TEST_F(Companion, LearnsWhatAPieceSaysOfItsNumbers) {
+    const struct {
+        const char *piece;
+        std::string number;
+        const char *known;
+    } cases[] = {
+        {R"("history": [{"number": "17700000061", "actionType": 3, "date": "2014-06-12T09:14:05Z"}],
+            "contacts": [{"recordId": 9, "name": "A", "numbers": [{"number": "17700000061"}]}])",
+         "17700000061", "北京 电信 | contact A | 1 calls"},
+        {R"("marks": [{"number": "+86 177 0000 0061", "label": "推销", "count": 5}])",
+         "17700000061", "北京 电信 | 7 推销 5 | 1 calls"},
+        {R"("ownMarks": [{"number": "17700000061", "label": "b"}],
+            "labels": [{"number": "17700000061", "label": "c"}],
+            "blackList": [{"number": "17700000061"}],
+            "microblogs": [{"number": "17700000061", "name": "d"}],
+            "regions": [{"number": "17700000061", "region": "上海 移动"}],
+            "cloudAnswers": [{"number": "17700000061", "never": true}])",
+         "17700000061", "上海 移动 | 3 b 0 | refused | blog d | cloud 3 | 1 calls"},
+        {R"("numbers": ["17700000061"])", "17700000061", "北京 电信 | 1 calls"},
+        {R"("regions": [{"number": "17700000061", "region": ""}])", "17700000061", " | 1 calls"},
+        {R"("brands": [{"number": "95001", "name": "e"}])", "95001", " | 6 e 0 | 0 calls"},
+        {R"("partnerNumbers": [{"number": "95001", "partner": 5012}])", "95001",
+         " | 10 一碗山食堂 5012 | 0 calls"},
+        {R"("partners": [{"id": 5012, "name": "f"}, {"id": 5013, "name": "g"}],
+            "partnerNumbers": [{"number": "95001", "partner": 5013}])",
+         "95001", " | 10 g 5013 | 0 calls"},
+        {R"("reviews": [{"number": "95001", "label": "h", "service": "s", "rating": 4}])", "95001",
+         " | 10 h 0 | 0 calls"},
+        {R"("webSearches": [{"number": "95001", "label": "i"}])", "95001", " | 12 i 0 | 0 calls"},
+        {R"("foreign": [{"number": "+1 415 555 0132", "label": "j"}])", "0014155550132",
+         "美国 | 4 j 0 | 0 calls"},
+        {R"("marks": [{"number": "13823000021", "label": "k", "count": 2}])", "075501238800",
+         "广东深圳 | contact 周砚 | 0 calls"},
+        {R"("numbers": ["0755-01238800"])", "075501238800", "广东深圳 | 0 calls"},
+        {R"("cloudAnswers": [{"number": "13000000108", "cancel": true}])", "13000000108",
+         "山东济南 联通 | cloud 2 | 0 calls"},
+        {R"("preferences": {"showNumberArea": false}, "downloadDelay": 7)", "13100000051",
+         "山西太原 联通 | 3 房产中介 0 | 0 calls"},
+    };
+    for (const auto &[piece, number, says] : cases) {
+        learn("{" + std::string(piece) + "}");
+        EXPECT_EQ(known(number), says) << piece;
+    }
+    EXPECT_EQ(store().contacts().size(), 0U) << "contacts without numbers are none";
+    EXPECT_FALSE(store().showNumberArea());
+    EXPECT_EQ(store().downloadDelay(), 7);
+    EXPECT_EQ(store().cloudDelay(), 0.02) << "was not given";
+    EXPECT_EQ(store().partner(5012)->name, "f");
+    EXPECT_TRUE(store().isBlackListed("17700000061", false)) << "the rule for 1770";
+}
+
+TEST_F(Companion, WhatItKeptOfANumberGoesWhenItLearns) {
+    store().storeIdentity(
+        {.number = "02101065012", .kind = 10, .label = "a", .source = "$$", .count = 5012});
+    std::filesystem::create_directories(logos_);
+    for (const char *const logo : {"partner_5012.png", "partner_5012@2x.png", "partner_5013.png"}) {
+        test::writeFile(logos_ / logo, "picture");
+    }
+    learn(R"({"numbers": ["021-01065012"]})");
+    EXPECT_EQ(store().identity("02101065012"), std::nullopt);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(logos_), {}), 1);
+    std::string message;
+    try {
+        learn(R"({"numbers": ["95001"], "marks": [{"number": "17700000061", "label": ""}]})");
+    } catch (const WorldError &error) {
+        message = error.what();
+    }
+    EXPECT_EQ(message, R"(know: /marks/0/label: found "", expected a text that is not empty)");
+    EXPECT_EQ(store().identity("17700000061")->label, "诈骗电话") << "nothing is learnt in part";
+    learn(R"({"cloudAnswers": [{"number": "13000000101", "never": true}]})");
+    ask("13000000101"_ns, false, *listener_);
+    settle();
+    EXPECT_THAT(listener_->heard, IsEmpty());
+    EXPECT_EQ(awaited(), 0);
+}
+
 TEST_F(Companion, MessagesReachWhoeverAskedForThem) {
     const auto post = [] {
         send<void(NSString, id)>("ZQIPCService"_cls, "postMsg:withInfo:"_sel, "msg"_ns, nullptr);

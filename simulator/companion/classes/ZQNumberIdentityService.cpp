@@ -4,7 +4,6 @@
 #include "companion/Companion.hpp"
 #include "companion/Texts.hpp"
 #include "companion/classes/Conversions.hpp"
-#include "companion/numbers/Numbers.hpp"
 #include "objc/ClassBuilder.hpp"
 
 extern "C" const id NSLocalizedDescriptionKey;
@@ -69,6 +68,9 @@ void ZQNumberIdentityService::startCloudQuery(const std::string &number, NSObjec
     query->_delegate = objc::Owned<NSObject>::share(delegate);
     query->_answer = store().cloudAnswer(number).value_or(
         CloudAnswer{.number = number, .text = R"({"hit": false})"});
+    if (query->_answer.outcome == CloudAnswer::Outcome::never) {
+        return;
+    }
     ++awaited();
     // Whoever counts the delay keeps the query, and the query its delegate, until the answer is
     // there.
@@ -98,7 +100,7 @@ NSString ZQNumberIdentityService::formattedInfo(ZQNumberIdentity *identity,
         return originalInfo;
     }
     const Identity record = identity->record();
-    const std::string region = areaName(record.number);
+    const std::string region = regionOf(record.number);
     const std::string partner = partnerName(record);
     const std::string original = utf8(originalInfo);
     return string(companion::formattedInfo(record, {.display = DisplayType{displayType},

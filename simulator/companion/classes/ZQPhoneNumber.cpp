@@ -1,6 +1,7 @@
 // All knowledge is in companion/numbers; a nil text is treated as one without digits.
 #include "companion/classes/ZQPhoneNumber.hpp"
 
+#include "companion/Companion.hpp"
 #include "companion/classes/Conversions.hpp"
 #include "companion/numbers/NumberText.hpp"
 #include "companion/numbers/Numbers.hpp"
@@ -10,11 +11,11 @@ namespace companion {
 
 namespace {
 
-NSString areaNameOfNumber(NSString number) { return string(areaName(utf8(number))); }
+NSString areaNameOfNumber(NSString number) { return string(regionOf(utf8(number))); }
 
 /// Nil when there is nothing to say.
 NSString descriptionOfNumber(NSString number) {
-    const std::string text = areaName(utf8(number));
+    const std::string text = regionOf(utf8(number));
     return text.empty() ? NSString() : string(text);
 }
 
@@ -54,7 +55,7 @@ void ZQPhoneNumber::parse() {
     const std::string text = utf8(_originNumber);
     const std::string number = pureNumber(text);
     _pureNumber = objc::Owned<NSString>::share(string(number));
-    _areaName = objc::Owned<NSString>::share(string(areaName(text)));
+    _areaName = objc::Owned<NSString>::share(string(regionOf(text)));
     _type = static_cast<std::int32_t>(numberKind(number));
 }
 

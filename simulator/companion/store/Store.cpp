@@ -22,6 +22,7 @@ constexpr const char *kDropTables = R"sql(
     DROP TABLE IF EXISTS stored_call;
     DROP TABLE IF EXISTS recent;
     DROP TABLE IF EXISTS cloud_answer;
+    DROP TABLE IF EXISTS region;
     DROP TABLE IF EXISTS statistic;
 )sql";
 
@@ -47,6 +48,7 @@ constexpr const char *kCreateTables = R"sql(
         date REAL);
     CREATE TABLE cloud_answer (number TEXT PRIMARY KEY, outcome INTEGER, delay REAL, text TEXT)
         WITHOUT ROWID;
+    CREATE TABLE region (number TEXT PRIMARY KEY, text TEXT) WITHOUT ROWID;
     CREATE TABLE statistic (name TEXT PRIMARY KEY, count INTEGER) WITHOUT ROWID;
 )sql";
 
@@ -69,7 +71,7 @@ void insertPartner(Database &database, const Partner &partner) {
 }
 
 void insertSettings(Database &database, const World &world) {
-    constexpr std::string_view kInsert = "INSERT INTO setting VALUES (?, ?)";
+    constexpr std::string_view kInsert = "INSERT OR REPLACE INTO setting VALUES (?, ?)";
     database.run(kInsert, "showNumberArea", world.showNumberArea);
     database.run(kInsert, "cloudDelay", world.cloudDelay);
     database.run(kInsert, "downloadDelay", world.downloadDelay);
@@ -100,6 +102,18 @@ void insertKnowledge(Database &database, const World &world) {
         database.run("INSERT INTO cloud_answer VALUES (?, ?, ?, ?)", answer.number,
                      static_cast<std::int32_t>(answer.outcome), answer.delay, answer.text);
     }
+    for (const NumberRegion &region : world.regions) {
+        database.run("INSERT INTO region VALUES (?, ?)", region.number, region.text);
+    }
+}
+
+void insertIdentities(Database &database, const World &world) {
+    for (const Identity &identity : world.identities) {
+        insertIdentity(database, identity);
+    }
+    for (const Partner &partner : world.partners) {
+        insertPartner(database, partner);
+    }
 }
 
 void insertCalls(Database &database, const World &world) {
@@ -113,6 +127,70 @@ void insertCalls(Database &database, const World &world) {
     for (const RecentCall &call : world.recents) {
         database.run("INSERT INTO recent VALUES (?, ?, ?, ?, ?, ?)", call.number, call.name,
                      call.label, call.incoming, call.answered, call.date);
+    }
+}
+
+/// All that the piece says anything of, or that it names.
+std::set<std::string> namedNumbers(const World &piece) {
+    std::set<std::string> numbers(piece.numbers.begin(), piece.numbers.end());
+    const auto add = [&numbers](const auto &list) {
+        for (const auto &entry : list) {
+            numbers.insert(entry.number);
+        }
+    };
+    add(piece.identities);
+    add(piece.microblogs);
+    add(piece.cloudAnswers);
+    add(piece.regions);
+    for (const Contact &contact : piece.contacts) {
+        for (const ContactNumber &number : contact.numbers) {
+            numbers.insert(pureNumber(number.number));
+        }
+    }
+    for (const BlackListRule &rule : piece.blackList) {
+        if (!rule.isPrefix) {
+            numbers.insert(rule.digits);
+        }
+    }
+    return numbers;
+}
+
+/// Adds the partners that an identity of the number refers to.
+void addPartners(Database &database, const std::string &number, std::set<std::int32_t> &into) {
+    Query row = database.query("SELECT count FROM identity WHERE number = ? AND source = ?", number,
+                               kPartnerSource);
+    while (row.next()) {
+        into.insert(row.integer(0));
+    }
+}
+
+void forgetNumber(Database &database, const std::string &number) {
+    database.run("DELETE FROM identity WHERE number = ?", number);
+    database.run("DELETE FROM microblog WHERE number = ?", number);
+    database.run("DELETE FROM cloud_answer WHERE number = ?", number);
+    database.run("DELETE FROM region WHERE number = ?", number);
+    database.run("DELETE FROM black_list WHERE digits = ? AND NOT is_prefix", number);
+    database.run("DELETE FROM contact_number WHERE pure = ?", number);
+}
+
+/// What the piece has of the same identity, apart from the numbers that it names.
+void forgetReplaced(Database &database, const World &piece) {
+    for (const Contact &contact : piece.contacts) {
+        database.run("DELETE FROM contact_number WHERE record_id = ?", contact.recordId);
+    }
+    database.execute(
+        "DELETE FROM contact WHERE record_id NOT IN (SELECT record_id FROM contact_number)");
+    for (const BlackListRule &rule : piece.blackList) {
+        database.run("DELETE FROM black_list WHERE digits = ? AND is_prefix", rule.digits);
+    }
+    for (const HistoryEntry &entry : piece.history) {
+        database.run("DELETE FROM history WHERE number = ?", entry.number);
+    }
+    for (const StoredCall &call : piece.storedCalls) {
+        database.run("DELETE FROM stored_call WHERE number = ?", call.number);
+    }
+    for (const RecentCall &call : piece.recents) {
+        database.run("DELETE FROM recent WHERE number = ?", call.number);
     }
 }
 
@@ -148,14 +226,34 @@ void Store::load(const World &world, const Progress &progress) {
         insertSettings(database_, world);
         insertKnowledge(database_, world);
         insertCalls(database_, world);
-        for (const Identity &identity : world.identities) {
-            insertIdentity(database_, identity);
+        insertIdentities(database_, world);
+        transaction.commit();
+    });
+}
+
+std::set<std::int32_t> Store::learn(const World &piece) {
+    std::set<std::int32_t> partners;
+    for (const Partner &partner : piece.partners) {
+        partners.insert(partner.id);
+    }
+    write([&] {
+        Transaction transaction(database_);
+        const std::set<std::string> numbers = namedNumbers(piece);
+        for (const std::string &number : numbers) {
+            addPartners(database_, number, partners);
+            forgetNumber(database_, number);
         }
-        for (const Partner &partner : world.partners) {
-            insertPartner(database_, partner);
+        forgetReplaced(database_, piece);
+        insertSettings(database_, piece);
+        insertKnowledge(database_, piece);
+        insertCalls(database_, piece);
+        insertIdentities(database_, piece);
+        for (const std::string &number : numbers) {
+            addPartners(database_, number, partners);
         }
         transaction.commit();
     });
+    return partners;
 }
 
 void Store::storeIdentity(Identity identity) {

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,14 @@ class Store {
 
     /// Replaces everything by the world, in one transaction: after an error the old content stands.
     void load(const World &world, const Progress &progress = {});
+
+    /// What is known beside numbers: settings and partners.
+    World frame();
+    /// Replaces what is known of the numbers that the piece names by what it says of them, and
+    /// takes over its settings, contacts and partners. A number's calls stay, unless the piece has
+    /// calls of it in the same list. Returns the partners that had or have to do with it. In one
+    /// transaction, as above.
+    std::set<std::int32_t> learn(const World &piece);
 
     bool showNumberArea();
     void setShowNumberArea(bool shown);
@@ -56,6 +65,8 @@ class Store {
     std::optional<StoredCall> storedCall(std::string_view number, double date);
     std::vector<RecentCall> recents();  ///< latest first, at the end those without a date
     std::optional<CloudAnswer> cloudAnswer(std::string_view number);
+    /// What the world says of where a number comes from; nothing where its digits decide.
+    std::optional<std::string> region(std::string_view number);
 
     /// Adds one to a usage statistic.
     void count(std::string_view statistic);

@@ -164,6 +164,23 @@ std::optional<CloudAnswer> Store::cloudAnswer(std::string_view number) {
                        .text = row.text(3)};
 }
 
+std::optional<std::string> Store::region(std::string_view number) {
+    Query row = database_.query("SELECT text FROM region WHERE number = ?", number);
+    return row.next() ? std::optional(row.text(0)) : std::nullopt;
+}
+
+World Store::frame() {
+    World frame;
+    frame.showNumberArea = showNumberArea();
+    frame.cloudDelay = cloudDelay();
+    frame.downloadDelay = downloadDelay();
+    Query row = database_.query("SELECT id, name FROM partner");
+    while (row.next()) {
+        frame.partners.push_back({.id = row.integer(0), .name = row.text(1)});
+    }
+    return frame;
+}
+
 std::int64_t Store::countOf(std::string_view statistic) {
     Query row = database_.query("SELECT count FROM statistic WHERE name = ?", statistic);
     return row.next() ? row.wide(0) : 0;

@@ -71,17 +71,26 @@ void WorldReader::readBrands(const JsonPlace &list) {
     }
 }
 
+const std::string *WorldReader::partnerName(std::int32_t id) const {
+    for (const auto *const names : {&partnerNames_, &knownPartners_}) {
+        if (const auto found = names->find(id); found != names->end()) {
+            return &found->second;
+        }
+    }
+    return nullptr;
+}
+
 void WorldReader::readPartnerNumbers(const JsonPlace &list) {
     for (const JsonPlace &entry : list.items()) {
         entry.expectObject({"number", "partner", "label", "kind"});
         const std::int32_t kind = kindOf(entry, kCloudKinds, identity_kind::kCloudStored);
         Identity identity = identityAt(entry, IdentityOrigin::partner, kind);
         identity.count = entry["partner"].integer(0);
-        const auto partner = partnerNames_.find(identity.count);
-        if (partner == partnerNames_.end()) {
+        const std::string *const partner = partnerName(identity.count);
+        if (partner == nullptr) {
             entry["partner"].fail("the id of an entry of /partners");
         }
-        identity.label = entry["label"].textOr(partner->second);
+        identity.label = entry["label"].textOr(*partner);
         identity.source = kPartnerSource;
         world_.identities.push_back(std::move(identity));
     }

@@ -164,16 +164,19 @@ class Builder final : public json::json_sax_t {
 }  // namespace
 
 json readJsonFile(const std::filesystem::path &file, const Progress &progress) {
-    const std::string text = readText(file);
+    return readJsonText(readText(file), file.string(), progress);
+}
+
+json readJsonText(const std::string &text, const std::string &name, const Progress &progress) {
     std::istringstream in(text);
     Builder builder(in, text.size(), progress);
     if (!json::sax_parse(in, &builder)) {
         const auto &[byte, reason] = builder.mistake();
-        throw WorldError(file.string() + ": " + position(text, byte) + ": not JSON: " + reason);
+        throw WorldError(name + ": " + position(text, byte) + ": not JSON: " + reason);
     }
     if (const auto &repeated = builder.repeated()) {
-        throw WorldError(file.string() + ": " + lineOf(text, repeated->end) + ", " +
-                         repeated->place + ": found the key " + repeated->key +
+        throw WorldError(name + ": " + lineOf(text, repeated->end) + ", " + repeated->place +
+                         ": found the key " + repeated->key +
                          " twice in one object, expected it once");
     }
     return builder.document();

@@ -1,7 +1,8 @@
-// Reading a JSON file whole, with errors that say the line.
+// Reading JSON whole, with errors that say the line.
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include <nlohmann/json_fwd.hpp>
 
@@ -13,5 +14,9 @@ namespace companion {
 /// is no JSON (with line and column) or gives one key twice in the same object (with line and
 /// place).
 nlohmann::json readJsonFile(const std::filesystem::path &file, const Progress &progress = {});
+
+/// The same for a text; messages call it by that name.
+nlohmann::json readJsonText(const std::string &text, const std::string &name,
+                            const Progress &progress = {});
 
 }  // namespace companion

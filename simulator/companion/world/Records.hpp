@@ -72,6 +72,12 @@ struct RecentCall {
     bool operator==(const RecentCall &) const = default;
 };
 
+/// What is to be said of where a number comes from, in place of what its digits tell.
+struct NumberRegion {
+    std::string number{};  ///< pure number
+    std::string text{};    ///< region and operator; may be empty
+};
+
 /// A picture that a world names.
 struct PictureUse {
     std::string place{};  ///< in the world's file: "/contacts/0/avatar"
@@ -80,7 +86,7 @@ struct PictureUse {
 
 /// What the cloud says when it is asked about a number.
 struct CloudAnswer {
-    enum class Outcome : std::int32_t { answer = 0, error = 1, cancel = 2 };
+    enum class Outcome : std::int32_t { answer = 0, error = 1, cancel = 2, never = 3 };
     std::string number{};  ///< pure number
     Outcome outcome = Outcome::answer;
     std::optional<double> delay{};  ///< seconds; without one the world's delay holds

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <stdexcept>
+#include <string_view>
 #include <vector>
 
 #include "companion/world/Identity.hpp"
@@ -39,11 +40,17 @@ struct World {
     std::vector<StoredCall> storedCalls;
     std::vector<RecentCall> recents;
     std::vector<CloudAnswer> cloudAnswers;
+    std::vector<NumberRegion> regions;
+    std::vector<std::string> numbers;  ///< named without anything being said of them
     std::vector<PictureUse> pictures;  ///< all that the above name
 
     /// Reads a JSON file in the format of docs/world.md. Nothing is read in part: a file with any
     /// mistake throws WorldError.
     static World read(const std::filesystem::path &file, const Progress &progress = {});
+
+    /// Reads a piece of one, in the same format, for a companion that knows `known` already: its
+    /// settings hold where the piece has none, and its partners need not be repeated.
+    static World readPiece(std::string_view json, const World &known);
 
     /// Of all the lists above.
     std::size_t entries() const;

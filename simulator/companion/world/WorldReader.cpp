@@ -51,26 +51,46 @@ World World::read(const std::filesystem::path &file, const Progress &progress) {
     return WorldReader(within(progress, kParsed, 1)).read(JsonPlace(document, name));
 }
 
+World World::readPiece(std::string_view json, const World &known) {
+    const std::string name = "know";
+    const nlohmann::json document = readJsonText(std::string(json), name);
+    return WorldReader(known).read(JsonPlace(document, name));
+}
+
 std::size_t World::entries() const {
     return contacts.size() + identities.size() + partners.size() + blackList.size() +
            microblogs.size() + history.size() + storedCalls.size() + recents.size() +
-           cloudAnswers.size();
+           cloudAnswers.size() + regions.size();
 }
 
-World WorldReader::read(const JsonPlace &root) {
-    root.expectObject({"about",          "preferences", "cloudDelay", "downloadDelay",
-                       "contacts",       "ownMarks",    "brands",     "partners",
-                       "partnerNumbers", "reviews",     "marks",      "webSearches",
-                       "labels",         "foreign",     "blackList",  "microblogs",
-                       "history",        "storedCalls", "recents",    "cloudAnswers"});
+WorldReader::WorldReader(const World &known) {
+    world_.showNumberArea = known.showNumberArea;
+    world_.cloudDelay = known.cloudDelay;
+    world_.downloadDelay = known.downloadDelay;
+    for (const Partner &partner : known.partners) {
+        knownPartners_.emplace(partner.id, partner.name);
+    }
+}
+
+void WorldReader::readSettings(const JsonPlace &root) {
     root["about"].textOr("");
-    entries_ = root.entries();
     if (root.has("preferences")) {
         root["preferences"].expectObject({"showNumberArea"});
-        world_.showNumberArea = root["preferences"]["showNumberArea"].booleanOr(true);
+        world_.showNumberArea =
+            root["preferences"]["showNumberArea"].booleanOr(world_.showNumberArea);
     }
     world_.cloudDelay = root["cloudDelay"].realOr(0, kLongestDelay, world_.cloudDelay);
     world_.downloadDelay = root["downloadDelay"].realOr(0, kLongestDelay, world_.downloadDelay);
+}
+
+World WorldReader::read(const JsonPlace &root) {
+    root.expectObject({"about",      "preferences", "cloudDelay",  "downloadDelay",  "contacts",
+                       "ownMarks",   "brands",      "partners",    "partnerNumbers", "reviews",
+                       "marks",      "webSearches", "labels",      "foreign",        "blackList",
+                       "microblogs", "history",     "storedCalls", "recents",        "cloudAnswers",
+                       "regions",    "numbers"});
+    entries_ = root.entries();
+    readSettings(root);
     readContacts(root["contacts"]);
     readPartners(root["partners"]);
     readOwnMarks(root["ownMarks"]);
@@ -85,6 +105,10 @@ World WorldReader::read(const JsonPlace &root) {
     readMicroblogs(root["microblogs"]);
     readCalls(root);
     readCloudAnswers(root["cloudAnswers"]);
+    readRegions(root["regions"]);
+    for (const JsonPlace &number : root["numbers"].items()) {
+        world_.numbers.push_back(number.number());
+    }
     return std::move(world_);
 }
 
@@ -209,7 +233,7 @@ void WorldReader::readCalls(const JsonPlace &root) {
 void WorldReader::readCloudAnswers(const JsonPlace &list) {
     std::set<std::string> numbers;
     for (const JsonPlace &entry : list.items()) {
-        entry.expectObject({"number", "delay", "answer", "error", "cancel"});
+        entry.expectObject({"number", "delay", "answer", "error", "cancel", "never"});
         CloudAnswer answer;
         answer.number = entry["number"].number();
         if (!numbers.insert(answer.number).second) {
@@ -219,9 +243,12 @@ void WorldReader::readCloudAnswers(const JsonPlace &list) {
             answer.delay = entry["delay"].real(0, kLongestDelay);
         }
         const bool cancel = entry["cancel"].booleanOr(false);
-        const int outcomes = int{entry.has("answer")} + int{entry.has("error")} + int{cancel};
+        const bool never = entry["never"].booleanOr(false);
+        const int outcomes =
+            int{entry.has("answer")} + int{entry.has("error")} + int{cancel} + int{never};
         if (outcomes != 1) {
-            entry.fail("one of answer, error and cancel (true)", std::to_string(outcomes));
+            entry.fail("one of answer, error, cancel (true) and never (true)",
+                       std::to_string(outcomes));
         }
         if (entry.has("answer")) {
             checkCloudAnswer(entry["answer"]);
@@ -231,9 +258,21 @@ void WorldReader::readCloudAnswers(const JsonPlace &list) {
             answer.outcome = CloudAnswer::Outcome::error;
             answer.text = entry["error"].nonEmptyText();
         } else {
-            answer.outcome = CloudAnswer::Outcome::cancel;
+            answer.outcome = cancel ? CloudAnswer::Outcome::cancel : CloudAnswer::Outcome::never;
         }
         world_.cloudAnswers.push_back(std::move(answer));
+    }
+}
+
+void WorldReader::readRegions(const JsonPlace &list) {
+    std::set<std::string> numbers;
+    for (const JsonPlace &entry : list.items()) {
+        entry.expectObject({"number", "region"});
+        NumberRegion region{entry["number"].number(), entry["region"].text()};
+        if (!numbers.insert(region.number).second) {
+            entry["number"].fail("a number that has no other region");
+        }
+        world_.regions.push_back(std::move(region));
     }
 }
 
