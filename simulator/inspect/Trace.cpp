@@ -5,6 +5,8 @@
 #include <mutex>
 #include <utility>
 
+#include <unistd.h>
+
 namespace inspect {
 namespace {
 
@@ -25,18 +27,19 @@ Record &record() {
 /// Whether there is room for one more.
 bool begin() { return record().begun.fetch_add(1, std::memory_order_relaxed) < kMost; }
 
-thread_local Frame *t_top = nullptr;
+thread_local Frame *g_top = nullptr;
 
+/// Threads are counted as they first run something that is recorded.
 std::string threadName() {
-    static std::atomic<int> g_threads = 0;
-    thread_local const int t_number = ++g_threads;
-    return t_number == 1 ? "main" : "thread " + std::to_string(t_number);
+    static std::atomic<int> g_others = 1;
+    thread_local const int g_number = gettid() == getpid() ? 1 : ++g_others;
+    return g_number == 1 ? "main" : "thread " + std::to_string(g_number);
 }
 
 }  // namespace
 
 Frame::Frame(Runner runner, const std::string &name)
-    : outer_(std::exchange(t_top, this)),
+    : outer_(std::exchange(g_top, this)),
       runner_(runner),
       name_(name),
       recorded_((runner == Runner::AddOn || (runner == Runner::Companion && outer_ != nullptr &&
@@ -52,7 +55,7 @@ Frame::Frame(Runner runner, const std::string &name)
 }
 
 Frame::~Frame() {
-    t_top = outer_;
+    g_top = outer_;
     if (recorded_) {
         happening_.micros =
             std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - begun_).count();
@@ -61,19 +64,11 @@ Frame::~Frame() {
 }
 
 const std::string *runningAddOnMethod() {
-    const Frame *frame = t_top;
+    const Frame *frame = g_top;
     while (frame != nullptr && frame->runner_ == Runner::Companion) {
         frame = frame->outer_;
     }
     return frame != nullptr && frame->runner_ == Runner::AddOn ? &frame->name_ : nullptr;
-}
-
-bool isAddOnAtWork() {
-    const Frame *frame = t_top;
-    while (frame != nullptr && frame->runner_ != Runner::AddOn) {
-        frame = frame->outer_;
-    }
-    return frame != nullptr;
 }
 
 void note(Happening happening) {
@@ -82,7 +77,7 @@ void note(Happening happening) {
     if (isOver && !begin()) {
         return;
     }
-    Frame *frame = t_top;
+    Frame *frame = g_top;
     while (frame != nullptr && !frame->recorded_) {
         frame = frame->outer_;
     }

@@ -31,7 +31,6 @@ class Frame {
 
   private:
     friend const std::string *runningAddOnMethod();
-    friend bool isAddOnAtWork();
     friend void note(Happening happening);
     using Clock = std::chrono::steady_clock;
 
@@ -46,9 +45,6 @@ class Frame {
 /// The add-on's method whose code runs on this thread, be it in a call to the companion; null while
 /// the telephone's own code runs.
 const std::string *runningAddOnMethod();
-
-/// Whether any method of the add-on's is under way on this thread.
-bool isAddOnAtWork();
 
 /// Records something that is over at once, within what runs on this thread.
 void note(Happening happening);

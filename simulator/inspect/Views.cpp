@@ -99,8 +99,8 @@ class Reader {
 
   private:
     struct Text {
-        CGPoint at;
-        std::string text;
+        CGPoint at{};
+        std::string text{};
     };
 
     static Surroundings inside(const SimView &view, const Surroundings &around, const View &known) {
@@ -122,12 +122,12 @@ class Reader {
     }
 
     static View described(SimView &view, const Surroundings &around) {
-        View result{.id = view.viewId(),
-                    .className = class_getName(object_getClass(view)),
+        View result{.className = class_getName(object_getClass(view)),
                     .tag = view.tag(),
                     .frame = view.frame(),
-                    .hidden = view.isHidden(),
-                    .alpha = view.alpha()};
+                    .alpha = view.alpha(),
+                    .id = view.viewId(),
+                    .hidden = view.isHidden()};
         result.place = {
             {around.origin.x + result.frame.origin.x, around.origin.y + result.frame.origin.y},
             result.frame.size};

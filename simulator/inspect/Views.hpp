@@ -25,28 +25,28 @@ struct Run {
 
 /// Texts are UTF-8, and empty where the view has none of that kind.
 struct View {
-    std::uint32_t id = 0;  ///< the same as long as the view lives
     std::string className{};
     NSInteger tag = 0;
     CGRect frame{};  ///< in the parent's coordinates
     CGRect place{};  ///< in the root's
     CGRect shown{};  ///< what is left of that by those around it
-    bool hidden = false;
     CGFloat alpha = 1;
-    bool seen = false;  ///< in a window, not hidden, not transparent, not clipped away
     std::optional<std::string> text{};
     std::vector<Run> runs{};  ///< where the text has more than one look
     std::string color{};
     std::string background{};
     std::string font{};
     std::string image{};         ///< its file's name without the ending
-    bool ofAddOn = false;        ///< made by the add-on's code
     std::string_view touched{};  ///< the add-on's method that changed it last
+    std::string name{};          ///< what a screen reader calls it; only with a role
+    std::vector<View> children{};
+    std::uint32_t id = 0;  ///< the same as long as the view lives
     Role role = Role::None;
-    std::string name{};  ///< what a screen reader calls it; only with a role
+    bool ofAddOn = false;  ///< made by the add-on's code
+    bool hidden = false;
+    bool seen = false;  ///< in a window, not hidden or transparent, not clipped away or covered
     bool disabled = false;
     bool selected = false;
-    std::vector<View> children{};
 };
 
 /// As the views are now: nothing is laid out on the way.
