@@ -1,4 +1,5 @@
 // Steps of every screen: fingers, time, tabs, and looking.
+#include "companion/world/World.hpp"
 #include "phone/contact/ABContactViewController.hpp"
 #include "phone/contact/ABNewPersonViewController.hpp"
 #include "phone/dialer/DialerController.hpp"
@@ -58,6 +59,15 @@ void reload(Session &session) {
     announceNewData();
 }
 
+void know(Session &session, const std::string &piece) {
+    session.window().hand().cancel();
+    try {
+        learn(piece);
+    } catch (const companion::WorldError &error) {
+        throw NotPossible(error.what());
+    }
+}
+
 Hand &finger(Session &session) {
     Hand &hand = session.window().hand();
     require(hand.isDown(), "no finger is on the screen; put one there with --down X,Y");
@@ -89,6 +99,8 @@ std::vector<StepKind> anySteps() {
         {"back", "", "return from the detail to the list; closes the sheet for a new person too",
          Tabs, alone<&back>},
         {"reload", "", "the companion tells that its data has changed", Any, alone<&reload>},
+        {"know", "JSON", "the companion learns a piece of a world, in place of what it knew", Any,
+         with<&know, &anyText>},
         {"release", "", "lift the finger, which has been at rest", Any, alone<&release>},
         {"down", "X,Y", "put a finger on the screen, X,Y points from its corner", Any,
          with<&down, &point>, kMotionGoesOn},

@@ -142,11 +142,15 @@ std::vector<Command> makeCommands() {
     };
 }
 
-}  // namespace
-
-const std::vector<Command> &commands() {
-    static const std::vector<Command> all = makeCommands();
+std::vector<Command> &allCommands() {
+    static std::vector<Command> all = makeCommands();
     return all;
 }
+
+}  // namespace
+
+const std::vector<Command> &commands() { return allCommands(); }
+
+void addCommand(Command command) { allCommands().push_back(std::move(command)); }
 
 }  // namespace stage

@@ -42,4 +42,7 @@ struct Command {
 /// All of them, in the order of the help.
 const std::vector<Command> &commands();
 
+/// One more, of something that stands on the stage; before the first command line is read.
+void addCommand(Command command);
+
 }  // namespace stage
