@@ -11,6 +11,7 @@
 #include "companion/world/Date.hpp"
 #include "stage/CsvReader.hpp"
 #include "stage/Errors.hpp"
+#include "stage/Interruption.hpp"
 #include "stage/ProgressBar.hpp"
 #include "stage/UserFile.hpp"
 #include "stage/Values.hpp"
@@ -140,6 +141,7 @@ void readRecords(std::istream &in, ProgressBar &progress, CallsByDate &calls, Mi
         lost.noteIn(call, record->line);
         const auto date = call.date;
         calls.emplace(date, std::move(call));
+        Interruption::check();
         progress.show(static_cast<uintmax_t>(std::max<std::streamoff>(in.tellg(), 0)));
     }
 }

@@ -8,6 +8,7 @@
 #include <exception>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <vector>
 
 #include <fcntl.h>
@@ -28,7 +29,7 @@ void writeAll(int file, const std::string &text) {
     for (size_t done = 0; done < text.size();) {
         const ssize_t written = write(file, text.data() + done, text.size() - done);
         if (written < 0 && errno != EINTR) {
-            return;  // nobody reads any more
+            _exit(kThrew);  // nobody reads any more
         }
         done += written > 0 ? static_cast<size_t>(written) : 0;
     }
@@ -36,7 +37,6 @@ void writeAll(int file, const std::string &text) {
 
 [[noreturn]] void runChild(const ChildProcess::Work &work, int out) {
     int code = 0;
-    Interruption::leaveToTheSystem();
     try {
         work([out](const std::string &text) { writeAll(out, text); });
     } catch (const std::exception &error) {
@@ -54,6 +54,7 @@ ChildProcess::ChildProcess(const Work &work) {
     if (pipe(ends) != 0) {
         throw Failure(std::string("no pipe for a child process: ") + std::strerror(errno));
     }
+    std::optional<SignalsHeldBack> heldBack(std::in_place);  // none is to get lost in between
     child_ = fork();
     if (child_ < 0) {
         const std::string reason = std::strerror(errno);
@@ -63,6 +64,8 @@ ChildProcess::ChildProcess(const Work &work) {
     }
     if (child_ == 0) {
         close(ends[0]);
+        Interruption::leaveToTheSystem();
+        heldBack.reset();
         runChild(work, ends[1]);
     }
     close(ends[1]);
@@ -117,9 +120,7 @@ std::vector<std::string> runEach(std::span<const ChildProcess::Work> works, size
             return pollfd{entry.second.output(), POLLIN, 0};
         });
         poll(outputs.data(), outputs.size(), -1);
-        if (Interruption::came()) {
-            throw Failure("interrupted");
-        }
+        Interruption::check();
         auto output = outputs.cbegin();
         for (auto entry = running.begin(); entry != running.end(); ++output) {
             auto &[index, child] = *entry;

@@ -41,8 +41,8 @@ class ChildProcess {
 };
 
 /// Does each work in a process of its own, `atOnce` of them at a time, and returns what each said;
-/// `heard` gets it in parts while they are at it. Throws Failure when one fails or when the user
-/// interrupts; the others are ended then.
+/// `heard` gets it in parts while they are at it. Throws Failure when one fails, and Interrupted;
+/// the others are ended then.
 std::vector<std::string> runEach(std::span<const ChildProcess::Work> works, size_t atOnce,
                                  const std::function<void(const std::string &)> &heard);
 

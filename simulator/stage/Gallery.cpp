@@ -11,12 +11,10 @@
 #include <thread>
 #include <vector>
 
-#include <unistd.h>
-
 #include "stage/ChildProcess.hpp"
 #include "stage/Errors.hpp"
 #include "stage/GalleryPage.hpp"
-#include "stage/Interruption.hpp"
+#include "stage/OwnFolder.hpp"
 #include "stage/ProgressBar.hpp"
 #include "stage/Surroundings.hpp"
 #include "uikit/drawing/Canvas.hpp"
@@ -119,8 +117,6 @@ Settings sideOf(const Settings &settings, const Model &model, bool withAddOn) {
     side.withAddOn = withAddOn;
     side.pace = kPace;
     side.withProgress = false;  // the gallery has a bar of its own
-    // Two runs at a time cannot share a store.
-    side.data = (settings.data.empty() ? defaultDataFolder() : settings.data) / model.slug();
     return side;
 }
 
@@ -185,36 +181,6 @@ std::vector<Exhibit> exhibitsOf(const SceneGroups &groups, const Settings &witho
     return exhibits;
 }
 
-/// A folder beside `folder` that vanishes with the object, whatever is left in it.
-class StagingFolder {
-  public:
-    explicit StagingFolder(const fs::path &folder) {
-        fs::path target = fs::absolute(folder).lexically_normal();
-        if (!target.has_filename()) {  // written with a slash at the end
-            target = target.parent_path();
-        }
-        path_ = target.string() + ".unfinished-" + std::to_string(getpid());
-        std::error_code error;
-        fs::create_directories(path_ / kPictures, error);
-        fs::create_directory(path_ / kDistinct, error);
-        if (error) {
-            throw Failure(path_.string() + ": cannot be made: " + error.message() +
-                          "; choose another folder with --out");
-        }
-    }
-    StagingFolder(const StagingFolder &) = delete;
-    StagingFolder &operator=(const StagingFolder &) = delete;
-    ~StagingFolder() {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-
-    const fs::path &path() const { return path_; }
-
-  private:
-    fs::path path_;
-};
-
 void writePage(const fs::path &file, const std::string &page) {
     std::ofstream stream(file, std::ios::binary);
     stream << page;
@@ -245,8 +211,11 @@ Gallery makeGallery(const fs::path &folder, const Settings &settings, const Scen
     if (fs::exists(folder) && !fs::is_directory(folder)) {
         throw Failure(folder.string() + ": is no folder; choose another with --out");
     }
-    const Interruption interruption;
-    const StagingFolder staging(folder);
+    const OwnFolder data = ownData(settings.data);
+    const OwnFolder staging = OwnFolder::passing(folder, "choose another folder with --out");
+    for (const char *const part : {kPictures, kDistinct}) {
+        fs::create_directory(staging.path() / part);
+    }
     const std::vector<Model> models = allModels();
     std::vector<ChildProcess::Work> works;
     uintmax_t total = 0;
@@ -255,6 +224,7 @@ Gallery makeGallery(const fs::path &folder, const Settings &settings, const Scen
         works.emplace_back([&](const Say &say) {
             for (const bool withAddOn : {false, true}) {
                 Settings side = sideOf(settings, model, withAddOn);
+                side.data = data.path() / model.slug();  // they cannot share a store
                 if (&model != models.data() || !withAddOn) {
                     side.warn = {};  // one warns for all
                 }

@@ -7,6 +7,7 @@
 
 #include "stage/Commands.hpp"
 #include "stage/Errors.hpp"
+#include "stage/Interruption.hpp"
 #include "uikit/drawing/Canvas.hpp"
 #include "uikit/drawing/Utf16.hpp"
 
@@ -37,6 +38,7 @@ void warnOfBoxes(std::ostream &err) {
 int run(std::span<const std::string> words, std::ostream &out, std::ostream &err) {
     constexpr int kFailed = 1;
     constexpr int kWrongUsage = 2;
+    const Interruption interruption;
     try {
         Request request = readRequest(words);
         if (request.command == nullptr) {
@@ -49,6 +51,7 @@ int run(std::span<const std::string> words, std::ostream &out, std::ostream &err
             request.command->run(request, out);
         }
         warnOfBoxes(err);
+        Interruption::check();  // a pipe that nobody reads from is no full disk
         if (!out.flush()) {
             throw Failure("the output cannot be written; is the disk full?");
         }
@@ -56,6 +59,8 @@ int run(std::span<const std::string> words, std::ostream &out, std::ostream &err
     } catch (const UsageError &error) {
         err << error.what() << '\n';
         return kWrongUsage;
+    } catch (const Interrupted &) {
+        out.flush();  // of what was done
     } catch (const std::exception &error) {
         err << kProgram << ": " << error.what() << '\n';
     } catch (...) {

@@ -9,6 +9,7 @@
 #include "stage/CallsFile.hpp"
 #include "stage/Caption.hpp"
 #include "stage/DelayedMessages.hpp"
+#include "stage/Interruption.hpp"
 #include "stage/RecentCallObjects.hpp"
 #include "stage/StepKind.hpp"
 #include "stage/Surroundings.hpp"
@@ -52,11 +53,12 @@ void printOpened(std::ostream &out, size_t known) {
 
 }  // namespace
 
-Session::Session(const Settings &settings) : settings_(settings) {
+Session::Session(const Settings &settings) : data_(ownData(settings.data)), settings_(settings) {
+    settings_.data = data_.path();
     if (!settings.calls.empty()) {
         calls_ = readCallsFile(settings.calls, settings.warn, settings.withProgress);
     }
-    prepareProcess(settings);
+    prepareProcess(settings_);
     window_ = std::make_unique<PhoneWindow>(settings.model.screenSize(),
                                             [this] { return recentCallObjects(recentCalls()); });
     openDialer();
@@ -94,6 +96,7 @@ void Session::requireShown(ScreenKind screen) const {
 }
 
 void Session::perform(const Step &step, std::ostream &out) {
+    Interruption::check();
     const objc::AutoreleasePool pool;
     const size_t opened = companion::journal().openedUrls.size();
     try {

@@ -9,6 +9,7 @@
 
 #include "companion/world/Records.hpp"
 #include "objc/Owned.hpp"
+#include "stage/OwnFolder.hpp"
 #include "stage/PhoneWindow.hpp"
 #include "stage/Screen.hpp"
 #include "stage/Settings.hpp"
@@ -62,6 +63,7 @@ class Session {
     void requireShown(ScreenKind screen) const;
     std::vector<companion::RecentCall> recentCalls() const;
 
+    OwnFolder data_;
     Settings settings_;
     std::vector<companion::RecentCall> calls_;  // of the user's own file
     objc::AutoreleasePool pool_;

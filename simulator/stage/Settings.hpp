@@ -13,7 +13,7 @@ struct Settings {
     Model model{};
     bool withAddOn = true;
     std::filesystem::path world{};  // empty: the sample world
-    std::filesystem::path data{};   // empty: demo/data of the build
+    std::filesystem::path data{};   // empty: a folder that goes with the session
     bool fixedMeasurer = false;     // text measured by a rule instead of by fonts, for tests
     std::string withoutClass{};     // a class of the Phone application that is to be missing
     bool verbose = false;           // skipped hooks and the system log go to stderr

@@ -13,6 +13,7 @@
 #include "phone/dialer/ContactBook.hpp"
 #include "stage/DelayedMessages.hpp"
 #include "stage/Errors.hpp"
+#include "stage/Interruption.hpp"
 #include "stage/MainBundle.hpp"
 #include "stage/ProgressBar.hpp"
 #include "stage/Session.hpp"
@@ -45,10 +46,6 @@ void prepareDataFolder(const fs::path &folder) {
     }
     setenv("HOME", home.c_str(), 1);
     setenv("GNUSTEP_USER_ROOT", (home / "GNUstep").c_str(), 1);
-}
-
-fs::path dataFolder(const Settings &settings) {
-    return settings.data.empty() ? defaultDataFolder() : settings.data;
 }
 
 fs::path pictureFile(const std::string &name) {
@@ -85,7 +82,7 @@ void fillContactBook() {
 }
 
 size_t openWith(const Settings &settings, const companion::Progress &progress) {
-    const size_t entries = companion::open({settings.world, dataFolder(settings), {}, progress});
+    const size_t entries = companion::open({settings.world, settings.data, {}, progress});
     fillContactBook();
     return entries;
 }
@@ -95,8 +92,10 @@ size_t openWorldVisibly(const Settings &settings) {
     constexpr uintmax_t kTotal = 100;
     ProgressBar bar("reading " + settings.world.filename().string(),
                     settings.world.empty() || !settings.withProgress ? 0 : kTotal);
-    return openWith(settings,
-                    [&bar](double part) { bar.show(static_cast<uintmax_t>(part * kTotal)); });
+    return openWith(settings, [&bar](double part) {
+        Interruption::check();
+        bar.show(static_cast<uintmax_t>(part * kTotal));
+    });
 }
 
 void loadAddOn() {
@@ -109,8 +108,6 @@ void loadAddOn() {
 }
 
 }  // namespace
-
-fs::path defaultDataFolder() { return phone::installFolder() / "demo" / "data"; }
 
 void openWorld(const Settings &settings) { openWith(settings, {}); }
 
@@ -126,9 +123,9 @@ void learn(std::string_view piece) {
 }
 
 void prepareProcess(const Settings &settings) {
-    prepareDataFolder(dataFolder(settings));
+    prepareDataFolder(settings.data);
     if (!settings.verbose) {
-        sendLogTo(dataFolder(settings) / "system.log");
+        sendLogTo(settings.data / "system.log");
     }
     sim::Device::setCurrent({std::string(settings.model.ios), settings.model.screenSize(), 2});
     if (sim::Device::current().isAtLeast(8, 0)) {

@@ -1,15 +1,15 @@
 // Everything that a session needs around it before the first view is made.
 #pragma once
 
-#include <filesystem>
 #include <string_view>
 
 namespace stage {
 
 struct Settings;
 
-/// Sets the process up for a session: its data folder, the device, the measurer, the main bundle,
-/// the companion, the contacts, and last the add-on. Throws as Session does.
+/// Sets the process up for a session: its data folder, which is named in the settings, the device,
+/// the measurer, the main bundle, the companion, the contacts, and last the add-on. Throws as
+/// Session does.
 void prepareProcess(const Settings &settings);
 
 /// Opens the companion with the settings' world, as it is before anything has happened in it, and
@@ -22,8 +22,5 @@ void announceNewData();
 /// The companion learns a piece of a world (see docs/world.md) and tells whoever listens. Throws
 /// WorldError with one line; nothing has changed then.
 void learn(std::string_view piece);
-
-/// The data folder that is used when none is named.
-std::filesystem::path defaultDataFolder();
 
 }  // namespace stage

@@ -7,11 +7,14 @@
 #include "objc/Owned.hpp"
 #include "platform/Foundation.hpp"
 #include "stage/DelayedMessages.hpp"
+#include "stage/Interruption.hpp"
 
 extern "C" const id NSDefaultRunLoopMode;
 
 namespace stage {
 namespace {
+
+constexpr double kLongestTurn = 0.2;  // real seconds
 
 NSObject dateIn(double realSeconds) {
     return objc::send<NSObject(double)>("NSDate"_cls, "dateWithTimeIntervalSinceNow:"_sel,
@@ -38,7 +41,9 @@ void letTimePass(std::chrono::milliseconds time, const std::function<bool()> &af
         const objc::AutoreleasePool pool;
         const auto stop = std::min(end, delayed.next().value_or(end));
         const std::chrono::duration<double> left = stop - clock.now();
-        turn(dateIn(left.count() * clock.pace()));
+        // Foundation takes up a wait again that a signal has broken off.
+        turn(dateIn(std::min(left.count() * clock.pace(), kLongestTurn)));
+        Interruption::check();
         delayed.sendDue(clock.now());
         if (afterTurn()) {
             clock.letPass({});

@@ -1,9 +1,14 @@
 // Command lines as a whole, and the files that they read.
+#include <iostream>
+#include <thread>
+
 #include "StageRun.hpp"
 #include "companion/Companion.hpp"
 #include "stage/CallsFile.hpp"
+#include "stage/ChildProcess.hpp"
 #include "stage/Commands.hpp"
 #include "stage/Gallery.hpp"
+#include "stage/OwnFolder.hpp"
 
 namespace {
 
@@ -13,6 +18,9 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 using CommandRun = test::StageRun;
+using namespace std::chrono_literals;
+
+auto filesIn(const fs::path &folder) { return std::distance(fs::directory_iterator(folder), {}); }
 
 TEST_F(CommandRun, DoesTheStepsOfACommandLine) {
     const fs::path pictures[] = {folder_ / "dialer.png", folder_ / "call.png"};
@@ -123,6 +131,43 @@ TEST_F(CommandRun, FailsWithOneLineAndLeavesNothing) {
     }
 }
 
+TEST_F(CommandRun, RunsKeepOutOfEachOthersFolders) {
+    const fs::path place = folder_ / "place";
+    {
+        const auto one = stage::OwnFolder::passing(place, "");
+        fs::create_directories(folder_ / "place.unfinished-killed" / "pictures");
+        const auto other = stage::OwnFolder::passing(place / "", "");
+        EXPECT_EQ(filesIn(folder_.path()), 2) << "the killed run's is gone, not the first";
+        EXPECT_FALSE(fs::equivalent(one.path(), other.path()));
+        test::writeFile(other.path() / "left", "");
+    }
+    EXPECT_EQ(filesIn(folder_.path()), 0);
+    const stage::Session session(settings("7.1", "4"));
+    const Outcome outcome = run({"describe", "10086"});
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_THAT(outcome.err, HasSubstr("data: another run uses this data folder; wait for its"));
+}
+
+TEST_F(CommandRun, LeavesNothingWhenItIsInterrupted) {
+    setenv("TMPDIR", folder_.path().c_str(), 1);
+    const std::vector<std::string> words = {"gallery", "--out", folder_ / "gallery"};
+    for (const bool hasPictures : {false, true}) {
+        const stage::ChildProcess gallery(
+            [&](const auto &) { stage::run(words, std::cout, std::cerr); });
+        const auto isAtWork = [&] {
+            const auto begun = hasPictures ? ".png" : "unfinished-";
+            const fs::recursive_directory_iterator files(folder_.path());
+            return std::ranges::any_of(files, [&](const fs::directory_entry &entry) {
+                return entry.path().filename().string().find(begun) != std::string::npos;
+            });
+        };
+        while (!isAtWork()) {
+            std::this_thread::sleep_for(1ms);
+        }
+    }
+    EXPECT_EQ(filesIn(folder_.path()), 0);
+}
+
 TEST_F(CommandRun, LeavesOutOfAGalleryWhatAnOwnWorldHasTooLittleFor) {
     const auto scene = [](const char *name, std::vector<std::string> words) {
         return stage::Scene{name, "", "", "", stage::readRequest(words)};
@@ -140,8 +185,7 @@ TEST_F(CommandRun, LeavesOutOfAGalleryWhatAnOwnWorldHasTooLittleFor) {
     const stage::Gallery gallery = stage::makeGallery(folder_ / "own", own, groups);
     EXPECT_THAT(gallery.leftOut, testing::ElementsAre("row-2", "mark"));
     EXPECT_EQ(gallery.pictures, 8U) << "iOS 7.0 and 7.1, two screens, with and without";
-    const fs::directory_iterator files(folder_ / "own" / "pictures");
-    EXPECT_EQ(std::ranges::distance(files), 8) << "nor is half of a pair left";
+    EXPECT_EQ(filesIn(folder_ / "own" / "pictures"), 8) << "nor is half of a pair left";
     const auto isOneFile = [&](const char *one, const char *other) {
         const fs::path pictures = folder_ / "own" / "pictures";
         return fs::equivalent(pictures / one, pictures / other);
