@@ -1,7 +1,7 @@
-# Run by CTest (see zqdial_must_not_compile): SOURCE compiles without MUST_NOT_COMPILE, which shows
+# Run by the build (see zqdial_must_not_compile): SOURCE compiles without MUST_NOT_COMPILE, which shows
 # that nothing else is wrong with it, and is refused with a message matching EXPECT when defined.
 
-execute_process(COMMAND ${COMPILER} ${FLAGS} ${SOURCE}
+execute_process(COMMAND ${COMPILER} ${FLAGS} -MD -MF ${STAMP}.d -MT ${STAMP} ${SOURCE}
     RESULT_VARIABLE result ERROR_VARIABLE messages)
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "${SOURCE} must compile as it stands, but:\n${messages}")
@@ -15,3 +15,5 @@ endif()
 if(NOT messages MATCHES "${EXPECT}")
     message(FATAL_ERROR "${SOURCE} is refused, but not with '${EXPECT}':\n${messages}")
 endif()
+
+file(TOUCH "${STAMP}")

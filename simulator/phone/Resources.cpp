@@ -6,9 +6,12 @@
 namespace phone {
 
 std::filesystem::path installFolder() {
-    Dl_info info{};
-    dladdr(reinterpret_cast<const void *>(&installFolder), &info);
-    return std::filesystem::weakly_canonical(info.dli_fname).parent_path().parent_path();
+    static const std::filesystem::path folder = [] {
+        Dl_info info{};
+        dladdr(reinterpret_cast<const void *>(&installFolder), &info);
+        return std::filesystem::weakly_canonical(info.dli_fname).parent_path().parent_path();
+    }();
+    return folder;
 }
 
 std::filesystem::path pictureFolder() { return installFolder() / "share" / "phone"; }

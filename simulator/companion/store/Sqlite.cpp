@@ -7,8 +7,6 @@ namespace companion {
 
 namespace {
 
-constexpr int kPatience = 2000;  // milliseconds to wait for another process's transaction
-
 void checkCode(sqlite3 *connection, int code) {
     if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE) {
         throw SqliteError(code & 0xFF, sqlite3_errmsg(connection));
@@ -84,7 +82,6 @@ Database::Database(const std::string &file) {
                                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     connection_.reset(connection);  // SQLite hands one out for its message even when it fails
     checkCode(connection, code);
-    sqlite3_busy_timeout(connection, kPatience);
 }
 
 void Database::execute(const char *sql) {

@@ -54,8 +54,10 @@ std::string TypedNumber::formatted() const {
         return typed_;
     }
     using i18n::phonenumbers::AsYouTypeFormatter;
-    const std::unique_ptr<AsYouTypeFormatter> formatter(
+    // One for all numbers: it keeps the patterns that it has compiled.
+    static const std::unique_ptr<AsYouTypeFormatter> formatter(
         i18n::phonenumbers::PhoneNumberUtil::GetInstance()->GetAsYouTypeFormatter("CN"));
+    formatter->Clear();
     // No subscriber's number begins with 0. The formatter knows that and groups one that does, as
     // numbers for examples do, like nothing in its country: another digit stands in.
     std::string keys = typed_;
