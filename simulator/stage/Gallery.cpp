@@ -4,7 +4,6 @@
 #include "stage/Gallery.hpp"
 
 #include <algorithm>
-#include <fstream>
 #include <iterator>
 #include <span>
 #include <sstream>
@@ -26,10 +25,9 @@ namespace fs = std::filesystem;
 
 constexpr auto kPictures = "pictures";
 constexpr auto kDistinct = "distinct";  // pictures by their fingerprints
-constexpr auto kPage = "index.html";
-constexpr double kPace = 0.01;  // nobody watches
-constexpr char kDrawn = '+';    // before what a scene's screen said
-constexpr char kLeftOut = '-';  // the scene needs more than there is
+constexpr double kPace = 0.01;          // nobody watches
+constexpr char kDrawn = '+';            // before what a scene's screen said
+constexpr char kLeftOut = '-';          // the scene needs more than there is
 
 std::vector<Model> allModels() {
     std::vector<Model> models;
@@ -50,21 +48,21 @@ bool isShown(const Scene &scene, const Model &model) {
     return std::ranges::find(scene.systems, model.ios) != scene.systems.end();
 }
 
-bool isSample(const Settings &settings) { return settings.world.empty() && settings.calls.empty(); }
-
 /// Many scenes look the same on two devices, or with and without the add-on: such pictures share
-/// one file, as far as the disk allows that.
-void keep(const sim::Canvas &picture, const fs::path &folder, const std::string &name) {
-    const fs::path known = folder / kDistinct / std::to_string(picture.fingerprint());
+/// one file, as far as the disk allows that. Returns the picture's fingerprint.
+std::string keep(const sim::Canvas &picture, const fs::path &folder, const std::string &name) {
+    std::string print = std::to_string(picture.fingerprint());
+    const fs::path known = folder / kDistinct / print;
     std::error_code none;
     fs::create_hard_link(known, folder / name, none);
     if (none) {
         picture.savePng(folder / name);
         fs::create_hard_link(folder / name, known, none);
     }
+    return print;
 }
 
-/// Draws one scene; returns what the screen said, on one line.
+/// Draws one scene; returns, on one line, the picture's fingerprint and what the screen said.
 std::string drawScene(Session &session, const Scene &scene, const Settings &settings,
                       const fs::path &folder) {
     std::ostringstream printed;  // by steps; nobody reads it
@@ -75,16 +73,15 @@ std::string drawScene(Session &session, const Scene &scene, const Settings &sett
             session.perform(step, printed);  // the buttons are the add-on's
         }
     }
-    keep(session.picture(), folder, pictureName(scene, settings));
-    std::string said = session.lineText();
+    const std::string print = keep(session.picture(), folder, pictureName(scene, settings));
+    std::string said = print + ' ' + session.lineText();
     std::ranges::replace(said, '\n', ' ');
     return said;
 }
 
 using Say = std::function<void(const std::string &)>;
 
-/// Draws all scenes on one device; says a line a scene, what the screen said or that it is left
-/// out.
+/// Draws all scenes on one device; says a line a scene, how it looked or that it is left out.
 void drawScenes(const fs::path &folder, const SceneGroups &groups, const Settings &settings,
                 const Say &say) {
     Session session(settings);
@@ -121,9 +118,12 @@ Settings sideOf(const Settings &settings, const Model &model, bool withAddOn) {
 }
 
 /// Returns whether the scene was drawn.
-bool takeCaption(std::istream &lines, std::string &caption) {
+bool takeLook(std::istream &lines, Look &look) {
     const bool drawn = lines.get() == kDrawn;
-    std::getline(lines, caption);
+    std::getline(lines, look.print, drawn ? ' ' : '\n');
+    if (drawn) {
+        std::getline(lines, look.says);
+    }
     return drawn;
 }
 
@@ -156,23 +156,21 @@ std::vector<std::string> missingIn(std::span<const Exhibit> exhibits,
 /// What a device shows in all scenes that both sides drew: their lines come in the order of the
 /// scenes, those without the add-on first.
 std::vector<Exhibit> exhibitsOf(const SceneGroups &groups, const Settings &without,
-                                const Settings &with, std::istream &captions) {
+                                const Settings &with, std::istream &lines) {
     std::vector<Exhibit> exhibits;
     for (const SceneGroup &group : groups) {
         for (const Scene &scene : group.scenes) {
             if (isShown(scene, with.model)) {
                 exhibits.push_back({with.model,
                                     scene.name,
-                                    pictureName(scene, without),
-                                    pictureName(scene, with),
-                                    {},
-                                    {}});
+                                    {pictureName(scene, without)},
+                                    {pictureName(scene, with)}});
             }
         }
     }
-    for (const auto caption : {&Exhibit::captionWithout, &Exhibit::captionWith}) {
+    for (const auto look : {&Exhibit::without, &Exhibit::with}) {
         for (Exhibit &exhibit : exhibits) {
-            if (!takeCaption(captions, exhibit.*caption)) {
+            if (!takeLook(lines, exhibit.*look)) {
                 exhibit.scene.clear();
             }
         }
@@ -181,24 +179,18 @@ std::vector<Exhibit> exhibitsOf(const SceneGroups &groups, const Settings &witho
     return exhibits;
 }
 
-void writePage(const fs::path &file, const std::string &page) {
-    std::ofstream stream(file, std::ios::binary);
-    stream << page;
-    stream.close();
-    if (!stream) {
-        throw Failure(file.string() + ": cannot be written; is the disk full?");
-    }
-}
-
 /// Puts the finished files in their place, the page last.
 void moveInto(const fs::path &folder, const fs::path &staged, std::span<const Exhibit> exhibits) {
     try {
         fs::create_directories(folder / kPictures);
         for (const Exhibit &exhibit : exhibits) {
-            fs::rename(staged / exhibit.pictureWithout, folder / exhibit.pictureWithout);
-            fs::rename(staged / exhibit.pictureWith, folder / exhibit.pictureWith);
+            for (const Look *look : {&exhibit.without, &exhibit.with}) {
+                fs::rename(staged / look->picture, folder / look->picture);
+            }
         }
-        fs::rename(staged / kPage, folder / kPage);
+        for (const std::string_view file : kPageFiles) {
+            fs::rename(staged / file, folder / file);
+        }
     } catch (const fs::filesystem_error &error) {
         throw Failure(folder.string() + ": cannot be filled: " + error.code().message() +
                       "; choose another folder with --out");
@@ -249,7 +241,7 @@ Gallery makeGallery(const fs::path &folder, const Settings &settings, const Scen
                           std::back_inserter(exhibits));
         sim::Canvas::charactersWithoutGlyph().insert(std::istream_iterator<uint32_t>(lines), {});
     }
-    writePage(staging.path() / kPage, galleryPage(groups, models, exhibits, isSample(settings)));
+    writeGalleryPage(staging.path(), galleryData(groups, models, exhibits, settings));
     moveInto(folder, staging.path(), exhibits);
     return {2 * exhibits.size(), missingIn(exhibits, groups, models)};
 }

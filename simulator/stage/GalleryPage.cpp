@@ -1,125 +1,153 @@
-// Writing the gallery's page. Picking a device is done by radio buttons and a style sheet alone.
+// The data is all that is made here; how it is shown is the page's own matter.
 #include "stage/GalleryPage.hpp"
 
 #include <algorithm>
+#include <fstream>
 #include <memory>
+#include <regex>
+#include <sstream>
 
 #include <glib.h>
+#include <nlohmann/json.hpp>
+
+#include "phone/Resources.hpp"
+#include "stage/Commands.hpp"
+#include "stage/Errors.hpp"
 
 namespace stage {
 namespace {
 
-constexpr std::string_view kStyle = R"(
-body { font: 15px/1.5 system-ui, sans-serif; margin: 0 auto; max-width: 1080px; padding: 24px;
-       color: #1c1c1e; background: #f2f2f7; }
-h1 { font-weight: 600; } h2 { margin: 40px 0 0; scroll-margin-top: 16px; }
-h3 { font-size: 18px; margin: 0; } p { margin: 2px 0 12px; color: #636366; }
-nav a { margin-right: 16px; color: #007aff; text-decoration: none; }
-section { background: #fff; border-radius: 12px; padding: 20px; margin: 16px 0; }
-input { position: absolute; opacity: 0; }
-label { display: inline-block; padding: 6px 14px; margin: 0 6px 8px 0; border-radius: 16px;
-        background: #e5e5ea; cursor: pointer; }
-input:focus-visible + label { outline: 2px solid #007aff; }
-.pair { display: none; gap: 24px; flex-wrap: wrap; }
-figure { margin: 0; width: 320px; }
-img { width: 320px; height: auto; border: 1px solid #d1d1d6; border-radius: 4px; display: block; }
-figcaption { padding-top: 6px; font-size: 13px; color: #48484a; }
-)";
+namespace fs = std::filesystem;
+using nlohmann::json;
+using Owned = std::unique_ptr<char, decltype(&g_free)>;
 
-constexpr auto kOwnWorld =
-    "The titles and notes tell what the sample world has in these places; what is shown is a world "
-    "or a call history of your own. ";
+constexpr auto kPhonePage = "http://127.0.0.1:8138/";  // where "make phone" serves
 
-std::string cssName(const Model &model) {
-    std::string name = "d-" + model.slug();
-    for (char &c : name) {
-        c = c == '.' ? '-' : c;
+std::string shellQuoted(const fs::path &file) {
+    return Owned(g_shell_quote(fs::absolute(file).c_str()), g_free).get();
+}
+
+std::string inAddress(const std::string &text) {
+    return Owned(g_uri_escape_string(text.c_str(), nullptr, TRUE), g_free).get();
+}
+
+/// That draws one picture of a scene.
+std::string command(const Scene &scene, const Exhibit &exhibit, const Settings &settings,
+                    const Look &look) {
+    std::smatch parts;
+    std::string rest = scene.command;
+    if (std::regex_match(scene.command, parts, std::regex(R"(\S+ (\S+)(.*))"))) {
+        rest = parts[2];
     }
-    return name;
-}
-
-/// For each device: its button looks chosen, and its pictures are shown.
-std::string chooserStyle(std::span<const Model> models) {
-    std::string style;
-    for (const Model &model : models) {
-        style += "#" + cssName(model) + ":checked + label { background: #007aff; color: #fff; }\n";
-        style += "#" + cssName(model) + ":checked ~ section ." + cssName(model) +
-                 " { display: flex; }\n";
+    std::string line = std::string(kProgram) + " " + parts.str(1) + " --ios " +
+                       std::string(exhibit.model.ios) + " --screen " +
+                       std::string(exhibit.model.screen);
+    if (&look == &exhibit.without) {
+        line += " --without-addon";
+        rest = std::regex_replace(rest, std::regex(" --hold \\w+"), "");  // of the add-on's buttons
     }
-    return style;
-}
-
-std::string chooser(std::span<const Model> models) {
-    std::string buttons;
-    for (const Model &model : models) {
-        buttons += R"(<input type="radio" name="device" id=")" + cssName(model) + "\"" +
-                   (&model == models.data() ? " checked" : "") + "><label for=\"" + cssName(model) +
-                   "\">" + escapedHtml(model.title()) + "</label>\n";
+    if (!settings.world.empty()) {
+        line += " --world " + shellQuoted(settings.world);
     }
-    return buttons;
+    if (!settings.calls.empty()) {
+        line += " --calls " + shellQuoted(settings.calls);
+    }
+    return line + rest + " --png " + fs::path(look.picture).filename().string();
 }
 
-std::string figure(const std::string &picture, const std::string &who, const std::string &caption) {
-    const std::string said = caption.empty() ? "" : ": " + escapedHtml(caption);
-    return R"(<figure><img loading="lazy" src=")" + escapedHtml(picture) + "\" alt=\"" + who +
-           said + "\"><figcaption>" + who + said + "</figcaption></figure>\n";
-}
-
-std::string section(const Scene &scene, std::span<const Exhibit> exhibits) {
-    std::string html = "<section id=\"" + escapedHtml(scene.name) + "\">\n<h3>" +
-                       escapedHtml(scene.title) + "</h3>\n<p>" + escapedHtml(scene.note) + "</p>\n";
-    for (const Exhibit &exhibit : exhibits) {
-        if (exhibit.scene == scene.name) {
-            html += "<div class=\"pair " + cssName(exhibit.model) + "\">\n" +
-                    figure(exhibit.pictureWithout, "Without the add-on", exhibit.captionWithout) +
-                    figure(exhibit.pictureWith, "With it", exhibit.captionWith) + "</div>\n";
+/// Where the phone in the browser shows the scene; none for what it cannot show.
+std::optional<std::string> address(const Scene &scene, const Model &model,
+                                   const Settings &settings) {
+    const Opening &opening = scene.request.opening;
+    if (!isSample(settings) || opening.display) {
+        return std::nullopt;
+    }
+    std::string result = kPhonePage + std::string("#ios=") + std::string(model.ios) +
+                         "&screen=" + std::string(model.screen) + "&show=both";
+    if (opening.screen == ScreenKind::Recents) {
+        result += "&step=" + inAddress("tab recents");
+    }
+    for (const Step &step : scene.request.steps) {
+        if (!step.is("tree")) {
+            result += "&step=" + inAddress(text(step));
         }
     }
-    return html + "</section>\n";
+    return result;
 }
 
-/// Where on the page each screen begins.
-std::string contents(std::span<const SceneGroup> groups) {
-    std::string links = "<nav>";
-    for (const SceneGroup &group : groups) {
-        links +=
-            "<a href=\"#" + escapedHtml(group.name) + "\">" + escapedHtml(group.title) + "</a>";
+json lookData(const Scene &scene, const Exhibit &exhibit, const Settings &settings,
+              const Look &look) {
+    return {{"picture", look.picture},
+            {"says", look.says},
+            {"command", command(scene, exhibit, settings, look)}};
+}
+
+json sceneData(const Scene &scene, std::span<const Exhibit> exhibits, const Settings &settings) {
+    json shots;
+    for (const Exhibit &exhibit : exhibits) {
+        if (exhibit.scene == scene.name) {
+            json &shot = shots[exhibit.model.slug()];
+            shot = {{"without", lookData(scene, exhibit, settings, exhibit.without)},
+                    {"with", lookData(scene, exhibit, settings, exhibit.with)},
+                    {"isSame", exhibit.without.print == exhibit.with.print}};
+            if (const auto live = address(scene, exhibit.model, settings)) {
+                shot["address"] = *live;
+            }
+        }
     }
-    return links + "</nav>\n";
+    return {{"name", scene.name}, {"title", scene.title}, {"note", scene.note}, {"shots", shots}};
 }
 
-std::string heading(const SceneGroup &group) {
-    return "<h2 id=\"" + escapedHtml(group.name) + "\">" + escapedHtml(group.title) + "</h2>\n";
+void writeFile(const fs::path &file, const std::string &content) {
+    std::ofstream stream(file, std::ios::binary);
+    stream << content;
+    stream.close();
+    if (!stream) {
+        throw Failure(file.string() + ": cannot be written; is the disk full?");
+    }
 }
 
 }  // namespace
 
-std::string escapedHtml(std::string_view text) {
-    const std::unique_ptr<char, decltype(&g_free)> escaped(
-        g_markup_escape_text(text.data(), static_cast<gssize>(text.size())), g_free);
-    return escaped.get();
-}
+bool isSample(const Settings &settings) { return settings.world.empty() && settings.calls.empty(); }
 
-std::string galleryPage(std::span<const SceneGroup> groups, std::span<const Model> models,
-                        std::span<const Exhibit> exhibits, bool isSample) {
-    std::string html =
-        "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-        "<title>libZQDial: the gallery</title>\n<style>";
-    html += kStyle;
-    html += chooserStyle(models) + "</style>\n</head>\n<body>\n<h1>libZQDial</h1>\n" +
-            "<p>The simulated Phone application without and with the add-on. " +
-            (isSample ? "" : kOwnWorld) + "Pick a device:</p>\n" + chooser(models) +
-            contents(groups);
-    // Headings and scenes lie side by side: the style sheet reaches the scenes from the buttons.
+std::string galleryData(std::span<const SceneGroup> groups, std::span<const Model> models,
+                        std::span<const Exhibit> exhibits, const Settings &settings) {
+    json data = {
+        {"isSample", isSample(settings)}, {"devices", json::array()}, {"groups", json::array()}};
+    for (const Model &model : models) {
+        data["devices"].push_back({{"name", model.slug()}, {"title", model.title()}});
+    }
     for (const SceneGroup &group : groups) {
-        html += heading(group);
+        json scenes = json::array();
         for (const Scene &scene : group.scenes) {
             if (std::ranges::find(exhibits, scene.name, &Exhibit::scene) != exhibits.end()) {
-                html += section(scene, exhibits);
+                scenes.push_back(sceneData(scene, exhibits, settings));
             }
         }
+        data["groups"].push_back(
+            {{"name", group.name}, {"title", group.title}, {"scenes", std::move(scenes)}});
     }
-    return html + "</body>\n</html>\n";
+    return data.dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+void writeGalleryPage(const fs::path &folder, const std::string &data) {
+    constexpr std::string_view kPlace = "@DATA@";
+    for (const std::string_view name : kPageFiles) {
+        const fs::path file = phone::installFolder() / "share" / "gallery" / name;
+        std::ostringstream read;
+        read << std::ifstream(file, std::ios::binary).rdbuf();
+        std::string content = read.str();
+        if (content.empty()) {
+            throw Failure(file.string() + ": cannot be read; build the simulator anew");
+        }
+        if (const size_t place = content.find(kPlace); place != std::string::npos) {
+            // A "<" would end the script that the data lies in.
+            content.replace(place, kPlace.size(),
+                            std::regex_replace(data, std::regex("<"), "\\u003c"));
+        }
+        writeFile(folder / name, content);
+    }
 }
 
 }  // namespace stage

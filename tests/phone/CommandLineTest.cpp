@@ -1,8 +1,12 @@
 // What the command line understands, and what it says otherwise.
 #include <algorithm>
+#include <iterator>
+#include <sstream>
 
 #include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
 
+#include "companion/TemporaryFolder.hpp"
 #include "stage/Commands.hpp"
 #include "stage/Errors.hpp"
 #include "stage/GalleryPage.hpp"
@@ -137,26 +141,55 @@ TEST(ProgressBar, FillsTheTerminalOrTellsTheEndOfLongReading) {
     EXPECT_THAT(told, ElementsAre("a.csv: 100000 entries read"));
 }
 
-TEST(GalleryPage, ShowsEachDeviceOfAScene) {
+TEST(GalleryPage, HasTheDevicesOfASceneWithTheirCommands) {
+    const auto scene = [](const char *name, const char *command) {
+        std::istringstream line(command);
+        return stage::Scene{
+            name, "A & B", "<note>", command,
+            read({std::istream_iterator<std::string>(++std::istream_iterator<std::string>(line)),
+                  {}})};
+    };
     const stage::SceneGroups groups = {
         {"first",
-         "Keys & more",
-         {{"one", "A & B", "<note>", "", {}}, {"two", "None", "", "", {}}}}};
+         "Keys",
+         {scene("one", "phone-simulator recents --open 1 --hold mark"),
+          scene("none", "phone-simulator dialer")}}};
     const stage::Model models[] = {{"7.0", "4"}, {"7.1", "3.5"}};
     const std::vector<stage::Exhibit> exhibits = {
-        {models[0], "one", "p/1.png", "p/2.png", "", "a \"label\""},
-        {models[1], "one", "p/3.png", "p/4.png", "", ""},
-        {models[1], "another", "p/5.png", "p/6.png", "", ""}};
-    const std::string page = stage::galleryPage(groups, models, exhibits, false);
-    for (const char *part : {"Keys &amp; more", "href=\"#first\"", "id=\"first\"", "A &amp; B",
-                             "&lt;note&gt;", "p/1.png", "p/4.png", "With it: a &quot;label&quot;",
-                             "iOS 7.1, 3.5 inch", "of your own"}) {
-        EXPECT_THAT(page, HasSubstr(part));
-    }
-    EXPECT_THAT(page, Not(HasSubstr("p/5.png")));
-    EXPECT_THAT(page, Not(HasSubstr("id=\"two\"")));
-    EXPECT_THAT(stage::galleryPage(groups, models, exhibits, true), Not(HasSubstr("of your own")));
+        {models[0], "one", {"p/1.png", "", "7"}, {"p/2.png", "a \"label\"", "8"}},
+        {models[1], "one", {"p/3.png", "", "9"}, {"p/4.png", "", "9"}},
+        {models[1], "another", {"p/5.png", "", "9"}, {"p/6.png", "", "9"}}};
+    const auto data = [&](const stage::Settings &settings) {
+        return nlohmann::json::parse(stage::galleryData(groups, models, exhibits, settings));
+    };
+    const nlohmann::json sample = data({});
+    const nlohmann::json shots = sample["groups"][0]["scenes"][0]["shots"];
+    EXPECT_EQ(sample["groups"][0]["scenes"].size(), 1U) << "no scene without an exhibit";
+    EXPECT_EQ(sample["devices"][1]["title"], "iOS 7.1, 3.5 inch");
+    EXPECT_EQ(shots["ios7.0-4inch"]["with"]["says"], "a \"label\"");
+    EXPECT_EQ(shots["ios7.0-4inch"]["isSame"], false);
+    EXPECT_EQ(shots["ios7.1-3.5inch"]["isSame"], true);
+    EXPECT_EQ(shots["ios7.1-3.5inch"]["with"]["command"],
+              "phone-simulator recents --ios 7.1 --screen 3.5 --open 1 --hold mark --png 4.png");
+    EXPECT_EQ(shots["ios7.1-3.5inch"]["address"],
+              "http://127.0.0.1:8138/#ios=7.1&screen=3.5&show=both"
+              "&step=tab%20recents&step=open%201&step=hold%20mark");
+    const nlohmann::json own = data({.world = "/my world.json"});
+    EXPECT_EQ(own["isSample"], false);
+    const nlohmann::json shot = own["groups"][0]["scenes"][0]["shots"]["ios7.0-4inch"];
+    EXPECT_EQ(shot["without"]["command"],
+              "phone-simulator recents --ios 7.0 --screen 4 --without-addon --world "
+              "'/my world.json' --open 1 --png 1.png");
+    EXPECT_FALSE(shot.contains("address")) << "the phone has another world";
+}
+
+TEST(GalleryPage, KeepsTheDataInsideTheScriptThatHoldsIt) {
+    const test::TemporaryFolder folder;
+    stage::writeGalleryPage(folder.path(), R"({"note": "</script>"})");
+    const std::string page = test::readFile(folder / "index.html");
+    EXPECT_THAT(page, HasSubstr(R"({"note": "\u003c/script>"})"));
     EXPECT_THAT(page, Not(HasSubstr("http"))) << "nothing comes from elsewhere";
+    EXPECT_TRUE(std::filesystem::exists(folder / "gallery.js"));
 }
 
 }  // namespace
