@@ -84,6 +84,10 @@ std::size_t open(const Settings &settings) {
         World::read(settings.worldFile.empty() ? sampleWorldFile() : settings.worldFile,
                     within(settings.progress, 0, kRead));
     const Progress storing = within(settings.progress, kRead, 1);
+    try {
+        currentRun().store->keep();  // the new one may lie in the same folder
+    } catch (const StoreError &) {   // or the old one's is gone, and nobody asks for it again
+    }
     std::unique_ptr<Store> opened;
     if (settings.dataDir.empty()) {
         opened = std::make_unique<Store>();
@@ -115,6 +119,13 @@ void learn(std::string_view json) {
         std::filesystem::remove(logo, none);
         std::filesystem::remove(sim::Picture::doubleScale(logo), none);
     }
+}
+
+void startOver() {
+    Run &run = currentRun();
+    run.store->startOver();
+    forgetLogos(run.dataDir);
+    run.journal = {};
 }
 
 Store &store() { return *currentRun().store; }

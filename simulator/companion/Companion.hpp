@@ -58,6 +58,9 @@ std::size_t open(const Settings &settings);
 /// then. Nobody is told.
 void learn(std::string_view json);
 
+/// The run's world as it was opened; what was asked in the run is forgotten.
+void startOver();
+
 /// The store of the run.
 Store &store();
 

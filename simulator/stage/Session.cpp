@@ -142,7 +142,7 @@ void Session::startOver() {
     if (companion::awaited() > 0 || delayed.next()) {
         letTimePass(10s, [&] { return companion::awaited() == 0 && !delayed.next(); });
     }
-    openWorld(settings_);
+    reopenWorld();
     announceNewData();
     openDialer();
 }

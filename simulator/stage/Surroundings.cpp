@@ -66,6 +66,11 @@ void warnOfPictures(const Settings &settings) {
     }
 }
 
+phone::ContactBook &contactsAtStart() {
+    static phone::ContactBook contacts;
+    return contacts;
+}
+
 void fillContactBook() {
     phone::ContactBook::shared().clear();
     for (const companion::Contact &known : companion::store().contacts()) {
@@ -81,21 +86,19 @@ void fillContactBook() {
     }
 }
 
-size_t openWith(const Settings &settings, const companion::Progress &progress) {
-    const size_t entries = companion::open({settings.world, settings.data, {}, progress});
-    fillContactBook();
-    return entries;
-}
-
-/// As openWorld() does, which brings it back later; a bar shows how far a world of the user's is.
-size_t openWorldVisibly(const Settings &settings) {
+/// A bar shows how far a world of the user's is.
+size_t openWorld(const Settings &settings) {
     constexpr uintmax_t kTotal = 100;
     ProgressBar bar("reading " + settings.world.filename().string(),
                     settings.world.empty() || !settings.withProgress ? 0 : kTotal);
-    return openWith(settings, [&bar](double part) {
+    const auto progress = [&bar](double part) {
         Interruption::check();
         bar.show(static_cast<uintmax_t>(part * kTotal));
-    });
+    };
+    const size_t entries = companion::open({settings.world, settings.data, {}, progress});
+    fillContactBook();
+    contactsAtStart() = phone::ContactBook::shared();
+    return entries;
 }
 
 void loadAddOn() {
@@ -109,7 +112,10 @@ void loadAddOn() {
 
 }  // namespace
 
-void openWorld(const Settings &settings) { openWith(settings, {}); }
+void reopenWorld() {
+    companion::startOver();
+    phone::ContactBook::shared() = contactsAtStart();
+}
 
 void announceNewData() {
     objc::send<void(NSString, NSDictionary)>("ZQIPCService"_cls, "postMsg:withInfo:"_sel,
@@ -145,7 +151,7 @@ void prepareProcess(const Settings &settings) {
     time.setPace(settings.pace);
     time.letPass({});
     DelayedMessages::shared().forgetAll();
-    const size_t entries = openWorldVisibly(settings);
+    const size_t entries = openWorld(settings);
     tellIfLong(settings.warn, settings.world, entries);
     warnOfPictures(settings);
     if (settings.withAddOn) {

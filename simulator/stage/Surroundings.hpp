@@ -12,9 +12,9 @@ struct Settings;
 /// Session does.
 void prepareProcess(const Settings &settings);
 
-/// Opens the companion with the settings' world, as it is before anything has happened in it, and
-/// fills the telephone's own address book. Throws as Session does.
-void openWorld(const Settings &settings);
+/// Brings the world and the telephone's own address book back as they were before anything had
+/// happened. Throws as Session does.
+void reopenWorld();
 
 /// The companion tells whoever listens that what it knows of numbers has changed.
 void announceNewData();

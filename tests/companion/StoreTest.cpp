@@ -77,7 +77,7 @@ TEST_F(StoreInFolder, RefusesAPlaceThatItCannotHaveToItself) {
     }
     EXPECT_EQ(refusal(folder_.path()), "accepted");
     Database other(file_.string());
-    const Transaction transaction(other);
+    other.execute("BEGIN IMMEDIATE");
     EXPECT_THAT(refusal(folder_.path()), HasSubstr("is in use by another run"));
 }
 
@@ -87,6 +87,11 @@ TEST_F(StoreInFolder, StartsEveryRunFromItsWorld) {
         store.count("cmkCall_C");
         store.storeIdentity({.number = "13000000101", .kind = 10, .label = "装修推销"});
         EXPECT_EQ(store.countOf("cmkCall_C"), 1);
+        store.startOver();
+        EXPECT_EQ(store.countOf("cmkCall_C"), 0);
+        EXPECT_FALSE(store.identity("13000000101"));
+        EXPECT_EQ(store.identities().size(), world().identities.size());
+        store.count("cmkCall_C");
     }
     Store again(folder_.path(), world());
     EXPECT_EQ(again.countOf("cmkCall_C"), 0);

@@ -118,20 +118,20 @@ int RowWatch::tell(void *self) {
 }
 
 Transaction::Transaction(Database &database) : open_(&database) {
-    database.execute("BEGIN IMMEDIATE");
+    database.execute("SAVEPOINT change");
 }
 
 Transaction::~Transaction() {
     if (open_ != nullptr) {
         try {
-            open_->execute("ROLLBACK");
+            open_->execute("ROLLBACK TO change; RELEASE change");
         } catch (const SqliteError &) {  // SQLite rolls back by itself after some errors
         }
     }
 }
 
 void Transaction::commit() {
-    open_->execute("COMMIT");
+    open_->execute("RELEASE change");
     open_ = nullptr;
 }
 

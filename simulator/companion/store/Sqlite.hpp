@@ -116,7 +116,7 @@ class RowWatch {
     std::function<void(std::int64_t)> told_;
 };
 
-/// All or nothing: rolled back at scope end unless committed.
+/// All or nothing: rolled back at scope end unless committed. It may lie within another.
 class Transaction {
   public:
     explicit Transaction(Database &database);

@@ -52,6 +52,8 @@ constexpr const char *kCreateTables = R"sql(
     CREATE TABLE statistic (name TEXT PRIMARY KEY, count INTEGER) WITHOUT ROWID;
 )sql";
 
+constexpr const char *kStart = "SAVEPOINT start";  // all that a run adds is within it
+
 void markAsOurs(Database &database) {
     const std::string sql = "PRAGMA application_id = " + std::to_string(kStoreApplicationId) +
                             "; PRAGMA user_version = " + std::to_string(kStoreVersion);
@@ -196,10 +198,14 @@ void forgetReplaced(Database &database, const World &piece) {
 
 }  // namespace
 
-Store::Store() : file_(":memory:"), database_(file_.string()) { load(World()); }
+Store::Store() : file_(":memory:"), database_(file_.string()) {
+    database_.execute(kStart);
+    load(World());
+}
 
 Store::Store(const std::filesystem::path &dataDir, const World &world, const Progress &progress)
     : file_(storeFile(dataDir)), database_(openStoreFile(dataDir)) {
+    write([&] { database_.execute(kStart); });
     load(world, progress);
 }
 
@@ -229,6 +235,7 @@ void Store::load(const World &world, const Progress &progress) {
         insertIdentities(database_, world);
         transaction.commit();
     });
+    keep();
 }
 
 std::set<std::int32_t> Store::learn(const World &piece) {
@@ -254,6 +261,17 @@ std::set<std::int32_t> Store::learn(const World &piece) {
         transaction.commit();
     });
     return partners;
+}
+
+void Store::keep() {
+    write([&] {
+        database_.execute("RELEASE start");
+        database_.execute(kStart);
+    });
+}
+
+void Store::startOver() {
+    write([&] { database_.execute("ROLLBACK TO start"); });
 }
 
 void Store::storeIdentity(Identity identity) {

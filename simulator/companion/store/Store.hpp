@@ -35,6 +35,11 @@ class Store {
     /// transaction, as above.
     std::set<std::int32_t> learn(const World &piece);
 
+    /// What was added belongs to what startOver() leaves; the file is free for others then.
+    void keep();
+    /// Takes back what was added since the world was loaded, in a time that depends on that alone.
+    void startOver();
+
     bool showNumberArea();
     void setShowNumberArea(bool shown);
     double cloudDelay();     ///< seconds
