@@ -1,12 +1,15 @@
 # The everyday commands. Each installs the Debian packages it needs, if any are missing, and builds
 # what it works on; none needs an environment variable.
-.PHONY: help demo test build bench asan tsan clang format lint contract device device-test \
+.PHONY: help demo test build bench asan monkey tsan clang format lint contract device device-test \
 	device-pictures reproducible packages-all
 
 # The slices of the library that "make device" builds, and the host that its web search asks; empty:
 # as in src/recents/Actions.cpp.
 SLICES = armv7 arm64
 SEARCH_HOST =
+
+# Which random steps "make monkey" does.
+SEED = 1
 
 # Some tests wait for their time to pass: another one runs meanwhile.
 TESTS_AT_ONCE = $$(($$(nproc) + 1))
@@ -17,6 +20,7 @@ help:
 	@echo 'make build         build library, simulator and tests into build/'
 	@echo 'make bench         build, run the benchmarks'
 	@echo 'make asan          run the tests under the address, undefined-behaviour and leak checks'
+	@echo 'make monkey        play at random under the same checks, 100,000 steps; SEED=N other ones'
 	@echo 'make tsan          run the tests under the thread checks'
 	@echo 'make clang         build everything with clang as well'
 	@echo 'make format        format the sources'
@@ -61,6 +65,11 @@ asan tsan: packages-build
 	@cmake --preset $@ >/dev/null
 	@cmake --build --preset $@
 	@ctest --preset $@ --parallel $(TESTS_AT_ONCE)
+
+monkey: packages-build
+	@cmake --preset asan >/dev/null
+	@cmake --build --preset asan --target phone-simulator
+	@build/asan/bin/phone-simulator monkey --seed $(SEED) --events 100000 --out build/asan
 
 clang: packages-build packages-lint
 	@cmake --preset clang >/dev/null

@@ -3,8 +3,10 @@
 #include <string>
 #include <vector>
 
+#include "monkey/Monkey.hpp"
 #include "stage/Run.hpp"
 
 int main(int count, char **words) {
+    stage::addCommand(monkey::command());
     return stage::run(std::vector<std::string>(words + 1, words + count), std::cout, std::cerr);
 }

@@ -1,4 +1,6 @@
 // Options that are no steps.
+#include <algorithm>
+
 #include "stage/Commands.hpp"
 
 namespace stage {
@@ -21,13 +23,11 @@ std::vector<OptionKind> makeOptions() {
     return {
         {"ios", oneOf(kSystemVersions), "system version of the telephone",
          [](Request &request, const Given &given) {
-             Model &model = request.settings.model;
-             model = modelNamed(given.value, model.screen);
+             request.settings.model.ios = *std::ranges::find(kSystemVersions, given.value);
          }},
         {"screen", oneOf(kScreens), "inches of its screen",
          [](Request &request, const Given &given) {
-             Model &model = request.settings.model;
-             model = modelNamed(model.ios, given.value);
+             request.settings.model.screen = *std::ranges::find(kScreens, given.value);
          }},
         {"display", "view|field", "what shows the call; without it, the system's own choice",
          [](Request &request, const Given &given) {
@@ -44,13 +44,17 @@ std::vector<OptionKind> makeOptions() {
              constexpr double kSlowest = 10;
              request.settings.pace = realNumber(given, kFastest, kSlowest);
          }},
-        {"out", "FOLDER", "where to put the pictures and index.html",
+        {"out", "FOLDER", "where to put what is made: a gallery, or a fault's steps",
          [](Request &request, const Given &given) { request.out = given.value; }},
         {"world", "FILE", "what the companion knows; without it, the sample world",
          &takePath<&Settings::world>},
         {"calls", "FILE", "a call history of your own; without it, the world's recents",
          &takePath<&Settings::calls>},
         {"data", "FOLDER", "where the companion keeps its store", &takePath<&Settings::data>},
+        {"seed", "N", "which random steps; 1",
+         [](Request &request, const Given &given) { request.seed = wholeNumber(given); }},
+        {"events", "N", "how many of them; 10000",
+         [](Request &request, const Given &given) { request.events = wholeNumber(given); }},
         {"verbose", "", "print the system log, missing methods included, on stderr",
          [](Request &request, const Given &) { request.settings.verbose = true; }},
     };

@@ -21,7 +21,9 @@ struct Request {
     Settings settings{};
     Opening opening{};            // of the screen that the steps begin with
     Steps steps{};                // in their order
-    std::filesystem::path out{};  // of the gallery
+    std::filesystem::path out{};  // of the gallery, or of what the monkey finds
+    int seed = 1;                 // of the monkey
+    int events = 10000;
     std::vector<std::string> words{};
 };
 
