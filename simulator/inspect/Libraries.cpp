@@ -20,6 +20,11 @@ namespace {
 
 std::vector<const void *> g_addOns;
 
+const void *uikitLibrary() {
+    static const void *const g_library = libraryOfClass("UIView"_cls);
+    return g_library;
+}
+
 const void *phoneLibrary() {
     static const void *const g_library = libraryOfClass("PhoneTabBar"_cls);
     return g_library;
@@ -57,12 +62,14 @@ bool isAskedForByAddOn() {
     std::array<void *, 48> addresses{};
     const auto count =
         static_cast<std::size_t>(backtrace(addresses.data(), static_cast<int>(addresses.size())));
+    bool isAboveUs = false;  // this very code may lie in any library
     for (const void *const address : std::span(addresses).first(count)) {
         const void *const library = libraryOf(address);
-        if (std::ranges::find(g_addOns, library) != g_addOns.end()) {
+        isAboveUs = isAboveUs || library == uikitLibrary();
+        if (isAboveUs && std::ranges::find(g_addOns, library) != g_addOns.end()) {
             return true;
         }
-        if (library != nullptr && library == phoneLibrary()) {
+        if (isAboveUs && library == phoneLibrary()) {
             return false;
         }
     }

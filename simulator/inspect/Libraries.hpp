@@ -17,8 +17,8 @@ const void *libraryOfClass(Class cls);
 const std::vector<const void *> &addOns();
 void addAddOn(const void *library);
 
-/// Whether the add-on's code is nearer to the caller than the telephone's. UIKit, the companion and
-/// what is below them only do what others ask.
+/// Whether the add-on's code is nearer than the telephone's to what UIKit is doing just now. UIKit,
+/// the companion and what is below them only do what others ask.
 bool isAskedForByAddOn();
 
 }  // namespace inspect

@@ -6,12 +6,14 @@
 
 #include "inspect/Signature.hpp"
 #include "inspect/Trace.hpp"
+#include "inspect/ViewNotes.hpp"
 #include "inspect/Watch.hpp"
 #include "objc/ClassBuilder.hpp"
 #include "platform/Foundation.hpp"
 #include "substrate/HookLog.hpp"
 #include "substrate/MSHookMessageEx.hpp"
 #include "uikit/Foundation.hpp"
+#include "uikit/SimView.hpp"
 
 namespace {
 
@@ -125,6 +127,28 @@ TEST_F(Trace, ArgumentsAndResultsComeThroughWhole) {
     EXPECT_EQ(objc::send<std::int32_t()>(sample_, "negative"_sel), -7);
     EXPECT_TRUE(objc::send<bool(bool)>(sample_, "truth:"_sel, true));
     EXPECT_FALSE(objc::send<bool(bool)>(sample_, "truth:"_sel, false));
+}
+
+std::uint32_t idOf(id view) { return sim::instance<SimView>(view)->viewId(); }
+
+TEST_F(Trace, AViewIsOfWhoseCodeIsNearestToItsMaking) {
+    static std::uint32_t g_own = 0;
+    // This executable is the add-on, since it holds the replacement.
+    const auto hooked = +[](id, SEL) {
+        const auto own = objc::create<UILabel(CGRect)>("initWithFrame:"_sel, CGRect{});
+        const auto bar = objc::Owned<UIView>::adopt(objc::send<UIView(CGRect)>(
+            objc::send<id()>("PhoneTabBar"_cls, "alloc"_sel), "initWithFrame:"_sel, CGRect{}));
+        const NSObject button = objc::send<NSArray()>(bar, "subviews"_sel).objectAtIndex(1);
+        g_own = idOf(own.get());
+        EXPECT_TRUE(inspect::noteOf(g_own).isOfAddOn);
+        EXPECT_FALSE(inspect::noteOf(idOf(button)).isOfAddOn) << "made by the bar";
+        EXPECT_EQ(*inspect::noteOf(idOf(button)).touched, "-[Sample outer]");
+    };
+    MSHookMessageEx(class_, "outer"_sel, reinterpret_cast<IMP>(hooked), nullptr);
+    objc::send<void()>(sample_, "outer"_sel);
+    EXPECT_EQ(inspect::noteOf(g_own).touched, nullptr) << "forgotten with the view";
+    const auto outside = objc::create<UILabel(CGRect)>("initWithFrame:"_sel, CGRect{});
+    EXPECT_FALSE(inspect::noteOf(idOf(outside.get())).isOfAddOn) << "the add-on is not at work";
 }
 
 TEST_F(Trace, AnExceptionLeavesTheStackAsItWas) {
