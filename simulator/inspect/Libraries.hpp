@@ -3,15 +3,10 @@
 
 #include <vector>
 
-#include "objc/Runtime.hpp"
-
 namespace inspect {
 
 /// The same for all code of one library; null for code that belongs to none.
 const void *libraryOf(const void *code);
-
-/// Where the methods of a class come from; null for a class without methods.
-const void *libraryOfClass(Class cls);
 
 /// The libraries whose code is the add-on's.
 const std::vector<const void *> &addOns();

@@ -35,7 +35,8 @@ void watch() {
     }
     g_isOn = true;
     substrate::setWrapper(&kWrapper);
-    wrapMethodsOf(libraryOfClass("ZQNumberIdentity"_cls), Runner::Companion);
+    wrapMethodsOf(libraryOf(reinterpret_cast<const void *>(&companion::setListener)),
+                  Runner::Companion);
     companion::setListener(&heard);
     takeNotesOfViews();
 }

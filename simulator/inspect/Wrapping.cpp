@@ -73,7 +73,8 @@ bool isLifecycle(std::string_view selector) {
 /// classes that nobody has used yet share one: so each is used first.
 void wake(Class cls) { objc::send<Class()>(objc::asObject(cls), "class"_sel); }
 
-void wrapOwnMethods(Class cls, const void *library, Runner runner) {
+/// Those of the class itself, or of its metaclass.
+void wrapOwnMethods(Class cls, Class named, const void *library, Runner runner) {
     unsigned count = 0;
     const std::unique_ptr<Method[], decltype(&std::free)> methods(class_copyMethodList(cls, &count),
                                                                   &std::free);
@@ -82,6 +83,7 @@ void wrapOwnMethods(Class cls, const void *library, Runner runner) {
         const SEL selector = method_getName(method);
         if (libraryOf(reinterpret_cast<const void *>(implementation)) == library &&
             !isLifecycle(sel_getName(selector))) {
+            wake(named);
             method_setImplementation(
                 method,
                 wrapped(runner, cls, selector, method_getTypeEncoding(method), implementation));
@@ -114,12 +116,8 @@ void wrapMethodsOf(const void *library, Runner runner) {
     std::vector<Class> classes(static_cast<std::size_t>(objc_getClassList(nullptr, 0)));
     objc_getClassList(classes.data(), static_cast<int>(classes.size()));
     for (const Class cls : classes) {
-        if (libraryOfClass(cls) != library) {
-            continue;
-        }
-        wake(cls);
-        wrapOwnMethods(cls, library, runner);
-        wrapOwnMethods(object_getClass(objc::asObject(cls)), library, runner);
+        wrapOwnMethods(cls, cls, library, runner);
+        wrapOwnMethods(object_getClass(objc::asObject(cls)), cls, library, runner);
     }
 }
 

@@ -2,6 +2,7 @@
 #include <stdexcept>
 #include <thread>
 
+#include <dlfcn.h>
 #include <gmock/gmock.h>
 
 #include "inspect/Signature.hpp"
@@ -132,23 +133,24 @@ TEST_F(Trace, ArgumentsAndResultsComeThroughWhole) {
 std::uint32_t idOf(id view) { return sim::instance<SimView>(view)->viewId(); }
 
 TEST_F(Trace, AViewIsOfWhoseCodeIsNearestToItsMaking) {
-    static std::uint32_t g_own = 0;
-    // This executable is the add-on, since it holds the replacement.
-    const auto hooked = +[](id, SEL) {
-        const auto own = objc::create<UILabel(CGRect)>("initWithFrame:"_sel, CGRect{});
-        const auto bar = objc::Owned<UIView>::adopt(objc::send<UIView(CGRect)>(
-            objc::send<id()>("PhoneTabBar"_cls, "alloc"_sel), "initWithFrame:"_sel, CGRect{}));
-        const NSObject button = objc::send<NSArray()>(bar, "subviews"_sel).objectAtIndex(1);
-        g_own = idOf(own.get());
-        EXPECT_TRUE(inspect::noteOf(g_own).isOfAddOn);
-        EXPECT_FALSE(inspect::noteOf(idOf(button)).isOfAddOn) << "made by the bar";
-        EXPECT_EQ(*inspect::noteOf(idOf(button)).touched, "-[Sample outer]");
+    void *const addOn = dlopen(VIEW_MAKER, RTLD_NOW);
+    ASSERT_NE(addOn, nullptr) << dlerror();
+    const auto view = [addOn](const char *name) {
+        return objc::Owned<UIView>::adopt(UIView(*static_cast<id *>(dlsym(addOn, name))));
     };
-    MSHookMessageEx(class_, "outer"_sel, reinterpret_cast<IMP>(hooked), nullptr);
+    MSHookMessageEx(class_, "outer"_sel, reinterpret_cast<IMP>(dlsym(addOn, "makeViews")), nullptr);
     objc::send<void()>(sample_, "outer"_sel);
-    EXPECT_EQ(inspect::noteOf(g_own).touched, nullptr) << "forgotten with the view";
     const auto outside = objc::create<UILabel(CGRect)>("initWithFrame:"_sel, CGRect{});
     EXPECT_FALSE(inspect::noteOf(idOf(outside.get())).isOfAddOn) << "the add-on is not at work";
+    const auto bar = view("g_viewOfPhone");
+    const id button = objc::send<NSArray()>(bar, "subviews"_sel).objectAtIndex(1);
+    EXPECT_FALSE(inspect::noteOf(idOf(button)).isOfAddOn) << "made by the bar";
+    EXPECT_EQ(*inspect::noteOf(idOf(button)).touched, "-[Sample outer]");
+    auto own = view("g_ownView");
+    const std::uint32_t number = idOf(own.get());
+    EXPECT_TRUE(inspect::noteOf(number).isOfAddOn);
+    own = {};
+    EXPECT_FALSE(inspect::noteOf(number).isOfAddOn) << "forgotten with the view";
 }
 
 TEST_F(Trace, AnExceptionLeavesTheStackAsItWas) {
