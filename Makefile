@@ -1,7 +1,7 @@
 # The everyday commands. Each installs the Debian packages it needs, if any are missing, and builds
 # what it works on; none needs an environment variable.
-.PHONY: help demo test build bench asan monkey tsan clang format lint contract device device-test \
-	device-pictures reproducible packages-all
+.PHONY: help demo phone test build bench asan monkey tsan clang format lint contract device \
+	device-test device-pictures reproducible packages-all
 
 # The slices of the library that "make device" builds, and the host that its web search asks; empty:
 # as in src/recents/Actions.cpp.
@@ -16,6 +16,7 @@ TESTS_AT_ONCE = $$(($$(nproc) + 1))
 
 help:
 	@echo 'make demo          build, draw every scene into build/demo, describe some numbers'
+	@echo 'make phone         build, show the phone in a browser until Ctrl-C'
 	@echo 'make test          build, run the tests'
 	@echo 'make build         build library, simulator and tests into build/'
 	@echo 'make bench         build, run the benchmarks'
@@ -51,6 +52,11 @@ demo: packages-build
 	@cmake --preset host >/dev/null
 	@cmake --build --preset host --target phone-simulator
 	@tools/demo.sh
+
+phone: packages-build
+	@cmake --preset host >/dev/null
+	@cmake --build --preset host --target phone-simulator
+	@exec build/bin/phone-simulator serve
 
 test: build
 	@ctest --preset host --parallel $(TESTS_AT_ONCE)

@@ -12,6 +12,9 @@ if(NOT CMAKE_CROSSCOMPILING)
     pkg_check_modules(ffi REQUIRED IMPORTED_TARGET libffi)          # PkgConfig::ffi
 endif()
 pkg_check_modules(sqlite3 REQUIRED IMPORTED_TARGET sqlite3)         # PkgConfig::sqlite3
+if(NOT CMAKE_CROSSCOMPILING)
+    pkg_check_modules(soup REQUIRED IMPORTED_TARGET libsoup-3.0)    # PkgConfig::soup
+endif()
 pkg_check_modules(glib REQUIRED IMPORTED_TARGET glib-2.0)           # PkgConfig::glib
 pkg_check_modules(cairo REQUIRED IMPORTED_TARGET cairo)             # PkgConfig::cairo
 pkg_check_modules(spng REQUIRED IMPORTED_TARGET spng)               # PkgConfig::spng

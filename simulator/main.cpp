@@ -4,9 +4,15 @@
 #include <vector>
 
 #include "monkey/Monkey.hpp"
+#include "serve/Phone.hpp"
+#include "serve/Serve.hpp"
 #include "stage/Run.hpp"
 
 int main(int count, char **words) {
+    if (count == 2 && words[1] == serve::kPhoneWord) {
+        return serve::runPhone();
+    }
     stage::addCommand(monkey::command());
-    return stage::run(std::vector<std::string>(words + 1, words + count), std::cout, std::cerr);
+    return stage::run(std::vector<std::string>(words + 1, words + count), std::cout, std::cerr,
+                      &serve::serve);
 }

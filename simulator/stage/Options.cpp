@@ -55,6 +55,8 @@ std::vector<OptionKind> makeOptions() {
          [](Request &request, const Given &given) { request.seed = wholeNumber(given); }},
         {"events", "N", "how many of them; 10000",
          [](Request &request, const Given &given) { request.events = wholeNumber(given); }},
+        {"port", "N", "of 127.0.0.1 to listen on; 8138, and 0 takes any that is free",
+         [](Request &request, const Given &given) { request.port = portNumber(given); }},
         {"verbose", "", "print the system log, missing methods included, on stderr",
          [](Request &request, const Given &) { request.settings.verbose = true; }},
     };

@@ -182,4 +182,9 @@ sim::Canvas PhoneWindow::picture() const {
     return sim::snapshot(window());
 }
 
+void PhoneWindow::draw(sim::Canvas &canvas) const {
+    const objc::AutoreleasePool pool;
+    sim::render(window(), canvas);
+}
+
 }  // namespace stage

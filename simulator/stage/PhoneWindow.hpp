@@ -65,6 +65,8 @@ class PhoneWindow {
     /// The view tree, laid out.
     std::string tree() const;
     sim::Canvas picture() const;
+    /// The same on a canvas of the screen's size.
+    void draw(sim::Canvas &canvas) const;
 
   private:
     phone::PhoneTabBarController *tabs() const;

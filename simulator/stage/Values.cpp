@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <limits>
 #include <ranges>
 
@@ -25,6 +26,15 @@ std::optional<Number> parsed(std::string_view text) {
     return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
 }
 
+int wholeNumberWithin(const Given &given, int least, int most) {
+    const auto number = parsed<int>(given.value);
+    if (!number || *number < least || *number > most) {
+        refuse(given,
+               "a whole number from " + std::to_string(least) + " to " + std::to_string(most));
+    }
+    return *number;
+}
+
 /// Of "a,b" both sides; without a comma all is the first.
 std::pair<std::string, std::optional<std::string>> atComma(const std::string &text) {
     const size_t comma = text.find(',');
@@ -42,12 +52,11 @@ std::string numberToDial(const Given &given) {
 }
 
 int wholeNumber(const Given &given) {
-    const auto number = parsed<int>(given.value);
-    if (!number || *number < 1) {
-        refuse(given,
-               "a whole number from 1 to " + std::to_string(std::numeric_limits<int>::max()));
-    }
-    return *number;
+    return wholeNumberWithin(given, 1, std::numeric_limits<int>::max());
+}
+
+int portNumber(const Given &given) {
+    return wholeNumberWithin(given, 0, std::numeric_limits<std::uint16_t>::max());
 }
 
 double realNumber(const Given &given, double least, double most) {

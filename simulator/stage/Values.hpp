@@ -23,6 +23,8 @@ inline std::string anyText(const Given &given) { return given.value; }
 std::string numberToDial(const Given &given);
 /// A whole number from 1 on.
 int wholeNumber(const Given &given);
+/// Of a server; 0 is any that is free.
+int portNumber(const Given &given);
 /// A number, decimals allowed, from `least` to `most`.
 double realNumber(const Given &given, double least, double most);
 /// Seconds, up to two hours.

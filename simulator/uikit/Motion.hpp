@@ -30,6 +30,7 @@ class Motion {
     void begin(const void *owner, Frame frame);
     void stop(const void *owner);
     void advance(Milliseconds time);
+    bool isMoving() const { return !moving_.empty(); }
 
   private:
     struct Moving {

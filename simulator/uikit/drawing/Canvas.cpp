@@ -16,7 +16,7 @@
 namespace sim {
 namespace {
 
-int pixels(double points, double scale) {
+int pixelCount(double points, double scale) {
     return std::max(1, static_cast<int>(std::lround(points * scale)));
 }
 
@@ -47,8 +47,8 @@ void noteBoxes(const PangoGlyphString &glyphs) {
 Canvas::Canvas(Size size, double scale)
     : size_(size),
       scale_(scale),
-      surface_(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels(size.width, scale),
-                                          pixels(size.height, scale))) {
+      surface_(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixelCount(size.width, scale),
+                                          pixelCount(size.height, scale))) {
     if (cairo_surface_status(surface_.get()) != CAIRO_STATUS_SUCCESS) {
         throw PictureError("a picture of this size cannot be made; make it smaller");
     }
@@ -185,14 +185,30 @@ std::set<char32_t> &Canvas::charactersWithoutGlyph() {
     return g_characters;
 }
 
+void Canvas::clear() {
+    cairo_save(context_.get());
+    cairo_set_operator(context_.get(), CAIRO_OPERATOR_CLEAR);
+    cairo_paint(context_.get());
+    cairo_restore(context_.get());
+}
+
+Pixels Canvas::pixels() const {
+    cairo_surface_flush(surface_.get());
+    const auto count = [](int number) { return static_cast<size_t>(number); };
+    const void *const first = cairo_image_surface_get_data(surface_.get());
+    return {static_cast<const std::uint32_t *>(first),
+            count(cairo_image_surface_get_stride(surface_.get())) / sizeof(std::uint32_t),
+            count(cairo_image_surface_get_width(surface_.get())),
+            count(cairo_image_surface_get_height(surface_.get()))};
+}
+
 void Canvas::savePng(const std::filesystem::path &file) const { writePng(surface_.get(), file); }
 
 std::size_t Canvas::fingerprint() const {
-    cairo_surface_flush(surface_.get());
-    const auto size = static_cast<std::size_t>(cairo_image_surface_get_stride(surface_.get())) *
-                      static_cast<std::size_t>(cairo_image_surface_get_height(surface_.get()));
-    const void *const pixels = cairo_image_surface_get_data(surface_.get());
-    return std::hash<std::string_view>()({static_cast<const char *>(pixels), size});
+    const Pixels all = pixels();
+    const void *const first = all.first;
+    return std::hash<std::string_view>()(
+        {static_cast<const char *>(first), all.stride * all.height * sizeof *all.first});
 }
 
 Color Canvas::colorAt(Point point) const {

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 #include <set>
+#include <span>
 
 #include <cairo.h>
 
@@ -16,6 +17,17 @@
 #include "uikit/drawing/TextLayout.hpp"
 
 namespace sim {
+
+/// A canvas's pixels as they lie in memory, row by row: alpha, red, green, blue from the highest
+/// byte to the lowest, the colours multiplied by alpha.
+struct Pixels {
+    const std::uint32_t *first;
+    size_t stride;  // pixels from one row to the next
+    size_t width;
+    size_t height;
+
+    std::span<const std::uint32_t> row(size_t y) const { return {first + y * stride, width}; }
+};
 
 class Canvas {
   public:
@@ -55,6 +67,10 @@ class Canvas {
     /// machine has them; may be added to.
     static std::set<char32_t> &charactersWithoutGlyph();
 
+    /// Makes it transparent again.
+    void clear();
+    /// As drawn so far; they change with the next drawing.
+    Pixels pixels() const;
     /// Written at once or not at all; throws PictureError.
     void savePng(const std::filesystem::path &file) const;
     /// The same for the same pixels, another one for others.

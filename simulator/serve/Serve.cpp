@@ -1,0 +1,74 @@
+// The main loop, and what goes with its end.
+#include "serve/Serve.hpp"
+
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+
+#include <glib.h>
+
+#include "phone/Resources.hpp"
+#include "serve/Server.hpp"
+#include "stage/Errors.hpp"
+
+namespace serve {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// For what visitors need; goes with its object.
+class TemporaryFolder {
+  public:
+    TemporaryFolder() {
+        std::string name = (fs::temp_directory_path() / "phone-simulator-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) {
+            throw stage::Failure(name + ": cannot be made: " + std::strerror(errno));
+        }
+        path_ = name;
+    }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        fs::remove_all(path_, ignored);
+    }
+    TemporaryFolder(const TemporaryFolder &) = delete;
+    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
+
+    const fs::path &path() const { return path_; }
+
+  private:
+    fs::path path_;
+};
+
+bool isIgnored(int signal) {
+    struct sigaction action{};
+    sigaction(signal, nullptr, &action);
+    return action.sa_handler == SIG_IGN;
+}
+
+fs::path wherever(const fs::path &file) { return file.empty() ? file : fs::absolute(file); }
+
+}  // namespace
+
+void serve(const stage::Request &request, std::ostream &out) {
+    for (const fs::path &file : {request.settings.world, request.settings.calls}) {
+        if (!file.empty() && !fs::exists(file)) {
+            throw stage::Failure(file.string() + ": there is no such file");
+        }
+    }
+    const TemporaryFolder folder;
+    const Server server({"/proc/self/exe", wherever(request.settings.world), wherever(request.settings.calls)},
+                        phone::installFolder() / "share" / "page", folder.path(),
+                        static_cast<unsigned>(request.port));
+    const std::unique_ptr<GMainLoop, void (*)(GMainLoop *)> loop(g_main_loop_new(nullptr, FALSE),
+                                                                 &g_main_loop_unref);
+    std::vector<Source> endings;
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        if (!isIgnored(signal)) {
+            endings.push_back(Source::onSignal(signal, [&] { g_main_loop_quit(loop.get()); }));
+        }
+    }
+    out << "http://127.0.0.1:" << server.port() << "/\n" << std::flush;
+    g_main_loop_run(loop.get());
+}
+
+}  // namespace serve
