@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
+#include <sstream>
 
 #include <nlohmann/json.hpp>
 #include <sys/prctl.h>
@@ -11,7 +12,6 @@
 #include "serve/Channel.hpp"
 #include "serve/Frame.hpp"
 #include "serve/Orders.hpp"
-#include "serve/Steps.hpp"
 #include "stage/Errors.hpp"
 #include "stage/Session.hpp"
 #include "stage/Watching.hpp"
@@ -57,7 +57,7 @@ class Phone {
         outcome.warnings = std::exchange(warnings_, {});
         for (size_t i = 0; i < turn.lines.size(); ++i) {
             try {
-                perform(session_, watching_, turn.lines[i]);
+                perform(turn.lines[i]);
             } catch (const stage::Failure &failure) {
                 outcome.refusals.push_back({i, failure.what()});
             } catch (const stage::UsageError &error) {
@@ -77,6 +77,15 @@ class Phone {
     }
 
   private:
+    void perform(const std::string &line) {
+        const stage::Step step = stage::readStep(line);
+        if (step.is("png")) {  // no request names a file
+            throw stage::Failure("png: not from here; the page saves its picture itself");
+        }
+        std::ostringstream printed;  // what it says is told by other means
+        session_.perform(step, printed);
+    }
+
     void tellViews() {
         std::string tree = session_.tree();
         if (tree != views_) {
