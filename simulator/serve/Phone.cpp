@@ -68,7 +68,6 @@ class Phone {
             tellViews();
         }
         if (turn.draw) {
-            frame_.canvas().clear();
             session_.window().draw(frame_.canvas());
             outcome.picture = frame_.write(memory_.bytes());
         }

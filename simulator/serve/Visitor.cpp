@@ -309,7 +309,11 @@ void Visitor::sendPictures() {
         const auto picture = phones_->picture(side);
         if (!picture.empty() &&
             soup_websocket_connection_get_state(socket_.get()) == SOUP_WEBSOCKET_STATE_OPEN) {
-            soup_websocket_connection_send_binary(socket_.get(), picture.data(), picture.size());
+            // It is copied at once, and only once.
+            GBytes *const bytes = g_bytes_new_static(picture.data(), picture.size());
+            soup_websocket_connection_send_message(socket_.get(), SOUP_WEBSOCKET_DATA_BINARY,
+                                                   bytes);
+            g_bytes_unref(bytes);
             ++views_[side].underWay;
             viewsAreDue_ = true;
         }

@@ -184,7 +184,7 @@ sim::Canvas PhoneWindow::picture() const {
 
 void PhoneWindow::draw(sim::Canvas &canvas) const {
     const objc::AutoreleasePool pool;
-    sim::render(window(), canvas);
+    sim::redraw(window(), canvas);
 }
 
 }  // namespace stage

@@ -65,7 +65,7 @@ class PhoneWindow {
     /// The view tree, laid out.
     std::string tree() const;
     sim::Canvas picture() const;
-    /// The same on a canvas of the screen's size.
+    /// The same on a canvas of the screen's size, whatever was on it.
     void draw(sim::Canvas &canvas) const;
 
   private:

@@ -7,8 +7,11 @@
 namespace sim {
 
 /// Lays out what needs it, then draws the view and all below it, its frame's origin at the
-/// canvas's.
+/// canvas's, over what is on the canvas.
 void render(SimView *root, Canvas &canvas);
+
+/// The same on a canvas that may have been drawn on before.
+void redraw(SimView *root, Canvas &canvas);
 
 /// A picture of the root's size, at the device's scale.
 Canvas snapshot(SimView *root);

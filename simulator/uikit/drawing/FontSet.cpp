@@ -174,12 +174,13 @@ FontSet::FontSet() {
 FontSet::~FontSet() = default;
 
 PangoLayoutPtr FontSet::shape(std::string_view utf8, const Font &font) const {
-    PangoLayoutPtr layout = shaped(utf8, font, own_);
-    // Asked only for texts that would show boxes: all others look the same on every machine.
-    if (lacksGlyphs(layout) && everything().context) {
-        layout = shaped(utf8, font, everything());
-    }
-    return layout;
+    const PangoLayoutPtr &layout = known_.get(utf8, font, [&] {
+        PangoLayoutPtr own = shaped(utf8, font, own_);
+        // Asked only for texts that would show boxes: all others look the same on every machine.
+        return lacksGlyphs(own) && everything().context ? shaped(utf8, font, everything())
+                                                        : std::move(own);
+    });
+    return PangoLayoutPtr(PANGO_LAYOUT(g_object_ref(layout.get())));
 }
 
 }  // namespace sim

@@ -10,6 +10,7 @@
 #include <pango/pangocairo.h>
 
 #include "uikit/drawing/Font.hpp"
+#include "uikit/drawing/TextMemory.hpp"
 
 namespace sim {
 
@@ -40,12 +41,15 @@ class FontSet {
     FontSet &operator=(const FontSet &) = delete;
     ~FontSet();
 
-    /// One line of text, shaped and ready to be measured or drawn.
+    /// One line of text, shaped and ready to be measured or drawn, shared with whoever asks for the
+    /// same.
     PangoLayoutPtr shape(std::string_view utf8, const Font &font) const;
 
   private:
     FontSet();
+
     FontChoice own_;
+    mutable TextMemory<char, PangoLayoutPtr> known_;
 };
 
 }  // namespace sim

@@ -5,8 +5,9 @@
 #include "uikit/drawing/Utf16.hpp"
 
 namespace sim {
+namespace {
 
-std::vector<double> PangoMeasurer::advances(std::u16string_view text, const Font &font) const {
+std::vector<double> measured(std::u16string_view text, const Font &font) {
     std::vector<double> result(text.size(), 0.0);
     if (text.empty()) {
         return result;
@@ -24,6 +25,12 @@ std::vector<double> PangoMeasurer::advances(std::u16string_view text, const Font
     } while (pango_layout_iter_next_cluster(iterator) != 0);
     pango_layout_iter_free(iterator);
     return result;
+}
+
+}  // namespace
+
+std::vector<double> PangoMeasurer::advances(std::u16string_view text, const Font &font) const {
+    return known_.get(text, font, [&] { return measured(text, font); });
 }
 
 }  // namespace sim

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "uikit/drawing/TextMeasurer.hpp"
+#include "uikit/drawing/TextMemory.hpp"
 
 namespace sim {
 
@@ -10,6 +11,9 @@ namespace sim {
 class PangoMeasurer : public TextMeasurer {
   public:
     std::vector<double> advances(std::u16string_view text, const Font &font) const override;
+
+  private:
+    mutable TextMemory<char16_t, std::vector<double>> known_;
 };
 
 }  // namespace sim
