@@ -12,13 +12,13 @@ namespace {
 
 constexpr auto kSocket = "/phone";
 
-void respond(SoupServerMessage *message, guint status, const char *type, const std::string &body) {
+void set(SoupServerMessage *message, guint status, const char *type, const std::string &body) {
     soup_server_message_set_status(message, status, nullptr);
     soup_server_message_set_response(message, type, SOUP_MEMORY_COPY, body.data(), body.size());
 }
 
 void refuse(SoupServerMessage *message, guint status, const std::string &why) {
-    respond(message, status, "text/plain; charset=utf-8", why + "\n");
+    set(message, status, "text/plain; charset=utf-8", why + "\n");
 }
 
 std::string headerOf(SoupServerMessage *message, const char *name) {
@@ -69,18 +69,20 @@ Server::Server(House house, const std::filesystem::path &page, std::filesystem::
     port_ = static_cast<unsigned>(g_uri_get_port(static_cast<GUri *>(uris->data)));
     g_slist_free_full(uris, reinterpret_cast<GDestroyNotify>(&g_uri_unref));
 
-    const auto onHeaders = +[](SoupServer *, SoupServerMessage *message, const char *, GHashTable *,
-                               gpointer self) { static_cast<Server *>(self)->guard(message); };
-    const auto onRequest =
-        +[](SoupServer *, SoupServerMessage *message, const char *path, GHashTable *,
-            gpointer self) { static_cast<Server *>(self)->answer(message, path); };
-    const auto onSocket =
-        +[](SoupServer *, SoupServerMessage *, const char *, SoupWebsocketConnection *socket,
-            gpointer self) { static_cast<Server *>(self)->welcome(socket); };
-    soup_server_add_early_handler(soup_.get(), nullptr, onHeaders, this, nullptr);
-    soup_server_add_handler(soup_.get(), nullptr, onRequest, this, nullptr);
+    const auto onHeaders = +[](SoupServer *, SoupServerMessage *message, const char *path,
+                               GHashTable *, gpointer self) {
+        static_cast<Server *>(self)->respond(message, path);
+    };
+    const auto onSocket = +[](SoupServer *, SoupServerMessage *, const char *,
+                              SoupWebsocketConnection *socket, gpointer self) {
+        static_cast<Server *>(self)->welcome(socket);
+    };
     soup_server_add_websocket_handler(soup_.get(), kSocket, nullptr, nullptr, onSocket, this,
                                       nullptr);
+    // The socket's handler would have all for itself that begins like its path.
+    for (const char *const path : {static_cast<const char *>(nullptr), kSocket}) {
+        soup_server_add_early_handler(soup_.get(), path, onHeaders, this, nullptr);
+    }
     // Pictures do not leave the machine: to compress them costs more than it saves.
     soup_server_remove_websocket_extension(soup_.get(), SOUP_TYPE_WEBSOCKET_EXTENSION_DEFLATE);
 }
@@ -95,27 +97,23 @@ bool Server::isOurs(const std::string &host) const {
     return host == "127.0.0.1" + port || host == "localhost" + port;
 }
 
-void Server::guard(SoupServerMessage *message) const {
+void Server::respond(SoupServerMessage *message, const std::string &path) const {
     constexpr std::string_view kScheme = "http://";
     addHeaders(message, port_);
+    // What comes with a request is not wanted, and not kept.
+    soup_message_body_set_accumulate(soup_server_message_get_request_body(message), FALSE);
     const std::string origin = headerOf(message, "Origin");
-    const bool isSocket =
-        std::string(g_uri_get_path(soup_server_message_get_uri(message))) == kSocket;
     const bool isOurOrigin = origin.starts_with(kScheme) && isOurs(origin.substr(kScheme.size()));
+    const std::string method = soup_server_message_get_method(message);
     if (!isOurs(headerOf(message, "Host"))) {
         refuse(message, SOUP_STATUS_FORBIDDEN, "this host's name is not ours");
-    } else if (!isOurOrigin && (isSocket || !origin.empty())) {
+    } else if (!isOurOrigin && (path == kSocket || !origin.empty())) {
         refuse(message, SOUP_STATUS_FORBIDDEN, "this origin is not ours");
-    }
-}
-
-void Server::answer(SoupServerMessage *message, const std::string &path) const {
-    const std::string method = soup_server_message_get_method(message);
-    if (method != "GET" && method != "HEAD") {
+    } else if (method != "GET" && method != "HEAD") {
         refuse(message, SOUP_STATUS_METHOD_NOT_ALLOWED, "there is nothing here but a page to get");
     } else if (const Page::File *const file = page_.file(path)) {
-        respond(message, SOUP_STATUS_OK, file->type, file->bytes);
-    } else {
+        set(message, SOUP_STATUS_OK, file->type, file->bytes);
+    } else if (path != kSocket) {
         refuse(message, SOUP_STATUS_NOT_FOUND, "there is nothing of that name");
     }
 }

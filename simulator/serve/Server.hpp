@@ -30,8 +30,8 @@ class Server {
     unsigned port() const { return port_; }
 
   private:
-    void guard(SoupServerMessage *message) const;
-    void answer(SoupServerMessage *message, const std::string &path) const;
+    /// To everything but an upgrade of the socket's that is ours.
+    void respond(SoupServerMessage *message, const std::string &path) const;
     void welcome(SoupWebsocketConnection *socket);
     bool isOurs(const std::string &host) const;
 
