@@ -20,6 +20,8 @@ class Frame {
     /// Writes header and pixels of what differs between the canvas and the picture before, which
     /// the canvas then becomes. Returns how many bytes that was; 0 when nothing differs.
     size_t write(std::span<unsigned char> bytes);
+    /// Of the last picture that was written, counted from 1.
+    std::uint32_t number() const { return number_; }
 
   private:
     sim::Canvas next_;

@@ -8,7 +8,7 @@ namespace serve {
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Turn, lines, draw, views, happenings)
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Opening, ios, screen, withAddOn, world, calls, data, turn)
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Refusal, line, why)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Outcome, refusals, picture, isLively, warnings)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Outcome, refusals, picture, pictures, isLively, warnings)
 
 namespace {
 

@@ -1,6 +1,7 @@
 // What the server asks of a phone's process, and what it gets back.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,7 @@ struct Refusal {
 struct Outcome {
     std::vector<Refusal> refusals;
     size_t picture = 0;                   // bytes of it; 0: there is nothing to send
+    std::uint32_t pictures = 0;           // that there have been, this one included
     bool isLively = false;                // something moves by itself, or a finger is down
     std::vector<std::string> warnings{};  // at the opening
 };

@@ -70,6 +70,7 @@ class Phone {
         if (turn.draw) {
             session_.window().draw(frame_.canvas());
             outcome.picture = frame_.write(memory_.bytes());
+            outcome.pictures = frame_.number();
         }
         outcome.isLively = sim::Motion::shared().isMoving() || session_.window().hand().isDown();
         server_.send(kind::kDone, text(outcome));

@@ -46,6 +46,8 @@ class Phones {
     bool isLively() const;
     /// What changed of the picture, as the page gets it; empty when nothing did.
     std::span<const unsigned char> picture(Side side) const;
+    /// How many pictures there have been, this one included.
+    std::uint32_t pictures(Side side) const { return phones_.at(side).outcome.pictures; }
 
   private:
     struct Phone {

@@ -97,7 +97,9 @@ Ask readFile(const json &message) {
     return ask::File{message.at("name").get<std::string>(), message.at("text").get<std::string>()};
 }
 
-Ask readDrew(const json &message) { return ask::Drew{sideOf(message.at("side"))}; }
+Ask readDrew(const json &message) {
+    return ask::Drew{sideOf(message.at("side")), message.at("picture").get<std::uint32_t>()};
+}
 
 Ask readLook(const json &) { return ask::Look{}; }
 

@@ -1,6 +1,7 @@
 // What the page asks, read and checked as far as that goes without a phone.
 #pragma once
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <variant>
@@ -38,6 +39,7 @@ struct File {
 };
 struct Drew {
     Side side;
+    std::uint32_t picture;  // by its number
 };
 struct Look {};
 

@@ -69,14 +69,12 @@ Server::Server(House house, const std::filesystem::path &page, std::filesystem::
     port_ = static_cast<unsigned>(g_uri_get_port(static_cast<GUri *>(uris->data)));
     g_slist_free_full(uris, reinterpret_cast<GDestroyNotify>(&g_uri_unref));
 
-    const auto onHeaders = +[](SoupServer *, SoupServerMessage *message, const char *path,
-                               GHashTable *, gpointer self) {
-        static_cast<Server *>(self)->respond(message, path);
-    };
-    const auto onSocket = +[](SoupServer *, SoupServerMessage *, const char *,
-                              SoupWebsocketConnection *socket, gpointer self) {
-        static_cast<Server *>(self)->welcome(socket);
-    };
+    const auto onHeaders =
+        +[](SoupServer *, SoupServerMessage *message, const char *path, GHashTable *,
+            gpointer self) { static_cast<Server *>(self)->respond(message, path); };
+    const auto onSocket =
+        +[](SoupServer *, SoupServerMessage *, const char *, SoupWebsocketConnection *socket,
+            gpointer self) { static_cast<Server *>(self)->welcome(socket); };
     soup_server_add_websocket_handler(soup_.get(), kSocket, nullptr, nullptr, onSocket, this,
                                       nullptr);
     // The socket's handler would have all for itself that begins like its path.

@@ -16,9 +16,9 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-constexpr size_t kMostWaiting = 256;  // lines
-constexpr int kMostUnderWay = 2;      // pictures
-constexpr auto kLively = 16ms;        // from turn to turn, when there is something to be seen
+constexpr size_t kMostWaiting = 256;        // lines
+constexpr std::uint32_t kMostUnderWay = 2;  // pictures
+constexpr auto kLively = 16ms;              // from turn to turn, when there is something to be seen
 constexpr auto kSoon = 50ms;
 constexpr auto kQuiet = 200ms;
 constexpr auto kBetweenViews = 150ms;
@@ -127,8 +127,16 @@ void Visitor::take(const ask::Watch &watch) {
 
 void Visitor::take(const ask::Drew &drew) {
     View &view = views_[drew.side];
-    view.underWay = std::max(0, view.underWay - 1);
-    if (view.isOwed) {
+    view.drawn = std::clamp(drew.picture, view.drawn, view.sent);
+    payPictures();
+}
+
+bool Visitor::View::keepsUp() const { return sent - drawn < kMostUnderWay; }
+
+void Visitor::payPictures() {
+    if (std::ranges::any_of(views_, [](const auto &entry) {
+            return entry.second.isOwed && entry.second.keepsUp();
+        })) {
         beginTurn();
     }
 }
@@ -233,7 +241,8 @@ void Visitor::moveIn() {
         tell(report::refused(open_.steps[first.line], first.why));
     }
     for (auto &[side, view] : views_) {
-        view.underWay = 0;
+        view.sent = 0;
+        view.drawn = 0;
         view.isOwed = false;
     }
     sendPictures();
@@ -267,7 +276,7 @@ void Visitor::beginTurn() {
 
 Turn Visitor::turnOf(Side side, bool views) {
     View &view = views_[side];
-    view.isOwed = view.underWay >= kMostUnderWay;
+    view.isOwed = !view.keepsUp();
     return {turn_, !view.isOwed, views && view.views, view.happenings};
 }
 
@@ -292,6 +301,7 @@ void Visitor::endTurn() {
     if (std::ranges::any_of(next_.lines(), [](const auto &line) { return !waitOf(line); })) {
         beginTurn();
     }
+    payPictures();
     tickWhenNeeded();
 }
 
@@ -314,7 +324,7 @@ void Visitor::sendPictures() {
             soup_websocket_connection_send_message(socket_.get(), SOUP_WEBSOCKET_DATA_BINARY,
                                                    bytes);
             g_bytes_unref(bytes);
-            ++views_[side].underWay;
+            views_[side].sent = phones_->pictures(side);
             viewsAreDue_ = true;
         }
     }

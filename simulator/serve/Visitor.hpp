@@ -54,8 +54,11 @@ class Visitor {
     struct View {
         bool views = true;
         bool happenings = false;
-        int underWay = 0;     // pictures
-        bool isOwed = false;  // one that was held back
+        std::uint32_t sent = 0;   // number of the last picture
+        std::uint32_t drawn = 0;  // and of the last one that the page has drawn
+        bool isOwed = false;      // a picture that was held back
+
+        bool keepsUp() const;
     };
 
     void hear(GBytes *message);
@@ -78,6 +81,7 @@ class Visitor {
     void endTurn();
     void tellWhatWasDone(bool now);
     void sendPictures();
+    void payPictures();
     void tick();
     void tickWhenNeeded();
     void fallAsleep();
