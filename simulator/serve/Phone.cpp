@@ -84,6 +84,7 @@ class Phone {
         }
         std::ostringstream printed;  // what it says is told by other means
         session_.perform(step, printed);
+        session_.window().layout();  // as before a picture, which there may or may not be
     }
 
     void tellViews() {

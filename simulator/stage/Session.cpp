@@ -2,6 +2,7 @@
 #include "stage/Session.hpp"
 
 #include "companion/Companion.hpp"
+#include "companion/SimulatedTime.hpp"
 #include "phone/dialer/DialerController.hpp"
 #include "phone/dialer/DialerView.hpp"
 #include "phone/dialer/PHHandsetDialerLCDView.hpp"
@@ -59,6 +60,7 @@ Session::Session(const Settings &settings) : data_(ownData(settings.data)), sett
         calls_ = readCallsFile(settings.calls, settings.warn, settings.withProgress);
     }
     prepareProcess(settings_);
+    begin_ = companion::SimulatedTime::shared().now();
     window_ = std::make_unique<PhoneWindow>(settings.model.screenSize(),
                                             [this] { return recentCallObjects(recentCalls()); });
     openDialer();
@@ -127,13 +129,27 @@ void Session::wait(std::chrono::milliseconds time) {
 }
 
 void Session::leap(std::chrono::milliseconds time) {
+    constexpr auto kFrame = std::chrono::round<std::chrono::milliseconds>(sim::Finger::kFrame);
     const objc::AutoreleasePool pool;
+    const auto &clock = companion::SimulatedTime::shared();
+    sim::Motion &motion = sim::Motion::shared();
+    const auto end = clock.now() + time;
     window_->layout();
-    leapTime(time, [this](std::chrono::milliseconds passed) {
-        window_->hand().timeHasPassed();
-        sim::Motion::shared().advance(passed);
+    do {
+        // What moves, and a finger, is seen to do so at the screen's own frames alone: so it comes
+        // to the same however the time is cut into pieces.
+        const auto sinceFrame = (clock.now() - begin_) % kFrame;
+        const bool isLively = motion.isMoving() || window_->hand().isDown();
+        const auto left = end - clock.now();
+        const auto next = untilDue(isLively ? std::min(left, kFrame - sinceFrame) : left);
+        motion.age(next);
+        leapTime(next);
+        if ((clock.now() - begin_) % kFrame == 0ms) {
+            window_->hand().timeHasPassed();
+            motion.show();
+        }
         window_->layout();
-    });
+    } while (clock.now() < end);
 }
 
 void Session::startOver() {

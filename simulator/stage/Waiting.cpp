@@ -57,21 +57,19 @@ void letTimePass(std::chrono::milliseconds time, const std::function<bool()> &af
     afterTurn();
 }
 
-void leapTime(std::chrono::milliseconds time,
-              const std::function<void(std::chrono::milliseconds)> &afterEach) {
+std::chrono::milliseconds untilDue(std::chrono::milliseconds most) {
     constexpr std::chrono::milliseconds kShortest{1};
+    const auto now = companion::SimulatedTime::shared().now();
+    const auto due = DelayedMessages::shared().next();
+    return due ? std::min(most, std::max(*due - now, kShortest)) : most;
+}
+
+void leapTime(std::chrono::milliseconds time) {
+    const objc::AutoreleasePool pool;
     auto &clock = companion::SimulatedTime::shared();
-    auto &delayed = DelayedMessages::shared();
-    const auto end = clock.now() + time;
-    do {
-        const objc::AutoreleasePool pool;
-        const auto before = clock.now();
-        const auto due = std::max(delayed.next().value_or(end), before + kShortest);
-        clock.leap(std::min(due, end) - before);
-        turn(dateIn(0));
-        delayed.sendDue(clock.now());
-        afterEach(clock.now() - before);
-    } while (clock.now() < end);
+    clock.leap(time);
+    turn(dateIn(0));
+    DelayedMessages::shared().sendDue(clock.now());
 }
 
 }  // namespace stage

@@ -11,9 +11,11 @@ namespace stage {
 /// After each of its turns `afterTurn` is called; returns it true, the rest of the wait is dropped.
 void letTimePass(std::chrono::milliseconds time, const std::function<bool()> &afterTurn);
 
-/// Lets `time` pass without waiting for it, from one moment at which something is due to the next.
-/// `afterEach` hears how long it was since the one before.
-void leapTime(std::chrono::milliseconds time,
-              const std::function<void(std::chrono::milliseconds)> &afterEach);
+/// How long it is, at most `most`, until something is due.
+std::chrono::milliseconds untilDue(std::chrono::milliseconds most);
+
+/// Lets `time` pass without waiting for it. What is due then is done; what would have been due
+/// before is late.
+void leapTime(std::chrono::milliseconds time);
 
 }  // namespace stage

@@ -15,7 +15,8 @@ Motion &Motion::shared() {
 void Motion::setWatched(bool watched) {
     watched_ = watched;
     if (!watched) {
-        advance(kForever);
+        age(kForever);
+        show();
     }
 }
 
@@ -32,7 +33,13 @@ void Motion::stop(const void *owner) {
     std::erase_if(moving_, [owner](const Moving &moving) { return moving.owner == owner; });
 }
 
-void Motion::advance(Milliseconds time) {
+void Motion::age(Milliseconds time) {
+    for (Moving &moving : moving_) {
+        moving.age += time;
+    }
+}
+
+void Motion::show() {
     std::vector<int> serials;
     serials.reserve(moving_.size());
     std::ranges::transform(moving_, std::back_inserter(serials), &Moving::serial);
@@ -41,7 +48,6 @@ void Motion::advance(Milliseconds time) {
         if (moving == moving_.end()) {
             continue;
         }
-        moving->age += time;
         const Frame frame = moving->frame;
         if (!frame(moving->age)) {
             std::erase_if(moving_, [serial](const Moving &over) { return over.serial == serial; });

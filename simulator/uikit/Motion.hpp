@@ -29,7 +29,10 @@ class Motion {
     /// `owner` moves from now on; what it did before is stopped where it is.
     void begin(const void *owner, Frame frame);
     void stop(const void *owner);
-    void advance(Milliseconds time);
+    /// So much time passes for what moves now.
+    void age(Milliseconds time);
+    /// Shows how far all of it has come.
+    void show();
     bool isMoving() const { return !moving_.empty(); }
 
   private:
