@@ -109,12 +109,15 @@ void Visitor::take(const ask::Step &step) {
     } else if (!std::exchange(tooMuch_, true)) {
         tell(report::refused(step.line, "too much at once; what comes now is left out"));
     }
+    nextIsAsked_ = true;
     beginTurn();
 }
 
 void Visitor::take(const ask::Speed &speed) {
     letTimePass();
     clock_.setSpeed(speed.speed);
+    nextIsAsked_ = true;
+    beginTurn();
 }
 
 void Visitor::take(const ask::Watch &watch) {
@@ -266,6 +269,7 @@ void Visitor::beginTurn() {
     const bool views = viewsAreDue_ && now - lastViews_ > kBetweenViews;
     turn_ = next_.lines();
     next_.clear();
+    turnIsAsked_ = std::exchange(nextIsAsked_, false);
     tooMuch_ = false;
     if (views) {
         viewsAreDue_ = false;
@@ -295,7 +299,7 @@ void Visitor::endTurn() {
         hasSteps = hasSteps || !waitOf(turn_[i]);
     }
     turn_.clear();
-    tellWhatWasDone(hasSteps);
+    tellWhatWasDone();
     viewsAreDue_ = viewsAreDue_ || hasSteps;
     sendPictures();
     if (std::ranges::any_of(next_.lines(), [](const auto &line) { return !waitOf(line); })) {
@@ -305,12 +309,12 @@ void Visitor::endTurn() {
     tickWhenNeeded();
 }
 
-void Visitor::tellWhatWasDone(bool now) {
-    const auto time = Time::now();
-    if (!untold_.empty() && (now || time - lastTold_ > kBetweenWaits)) {
+void Visitor::tellWhatWasDone() {
+    const auto now = Time::now();
+    if (!untold_.empty() && (turnIsAsked_ || now - lastTold_ > kBetweenWaits)) {
         tell(report::did(untold_.lines()));
         untold_.clear();
-        lastTold_ = time;
+        lastTold_ = now;
     }
 }
 

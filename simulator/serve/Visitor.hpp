@@ -79,7 +79,7 @@ class Visitor {
     void beginTurn();
     Turn turnOf(Side side, bool views);
     void endTurn();
-    void tellWhatWasDone(bool now);
+    void tellWhatWasDone();
     void sendPictures();
     void payPictures();
     void tick();
@@ -108,7 +108,9 @@ class Visitor {
     StepList untold_;                // what of it the page has not been told
     StepList next_;                  // to be done in the next turn
     std::vector<std::string> turn_;  // what is being done
-    bool tooMuch_ = false;           // was asked, and the page has been told
+    bool nextIsAsked_ = false;       // by the page, and not only by the time
+    bool turnIsAsked_ = false;
+    bool tooMuch_ = false;  // was asked, and the page has been told
     std::map<Side, View> views_;
     bool viewsAreDue_ = false;
     Clock clock_;

@@ -65,7 +65,7 @@ class Session {
 
     OwnFolder data_;
     Settings settings_;
-    std::chrono::milliseconds begin_{};  // when simulated time began to stand still
+    std::chrono::milliseconds begin_{};         // when simulated time began to stand still
     std::vector<companion::RecentCall> calls_;  // of the user's own file
     objc::AutoreleasePool pool_;
     std::unique_ptr<PhoneWindow> window_;
