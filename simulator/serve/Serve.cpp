@@ -56,9 +56,10 @@ void serve(const stage::Request &request, std::ostream &out) {
         }
     }
     const TemporaryFolder folder;
-    const Server server({"/proc/self/exe", wherever(request.settings.world), wherever(request.settings.calls)},
-                        phone::installFolder() / "share" / "page", folder.path(),
-                        static_cast<unsigned>(request.port));
+    const Server server(
+        {"/proc/self/exe", wherever(request.settings.world), wherever(request.settings.calls)},
+        phone::installFolder() / "share" / "page", folder.path(),
+        static_cast<unsigned>(request.port));
     const std::unique_ptr<GMainLoop, void (*)(GMainLoop *)> loop(g_main_loop_new(nullptr, FALSE),
                                                                  &g_main_loop_unref);
     std::vector<Source> endings;

@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "serve/Reports.hpp"
-#include "stage/Arguments.hpp"
+#include "stage/Commands.hpp"
 #include "stage/Errors.hpp"
 
 namespace serve {
