@@ -1,6 +1,7 @@
 // The loop of a phone's process: a turn, what came of it, the next.
 #include "serve/Phone.hpp"
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
@@ -125,6 +126,7 @@ void serveServer() {
     const Opening opening = readOpening(first->text);
     std::optional<Phone> phone;
     try {
+        std::ranges::for_each(opening.turn.lines, &stage::readStep);  // a list has steps alone
         phone.emplace(opening, server, memory);
     } catch (const std::exception &error) {
         server.send(kind::kFailed, error.what());
