@@ -93,6 +93,7 @@ void Visitor::hear(GBytes *message) {
 
 void Visitor::take(const ask::Open &open) {
     bury(std::move(phones_));
+    next_.clear();
     this->open({nullptr, open, files_, {}});
 }
 
@@ -148,6 +149,10 @@ void Visitor::take(const ask::File &file) {
     if (!phones_) {
         throw BadMessage("a file needs a phone that shows it; open one first");
     }
+    if (phones_->isBusy()) {  // with a turn that the new phones have to play as well
+        file_ = file;
+        return;
+    }
     const bool isWorld = file.name.ends_with(".json");
     if (!isWorld && !file.name.ends_with(".csv")) {
         throw BadMessage("a world's name ends with .json, a list of calls' with .csv");
@@ -169,7 +174,6 @@ void Visitor::open(Coming coming) {
     if (coming_) {
         bury(std::move(coming_->phones));
     }
-    next_.clear();
     coming_ = std::make_unique<Coming>(std::move(coming));
     Opening opening{coming_->open.ios,
                     coming_->open.screen,
@@ -183,9 +187,9 @@ void Visitor::open(Coming coming) {
         house_.program, folder_ / std::to_string(++folders_), coming_->open.sides, opening,
         Phones::Listener{
             [this] {
-                if (coming_) {
+                if (coming_ && !coming_->phones->isBusy()) {
                     moveIn();
-                } else if (phones_) {
+                } else if (phones_ && !phones_->isBusy()) {
                     endTurn();
                 }
             },
@@ -302,6 +306,10 @@ void Visitor::endTurn() {
     tellWhatWasDone();
     viewsAreDue_ = viewsAreDue_ || hasSteps;
     sendPictures();
+    if (const auto file = std::exchange(file_, std::nullopt)) {
+        take(*file);
+        return;
+    }
     if (std::ranges::any_of(next_.lines(), [](const auto &line) { return !waitOf(line); })) {
         beginTurn();
     }

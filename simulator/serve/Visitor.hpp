@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -101,6 +102,7 @@ class Visitor {
     Files files_;
     std::unique_ptr<Phones> phones_;
     std::unique_ptr<Coming> coming_;
+    std::optional<ask::File> file_;  // to be taken when the turn is over
     std::vector<std::unique_ptr<Phones>> buried_;
     Source burial_;
 
