@@ -6,6 +6,7 @@
 #include "monkey/Monkey.hpp"
 #include "serve/Phone.hpp"
 #include "serve/Serve.hpp"
+#include "stage/Commands.hpp"
 #include "stage/Run.hpp"
 
 int main(int count, char **words) {
@@ -13,6 +14,9 @@ int main(int count, char **words) {
         return serve::runPhone();
     }
     stage::addCommand(monkey::command());
-    return stage::run(std::vector<std::string>(words + 1, words + count), std::cout, std::cerr,
-                      &serve::serve);
+    stage::addCommand({"serve",
+                       "Show the telephone in a browser, until Ctrl-C.",
+                       &serve::serve,
+                       {"port", "world", "calls"}});
+    return stage::run(std::vector<std::string>(words + 1, words + count), std::cout, std::cerr);
 }

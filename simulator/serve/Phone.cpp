@@ -7,12 +7,15 @@
 #include <iostream>
 #include <sstream>
 
-#include <nlohmann/json.hpp>
 #include <sys/prctl.h>
 
+#include "inspect/Views.hpp"
+#include "inspect/Watch.hpp"
 #include "serve/Channel.hpp"
 #include "serve/Frame.hpp"
+#include "serve/NamedTouch.hpp"
 #include "serve/Orders.hpp"
+#include "serve/Reports.hpp"
 #include "stage/Errors.hpp"
 #include "stage/Session.hpp"
 #include "stage/Watching.hpp"
@@ -20,8 +23,6 @@
 
 namespace serve {
 namespace {
-
-using nlohmann::json;
 
 /// The server decides when a phone ends; a phone without a server ends at once.
 void bindToServer() {
@@ -48,10 +49,12 @@ class Phone {
     Phone(const Opening &opening, PhoneEnd &server, SharedPicture &memory)
         : server_(server),
           memory_(memory),
-          side_(opening.withAddOn ? "with" : "without"),
+          side_(opening.withAddOn ? Side::With : Side::Without),
           session_(settingsOf(opening, warnings_)),
           frame_(stage::modelNamed(opening.ios, opening.screen).screenSize(),
-                 opening.withAddOn ? 1 : 0) {}
+                 static_cast<unsigned char>(side_)) {
+        inspect::watchAddOnClasses();
+    }
 
     void take(const Turn &turn) {
         Outcome outcome;
@@ -64,6 +67,12 @@ class Phone {
             } catch (const stage::UsageError &error) {
                 outcome.refusals.push_back({i, error.what()});
             }
+            if (turn.happenings) {
+                tellHappenings(turn.lines[i]);
+            }
+        }
+        if (!turn.happenings) {
+            inspect::takeHappenings();  // nobody wants to know
         }
         if (turn.views) {
             tellViews();
@@ -79,7 +88,8 @@ class Phone {
 
   private:
     void perform(const std::string &line) {
-        const stage::Step step = stage::readStep(line);
+        SimView *const window = session_.window().window();
+        const stage::Step step = stage::readStep(placedByName(line, window));
         if (step.is("png")) {  // no request names a file
             throw stage::Failure("png: not from here; the page saves its picture itself");
         }
@@ -88,27 +98,26 @@ class Phone {
         session_.window().layout();  // as before a picture, which there may or may not be
     }
 
+    /// What the step has set going, and what went on since the one before.
+    void tellHappenings(const std::string &line) {
+        const auto happenings = inspect::takeHappenings();
+        if (!happenings.empty()) {
+            server_.send(kind::kTold,
+                         report::happened(side_, line, inspect::happeningsJson(happenings)));
+        }
+    }
+
     void tellViews() {
-        std::string tree = session_.tree();
-        if (tree != views_) {
-            views_ = std::move(tree);
-            server_.send(kind::kTold, json{{"tell", "views"},
-                                           {"side", side_},
-                                           {"root",
-                                            {{"id", 1},
-                                             {"class", "UIWindow"},
-                                             {"frame", {0, 0, 320, 568}},
-                                             {"place", {0, 0, 320, 568}},
-                                             {"text", views_},
-                                             {"owner", "phone"},
-                                             {"children", json::array()}}}}
-                                          .dump(-1, ' ', false, json::error_handler_t::replace));
+        std::string views = inspect::viewsJson(session_.window().window());
+        if (views != views_) {
+            server_.send(kind::kTold, report::views(side_, views));
+            views_ = std::move(views);
         }
     }
 
     PhoneEnd &server_;
     SharedPicture &memory_;
-    std::string side_;
+    Side side_;
     std::vector<std::string> warnings_;
     stage::Session session_;
     stage::Watching watching_{session_};
@@ -125,8 +134,11 @@ void serveServer() {
     }
     const Opening opening = readOpening(first->text);
     std::optional<Phone> phone;
+    inspect::watch();
     try {
-        std::ranges::for_each(opening.turn.lines, &stage::readStep);  // a list has steps alone
+        for (const std::string &line : opening.turn.lines) {
+            stage::readStep(withoutName(line));  // a list has steps alone
+        }
         phone.emplace(opening, server, memory);
     } catch (const std::exception &error) {
         server.send(kind::kFailed, error.what());

@@ -55,4 +55,14 @@ std::string died(Side side, const std::vector<std::string> &log) {
 
 std::string asleep() { return told({{"tell", "asleep"}}); }
 
+std::string views(Side side, const std::string &root) {
+    return R"({"tell":"views","side":")" + std::string(nameOf(side)) + R"(","root":)" + root + "}";
+}
+
+std::string happened(Side side, const std::string &line, const std::string &happenings) {
+    std::string text = told({{"tell", "happened"}, {"side", nameOf(side)}, {"line", line}});
+    text.pop_back();
+    return text + R"(,"happenings":)" + happenings + "}";
+}
+
 }  // namespace serve::report

@@ -17,4 +17,8 @@ std::string failed(const std::string &why);
 std::string died(Side side, const std::vector<std::string> &log);
 std::string asleep();
 
+// The rest is JSON already.
+std::string views(Side side, const std::string &root);
+std::string happened(Side side, const std::string &line, const std::string &happenings);
+
 }  // namespace serve::report

@@ -101,8 +101,6 @@ void runGallery(const Request &request, std::ostream &out) {
     out << (gallery.leftOut.empty() ? "" : "\n");
 }
 
-void runServe(const Request &request, std::ostream &out) { request.serve(request, out); }
-
 using Names = std::vector<std::string_view>;
 
 Names operator+(Names names, const Names &more) {
@@ -141,10 +139,6 @@ std::vector<Command> makeCommands() {
          "NUMBER",
          std::string::npos,
          {"7.1", "4"}},  // since 7.1 the row under the number is its description alone
-        {"serve",
-         "Show the phone in a browser, until Ctrl-C.",
-         &runServe,
-         {"port", "world", "calls"}},
     };
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <filesystem>
-#include <ostream>
 #include <span>
 #include <string>
 #include <vector>
@@ -15,10 +14,6 @@
 namespace stage {
 
 struct Command;
-struct Request;
-
-/// Does what `serve` asks for; a server stands on the stage, not within it.
-using Serve = void (*)(const Request &request, std::ostream &out);
 
 struct Request {
     const Command *command = nullptr;  // null: `text` is to be printed, and that is all
@@ -31,7 +26,6 @@ struct Request {
     int events = 10000;
     int port = 8138;              // of the server; 0: any that is free
     std::vector<std::string> words{};
-    Serve serve{};
 };
 
 /// Reads the arguments after the program's name. Throws UsageError.

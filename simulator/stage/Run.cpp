@@ -35,7 +35,7 @@ void warnOfBoxes(std::ostream &err) {
 
 }  // namespace
 
-int run(std::span<const std::string> words, std::ostream &out, std::ostream &err, Serve serve) {
+int run(std::span<const std::string> words, std::ostream &out, std::ostream &err) {
     constexpr int kFailed = 1;
     constexpr int kWrongUsage = 2;
     const Interruption interruption;
@@ -44,7 +44,6 @@ int run(std::span<const std::string> words, std::ostream &out, std::ostream &err
         if (request.command == nullptr) {
             out << request.text;
         } else {
-            request.serve = serve;
             request.settings.warn = [&err](const std::string &line) {
                 // Names from the user's files may hold newlines.
                 err << kProgram << ": " << sim::drawableText(sim::utf16(line)).utf8 << '\n';

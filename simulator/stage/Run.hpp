@@ -5,13 +5,10 @@
 #include <span>
 #include <string>
 
-#include "stage/Request.hpp"
-
 namespace stage {
 
 /// Runs the command line after the program's name. Returns the exit code: 0, 1 after a failure, 2
 /// for a wrong command line; what went wrong is one line on `err`.
-int run(std::span<const std::string> words, std::ostream &out, std::ostream &err,
-        Serve serve = nullptr);
+int run(std::span<const std::string> words, std::ostream &out, std::ostream &err);
 
 }  // namespace stage

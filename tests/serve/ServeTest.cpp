@@ -155,6 +155,20 @@ TEST_F(ServeTest, PlaysTheSameAgain) {
     EXPECT_TRUE(visit.screen("with") == with);
 }
 
+TEST_F(ServeTest, TellsViewsAndWhatHappenedAndFindsThemByName) {
+    Visit visit(port());
+    visit.ask({{"ask", "watch"}, {"side", "with"}, {"views", true}, {"happenings", true}});
+    visit.open("7.1", {"with"}, {"type 17700000061"});
+    visit.told("opened");
+    EXPECT_NE(visit.told("views").dump().find("\"诈骗电话\""), std::string::npos);
+    visit.step("down 1,1 删除");  // by its name, from a place where it is not
+    visit.step("lift");
+    const auto happened = visit.told("happened");
+    EXPECT_EQ(happened["line"], "lift");
+    EXPECT_THAT(happened["happenings"].dump(), HasSubstr("-["));
+    EXPECT_EQ(visit.told("views").dump().find("\"诈骗电话\""), std::string::npos);
+}
+
 TEST_F(ServeTest, OutlivesItsPhones) {
     Visit visit(port());
     Visit other(port());
