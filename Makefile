@@ -1,7 +1,7 @@
 # The everyday commands. Each installs the Debian packages it needs, if any are missing, and builds
 # what it works on; none needs an environment variable.
 .PHONY: help demo phone test build bench asan monkey tsan clang format lint contract device \
-	device-test device-pictures reproducible packages-all
+	device-test device-pictures page-test reproducible packages-all
 
 # The slices of the library that "make device" builds, and the host that its web search asks; empty:
 # as in src/recents/Actions.cpp.
@@ -31,14 +31,15 @@ help:
 	@echo '                   SLICES=arm64 one slice alone, SEARCH_HOST=name where its search leads'
 	@echo 'make device-test   run it on emulated processors, and break it on purpose to see that noticed'
 	@echo 'make device-pictures  have it draw every scene there, and compare with the host'
+	@echo 'make page-test     check the page of make phone, and use it in a real browser'
 	@echo 'make reproducible  build it a second time elsewhere, and compare'
 	@echo 'make packages-all  install the packages of all of these; packages-GROUP: one of packages.txt'
 	@echo '.ci/run            everything that has to pass before a change lands'
 	@echo
 	@echo 'CONTRIBUTING.md says how to run one test, one sanitizer, one benchmark.'
 
-packages-all: packages-build packages-lint packages-device packages-armv7 packages-qemu \
-	packages-qemu-armv7
+packages-all: packages-build packages-lint packages-page packages-device packages-armv7 \
+	packages-qemu packages-qemu-armv7
 
 packages-%:
 	@tools/install-packages.sh $*
@@ -63,6 +64,11 @@ test: build
 
 bench: build
 	@cmake --build --preset host --target bench
+
+page-test: packages-build packages-page
+	@cmake --preset host >/dev/null
+	@cmake --build --preset host --target phone-simulator
+	@tests/page/run.sh
 
 contract: build
 	@cmake --build --preset host --target contract

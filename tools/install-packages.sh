@@ -14,15 +14,17 @@ usage() {
     exit 2
 }
 
-# Prints "package<tab>reason" for every package of group $1.
+# Prints "package:command<tab>reason" for every package of group $1.
 packagesOf() {
     awk -v group="[$1]" '
         /^\[/ { inside = ($1 == group) }
         inside && !/^(#|\[|$)/ { name = $1; sub(/^[^ ]+ +/, ""); print name "\t" $0 }' "$list"
 }
 
+# Whether package $1 is there, or command $2, if named, without it.
 isInstalled() {
-    [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+    [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" = installed ] ||
+        { [ -n "$2" ] && command -v "$2" >/dev/null; }
 }
 
 isAvailable() {
@@ -40,8 +42,9 @@ command -v apt-get dpkg-query >/dev/null ||
 missing=()
 reasons=()
 for group in "$@"; do
-    while IFS=$'\t' read -r name reason; do
-        if ! isInstalled "$name" && [[ " ${missing[*]-} " != *" $name "* ]]; then
+    while IFS=$'\t' read -r entry reason; do
+        IFS=: read -r name command <<<"$entry"
+        if ! isInstalled "$name" "$command" && [[ " ${missing[*]-} " != *" $name "* ]]; then
             missing+=("$name")
             reasons+=("$(printf '  %-22s%s' "$name" "$reason")")
         fi
