@@ -102,8 +102,10 @@ std::vector<StepKind> anySteps() {
         {"know", "JSON", "the companion learns a piece of a world, in place of what it knew", Any,
          with<&know, &anyText>},
         {"release", "", "lift the finger, which has been at rest", Any, alone<&release>},
-        {"down", "X,Y", "put a finger on the screen, X,Y points from its corner", Any,
-         with<&down, &point>, kMotionGoesOn},
+        {"down", "X,Y",
+         "put a finger on the screen, X,Y points from its corner; the name of what is there may "
+         "follow",
+         Any, with<&down, &namedPoint>, kMotionGoesOn},
         {"move", "X,Y", "move it there", Any, with<&move, &point>, kMotionGoesOn},
         {"lift", "", "lift it from where it is, at the speed that it has", Any, alone<&lift>,
          kMotionGoesOn},

@@ -89,6 +89,10 @@ sim::Point point(const Given &given) {
     return {static_cast<CGFloat>(*left), static_cast<CGFloat>(*top)};
 }
 
+sim::Point namedPoint(const Given &given) {
+    return point({given.name, given.value.substr(0, given.value.find(' '))});
+}
+
 Pull pull(const Given &given) {
     constexpr double kWidest = 320;
     const auto [row, points] = atComma(given.value);

@@ -31,6 +31,8 @@ double realNumber(const Given &given, double least, double most);
 std::chrono::milliseconds duration(const Given &given);
 /// "X,Y", points of the screen.
 sim::Point point(const Given &given);
+/// "X,Y", or "X,Y NAME" with what lies there.
+sim::Point namedPoint(const Given &given);
 
 /// "ROW" or "ROW,POINTS"
 struct Pull {

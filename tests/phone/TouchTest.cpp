@@ -61,7 +61,7 @@ TEST_F(Touch, ReachesEveryTabAndCallsFromIt) {
                          {"down 100,88", "done"},
                          {"cancel", "done"},
                          {"answer", "--answer: no call is shown"},
-                         {"down 100,88", "done"},
+                         {"down 100,88 177 0000 0061", "done"},
                          {"lift", "done"}});
     EXPECT_EQ(number(), "17700000061") << "the topmost row";
     expectEach(session, {{"tab keypad", "a call covers the screen"},
