@@ -8,6 +8,13 @@ import { House } from "./house.js";
 const house = House.forThisFile();
 const number = "177 0000 0061";
 
+/** @param {import("playwright-core").Page} page @param {string} what */
+async function copy(page, what) {
+  await page.getByRole("button", { name: what, exact: true }).click();
+  await page.getByText(`The ${what.toLowerCase()} is copied`).waitFor();
+  return page.evaluate(() => navigator.clipboard.readText());
+}
+
 test("version and screen are changed in the middle, and keep what was done", async (t) => {
   const page = await house.visit(t);
   await keyOf(page, "1").waitFor();
@@ -34,8 +41,7 @@ test("a link that is opened afresh shows the same phone, and undo what was befor
   await press(page, phone(page).getByRole("button", { name: "最近通话" }));
   await phone(page).getByText("诈骗电话 | 37人标记").first().waitFor();
   await page.waitForTimeout(500); // what was done is told a moment after it is seen
-  await page.getByRole("button", { name: "Link" }).click();
-  const link = await page.evaluate(() => navigator.clipboard.readText());
+  const link = await copy(page, "Link");
   const other = await house.visit(t, { link: link.slice(house.address.length) });
   await phone(other).getByText("诈骗电话 | 37人标记").first().waitFor();
   await other.getByRole("button", { name: "Undo" }).click();
@@ -57,15 +63,13 @@ test("a link that a person wrote is read, and one that is none is said to be so"
 test("the copied command shows the same on the command line", async (t) => {
   const page = await house.visit(t);
   await typeMarkedNumber(page);
-  await page.getByRole("button", { name: "Command" }).click();
-  const command = await page.evaluate(() => navigator.clipboard.readText());
+  const command = await copy(page, "Command");
   const program = new URL("../../build/bin", import.meta.url).pathname;
   const tree = execFileSync("sh", ["-c", `PATH="${program}:$PATH"; ${command} --tree`], {
     encoding: "utf8",
   });
   assert.match(tree, /诈骗电话/);
-  await page.getByRole("button", { name: "Test" }).click();
-  const written = await page.evaluate(() => navigator.clipboard.readText());
+  const written = await copy(page, "Test");
   assert.match(written, /"type 1",\n[^]*HasSubstr\("诈骗电话"\)/);
 });
 
