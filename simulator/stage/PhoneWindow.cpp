@@ -13,6 +13,7 @@
 #include "phone/frame/PlainListController.hpp"
 #include "phone/incall/InCallController.hpp"
 #include "phone/recents/PHRecentsViewController.hpp"
+#include "uikit/Foundation.hpp"
 #include "uikit/Renderer.hpp"
 #include "uikit/ViewTree.hpp"
 
