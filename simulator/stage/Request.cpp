@@ -122,11 +122,11 @@ class Reader {
     }
 
     /// What is given is looked at when all of it has been read.
-    void add(const auto &kind, const char *group, std::function<void(const Given &)> take) {
+    void add(const auto &kind, const char *group, const std::function<void(const Given &)> &take) {
         const std::string name = "--" + std::string(kind.name);
         const bool isSwitch = kind.value.empty();
         const auto hear = [=, this](const CLI::results_t &results) {
-            const std::string value = results.front();
+            const std::string &value = results.front();
             if (isSwitch && value != "true") {
                 throw UsageError(name + " is a switch and takes no value");
             }

@@ -19,7 +19,7 @@ namespace {
 }
 
 template <class Number>
-std::optional<Number> parsed(std::string_view text) {
+std::optional<Number> parsed(const std::string &text) {
     Number number{};
     const char *const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
@@ -80,13 +80,11 @@ sim::Point point(const Given &given) {
     const auto [x, y] = atComma(given.value);
     const auto left = parsed<double>(x);
     const auto top = y ? parsed<double>(*y) : std::nullopt;
-    const auto isNear = [](std::optional<double> number) {
-        return number && *number >= -kFarthest && *number <= kFarthest;
-    };
-    if (!isNear(left) || !isNear(top)) {
-        refuse(given, "a point of the screen like 160,284");
+    const auto isNear = [](double number) { return number >= -kFarthest && number <= kFarthest; };
+    if (left && top && isNear(*left) && isNear(*top)) {
+        return {static_cast<CGFloat>(*left), static_cast<CGFloat>(*top)};
     }
-    return {static_cast<CGFloat>(*left), static_cast<CGFloat>(*top)};
+    refuse(given, "a point of the screen like 160,284");
 }
 
 sim::Point namedPoint(const Given &given) {

@@ -36,7 +36,7 @@ sim::Point namedPoint(const Given &given);
 
 /// "ROW" or "ROW,POINTS"
 struct Pull {
-    int row;
+    int row = 1;
     std::optional<double> points;
 };
 Pull pull(const Given &given);
@@ -44,7 +44,7 @@ Pull pull(const Given &given);
 /// "row:N", or points from the top
 struct Place {
     std::optional<int> row;
-    double points;
+    double points = 0;
 };
 Place place(const Given &given);
 
@@ -62,6 +62,7 @@ std::string joinChoices(const std::vector<std::string_view> &choices);
 /// The same of the rows' names.
 std::string joinNames(const auto &rows) {
     std::vector<std::string_view> names;
+    names.reserve(rows.size());
     for (const auto &row : rows) {
         names.push_back(row.name);
     }

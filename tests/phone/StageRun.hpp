@@ -49,8 +49,9 @@ class StageRun : public testing::Test {
     /// Each step is done, or refused with a message that contains what stands beside it.
     static void expectEach(stage::Session &session,
                            std::initializer_list<std::pair<std::string, const char *>> steps) {
-        for (const auto &[step, complaint] : steps) {
-            EXPECT_THAT(refusal([&] { perform(session, {step}); }), testing::HasSubstr(complaint));
+        for (const auto &row : steps) {
+            EXPECT_THAT(refusal([&] { perform(session, {row.first}); }),
+                        testing::HasSubstr(row.second));
         }
     }
 
