@@ -148,7 +148,10 @@ void playAtRandom(const Part &part, const Say &say) {
 
 void playList(const Part &part, const Lines &lines, const Say &say) {
     // What a sanitizer has to say of it was said the first time.
-    dup2(open("/dev/null", O_WRONLY), STDERR_FILENO);
+    if (const int nowhere = open("/dev/null", O_WRONLY); nowhere >= 0) {
+        dup2(nowhere, STDERR_FILENO);
+        close(nowhere);
+    }
     Player player(settingsOf(part));
     size_t next = 0;
     sayOutcome(player.play(
@@ -262,6 +265,7 @@ void run(const stage::Request &request, std::ostream &out) {
     const stage::OwnFolder data = stage::ownData(request.settings.data);
     const std::vector<Part> parts = partsOf(request, data.path());
     std::vector<ChildProcess::Work> works;
+    works.reserve(parts.size());
     for (const Part &part : parts) {
         works.emplace_back([&part](const Say &say) { supervise(part, say); });
     }

@@ -91,7 +91,7 @@ Json cloudAnswer(Random &random, const std::string &number) {
 /// Says of the number what its kind says; nothing of some.
 void describe(Random &random, const std::string &number, Json &world) {
     const Json entry = {{"number", number}, {"label", randomText(random)}};
-    const auto add = [&](const char *section, Json more) {
+    const auto add = [&](const char *section, const Json &more) {
         Json all = entry;
         all.update(more);
         world[section].push_back(std::move(all));

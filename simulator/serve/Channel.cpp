@@ -119,7 +119,7 @@ void ServerEnd::write() {
         ::send(socket_, outgoing_.data(), outgoing_.size(), MSG_DONTWAIT | MSG_NOSIGNAL);
     if (sent > 0) {
         outgoing_.erase(0, static_cast<size_t>(sent));
-    } else if (errno != EAGAIN && errno != EINTR) {
+    } else if (sent < 0 && errno != EAGAIN && errno != EINTR) {
         outgoing_.clear();  // the phone has ended, which read() finds out
     }
     if (outgoing_.empty()) {

@@ -35,7 +35,7 @@ struct Opening {
 };
 
 struct Refusal {
-    size_t line;  // of the turn
+    size_t line = 0;  // of the turn
     std::string why;
 };
 

@@ -11,7 +11,7 @@ class Page {
   public:
     struct File {
         std::string bytes;
-        const char *type;
+        const char *type = "";
     };
 
     /// Reads the files of a folder, not of its subfolders. Throws Failure when there is no page.

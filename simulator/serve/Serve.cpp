@@ -47,8 +47,6 @@ bool isIgnored(int signal) {
 
 fs::path wherever(const fs::path &file) { return file.empty() ? file : fs::absolute(file); }
 
-}  // namespace
-
 void serve(const stage::Request &request, std::ostream &out) {
     for (const fs::path &file : {request.settings.world, request.settings.calls}) {
         if (!file.empty() && !fs::exists(file)) {
@@ -70,6 +68,15 @@ void serve(const stage::Request &request, std::ostream &out) {
     }
     out << "http://127.0.0.1:" << server.port() << "/\n" << std::flush;
     g_main_loop_run(loop.get());
+}
+
+}  // namespace
+
+stage::Command command() {
+    return {"serve",
+            "Show the telephone in a browser, until Ctrl-C.",
+            &serve,
+            {"port", "world", "calls"}};
 }
 
 }  // namespace serve

@@ -1,14 +1,12 @@
 // "phone-simulator serve": the phone in a browser.
 #pragma once
 
-#include <ostream>
-
-#include "stage/Request.hpp"
+#include "stage/Commands.hpp"
 
 namespace serve {
 
-/// With the request's port, world and calls. Prints the address on a line and serves until the user
-/// or the system ends it; nothing is left behind then. Throws Failure.
-void serve(const stage::Request &request, std::ostream &out);
+/// `serve`: prints the address on a line and serves until the user or the system ends it; nothing
+/// is left behind then.
+stage::Command command();
 
 }  // namespace serve

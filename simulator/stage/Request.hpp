@@ -24,7 +24,7 @@ struct Request {
     std::filesystem::path out{};  // of the gallery, or of what the monkey finds
     int seed = 1;                 // of the monkey
     int events = 10000;
-    int port = 8138;              // of the server; 0: any that is free
+    int port = 8138;  // of the server; 0: any that is free
     std::vector<std::string> words{};
 };
 
