@@ -24,6 +24,8 @@ set(ZQDIAL_SHARE_DIR "${CMAKE_BINARY_DIR}/share") # pictures, worlds, the fontco
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 add_link_options(LINKER:--enable-new-dtags)
 string(APPEND CMAKE_SHARED_LINKER_FLAGS " -Wl,--no-undefined")
+# Each library runs its own copies of inline functions, so that an address tells whose code it is.
+string(APPEND CMAKE_SHARED_LINKER_FLAGS " -Wl,-Bsymbolic-functions")
 
 # Linked by every target of ours; third-party headers come in as system headers and stay silent.
 add_library(zqdial-warnings INTERFACE)

@@ -2,42 +2,19 @@
 #include "serve/Serve.hpp"
 
 #include <csignal>
-#include <cstdlib>
-#include <cstring>
+#include <vector>
 
 #include <glib.h>
 
 #include "phone/Resources.hpp"
 #include "serve/Server.hpp"
 #include "stage/Errors.hpp"
+#include "stage/OwnFolder.hpp"
 
 namespace serve {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// For what visitors need; goes with its object.
-class TemporaryFolder {
-  public:
-    TemporaryFolder() {
-        std::string name = (fs::temp_directory_path() / "phone-simulator-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) {
-            throw stage::Failure(name + ": cannot be made: " + std::strerror(errno));
-        }
-        path_ = name;
-    }
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-    TemporaryFolder(const TemporaryFolder &) = delete;
-    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
-
-    const fs::path &path() const { return path_; }
-
-  private:
-    fs::path path_;
-};
 
 bool isIgnored(int signal) {
     struct sigaction action{};
@@ -53,7 +30,8 @@ void serve(const stage::Request &request, std::ostream &out) {
             throw stage::Failure(file.string() + ": there is no such file");
         }
     }
-    const TemporaryFolder folder;
+    const auto folder = stage::OwnFolder::passing(fs::temp_directory_path() / "phone-simulator",
+                                                  "name another with TMPDIR");
     const Server server(
         {"/proc/self/exe", wherever(request.settings.world), wherever(request.settings.calls)},
         phone::installFolder() / "share" / "page", folder.path(),

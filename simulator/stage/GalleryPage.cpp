@@ -21,8 +21,6 @@ namespace fs = std::filesystem;
 using nlohmann::json;
 using Owned = std::unique_ptr<char, decltype(&g_free)>;
 
-constexpr auto kPhonePage = "http://127.0.0.1:8138/";  // where "make phone" serves
-
 std::string shellQuoted(const fs::path &file) {
     return Owned(g_shell_quote(fs::absolute(file).c_str()), g_free).get();
 }
@@ -62,7 +60,8 @@ std::optional<std::string> address(const Scene &scene, const Model &model,
     if (!isSample(settings) || opening.display) {
         return std::nullopt;
     }
-    std::string result = kPhonePage + std::string("#ios=") + std::string(model.ios) +
+    std::string result = "http://127.0.0.1:" + std::to_string(kServedPort) +
+                         "/#ios=" + std::string(model.ios) +
                          "&screen=" + std::string(model.screen) + "&show=both";
     if (opening.screen == ScreenKind::Recents) {
         result += "&step=" + inAddress("tab recents");

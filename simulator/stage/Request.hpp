@@ -15,6 +15,9 @@ namespace stage {
 
 struct Command;
 
+/// Where the phone is served unless another port is named.
+inline constexpr int kServedPort = 8138;
+
 struct Request {
     const Command *command = nullptr;  // null: `text` is to be printed, and that is all
     std::string text{};
@@ -24,7 +27,7 @@ struct Request {
     std::filesystem::path out{};  // of the gallery, or of what the monkey finds
     int seed = 1;                 // of the monkey
     int events = 10000;
-    int port = 8138;  // of the server; 0: any that is free
+    int port = kServedPort;  // of the server; 0: any that is free
     std::vector<std::string> words{};
 };
 

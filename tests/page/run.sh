@@ -18,8 +18,8 @@ fi
 readonly tools=node_modules/.bin page=../../simulator/page
 "$tools/tsc" --project "$page"
 "$tools/tsc" --project .
-"$tools/prettier" --log-level warn --check "$page/*.js" '*.js'
+"$tools/prettier" --log-level warn --check "$page/*.js" ../../simulator/stage/gallery/*.js '*.js'
 if [ $# -eq 0 ]; then
     set -- *.test.js
 fi
-node --test "$@"
+node --test --test-concurrency=2 "$@"

@@ -58,8 +58,11 @@ function picture(look, who) {
 /** @param {Look} look @param {string} who */
 function command(look, who) {
   const code = element("code", {}, look.command);
-  const button = element("button", { type: "button", "aria-label": `Copy the command: ${who}` },
-    "Copy");
+  const button = element(
+    "button",
+    { type: "button", "aria-label": `Copy the command: ${who}` },
+    "Copy",
+  );
   button.addEventListener("click", async () => {
     try {
       await navigator.clipboard.writeText(look.command);
@@ -79,25 +82,43 @@ function caption(look, who) {
 
 /** @param {Shot} shot */
 function sideBySide(shot) {
-  const figures = /** @type {const} */ ([[shot.without, kWithout], [shot.with, kWith]]).map(
-    ([look, who]) =>
-      element("figure", {}, picture(look, who), caption(look, who), command(look, who)),
+  const figures = /** @type {const} */ ([
+    [shot.without, kWithout],
+    [shot.with, kWith],
+  ]).map(([look, who]) =>
+    element("figure", {}, picture(look, who), caption(look, who), command(look, who)),
   );
   return element("div", { class: "pair" }, ...figures);
 }
 
 /** @param {Shot} shot */
 function oneOverTheOther(shot) {
-  const both = element("div", { class: "both" }, picture(shot.without, kWithout),
-    picture(shot.with, kWith));
+  const both = element(
+    "div",
+    { class: "both" },
+    picture(shot.without, kWithout),
+    picture(shot.with, kWith),
+  );
   const slider = element("input", {
-    type: "range", min: "0", max: "100", value: "50", "aria-label": "How far the picture without the add-on reaches",
+    type: "range",
+    min: "0",
+    max: "100",
+    value: "50",
+    "aria-label": "How far the picture without the add-on reaches",
   });
   const cut = () => both.style.setProperty("--at", `${slider.value}%`);
   slider.addEventListener("input", cut);
   cut();
-  return element("figure", { class: "over" }, both, slider, caption(shot.without, kWithout),
-    command(shot.without, kWithout), caption(shot.with, kWith), command(shot.with, kWith));
+  return element(
+    "figure",
+    { class: "over" },
+    both,
+    slider,
+    caption(shot.without, kWithout),
+    command(shot.without, kWithout),
+    caption(shot.with, kWith),
+    command(shot.with, kWith),
+  );
 }
 
 /** @param {Scene} scene @param {Shot} shot */
@@ -106,13 +127,22 @@ function section(scene, shot) {
   if (shot.isSame) {
     title.append(element("span", { class: "same" }, "looks the same with the add-on"));
   }
-  const made = element("section", { id: scene.name }, title,
+  const made = element(
+    "section",
+    { id: scene.name },
+    title,
     element("p", { class: "note" }, scene.note),
-    over.checked ? oneOverTheOther(shot) : sideBySide(shot));
+    over.checked ? oneOverTheOther(shot) : sideBySide(shot),
+  );
   if (shot.address) {
-    made.append(element("p", { class: "live" },
-      element("a", { href: shot.address, target: "phone" }, "Try it in the phone"),
-      " while make phone runs"));
+    made.append(
+      element(
+        "p",
+        { class: "live" },
+        element("a", { href: shot.address, target: "phone" }, "Try it in the phone"),
+        " while make phone runs",
+      ),
+    );
   }
   return made;
 }
@@ -120,8 +150,16 @@ function section(scene, shot) {
 /** @param {Scene} scene @param {Shot} shot */
 function isWanted(scene, shot) {
   const words = search.value.toLowerCase().split(/\s+/);
-  const text = [scene.title, scene.note, scene.name, shot.with.says, shot.without.says,
-    shot.with.command].join(" ").toLowerCase();
+  const text = [
+    scene.title,
+    scene.note,
+    scene.name,
+    shot.with.says,
+    shot.without.says,
+    shot.with.command,
+  ]
+    .join(" ")
+    .toLowerCase();
   return !(changed.checked && shot.isSame) && words.every((word) => text.includes(word));
 }
 
